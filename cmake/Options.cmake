@@ -1,0 +1,46 @@
+# What every target of the project is compiled with; a folder adds its target through corvellane_library().
+
+add_library(corvellane-options INTERFACE)
+target_compile_features(corvellane-options INTERFACE cxx_std_20)
+target_include_directories(corvellane-options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(corvellane-options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+
+option(CORVELLANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+if(CORVELLANE_SANITIZE)
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
+    target_compile_options(corvellane-options INTERFACE ${sanitizers} -fsanitize=fuzzer-no-link -fno-omit-frame-pointer)
+    target_link_options(corvellane-options INTERFACE ${sanitizers})
+endif()
+
+# corvellane_library(NAME SOURCES file... LINKS target...): a folder's target, header-only when it has no sources.
+function(corvellane_library name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+    if(arg_SOURCES)
+        add_library(${name} STATIC ${arg_SOURCES})
+        target_link_libraries(${name} PUBLIC corvellane-options ${arg_LINKS})
+    else()
+        add_library(${name} INTERFACE)
+        target_link_libraries(${name} INTERFACE corvellane-options ${arg_LINKS})
+    endif()
+endfunction()
+
+# corvellane_test(NAME SOURCES file... LINKS target...): a GoogleTest program and the ctest that runs it.
+function(corvellane_test name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name}-tests ${arg_SOURCES})
+    target_link_libraries(${name}-tests PRIVATE corvellane-options ${arg_LINKS} GTest::gmock GTest::gtest_main)
+    add_test(NAME ${name} COMMAND ${name}-tests)
+endfunction()
+
+# corvellane_fuzzer(NAME SOURCES file... LINKS target... ARGUMENTS argument...): a libFuzzer program and a short
+# run of it as a ctest; only where the sanitizers and with them libFuzzer are switched on.
+function(corvellane_fuzzer name)
+    if(NOT CORVELLANE_SANITIZE)
+        return()
+    endif()
+    cmake_parse_arguments(arg "" "" "SOURCES;LINKS;ARGUMENTS" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE corvellane-options ${arg_LINKS})
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+    add_test(NAME ${name} COMMAND ${name} ${arg_ARGUMENTS})
+endfunction()
