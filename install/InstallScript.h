@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace corvellane {
+
+/// The folders that an installation writes to; each ends with "/".
+struct HostPaths {
+    /// Receives every element.
+    std::string application;
+    /// Receives links to the video elements.
+    std::string video;
+    /// Receives links to the photo elements.
+    std::string photo;
+    /// Receives the Lightroom elements' presets and a link to their plug-in.
+    std::string lightroom;
+};
+
+/// The whole automation script that installs the elements, in their order; ends without a line feed.
+///
+/// Every change is one shell command with administrator privileges; the first that fails ends the script, which then
+/// gives that command's message, and else "Ok". Of the two folders for links only that of the kind that comes first
+/// is created. Element paths have no trailing "/". Paths may hold any byte but NUL: they are escaped so that the
+/// commands get them unchanged.
+std::string composeInstallScript(const HostPaths& hosts, const std::vector<std::string>& elements);
+
+} // namespace corvellane

@@ -1,0 +1,50 @@
+#include "platform/script/ErrorInformation.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace corvellane {
+namespace {
+
+bool isPlain(std::string_view value)
+{
+    return !value.empty() && std::all_of(value.begin(), value.end(), [](char character) {
+        return (character >= '0' && character <= '9') || (character >= 'a' && character <= 'z')
+            || (character >= 'A' && character <= 'Z');
+    });
+}
+
+std::string quoted(std::string_view value)
+{
+    std::string text = "\"";
+    for (const char character : value) {
+        if (character == '"' || character == '\\') {
+            text += '\\';
+        }
+        text += character == '\n' ? std::string("\\n") : std::string(1, character);
+    }
+    return text + '"';
+}
+
+std::string entry(std::string_view key, std::string_view value)
+{
+    std::string line = "    ";
+    line += key;
+    line += " = ";
+    line += isPlain(value) ? std::string(value) : quoted(value);
+    return line + ";\n";
+}
+
+} // namespace
+
+std::string describeError(const ScriptError& error, SourceRange range)
+{
+    const std::string rangeText
+        = "NSRange: {" + std::to_string(range.start) + ", " + std::to_string(range.length) + "}";
+    return "{\n" + entry("NSAppleScriptErrorBriefMessage", error.message)
+        + entry("NSAppleScriptErrorMessage", error.message)
+        + entry("NSAppleScriptErrorNumber", std::to_string(error.number)) + entry("NSAppleScriptErrorRange", rangeText)
+        + "}";
+}
+
+} // namespace corvellane

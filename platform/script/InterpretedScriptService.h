@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/ScriptService.h"
+#include "platform/script/Interpreter.h"
+
+namespace corvellane {
+
+/// The script service of systems that have none of their own: compiles and interprets the language of the install
+/// script and of the automation probe. A script that does not compile, and an error that no `try` block catches, give
+/// error information and no result.
+class InterpretedScriptService : public ScriptService {
+public:
+    explicit InterpretedScriptService(const ScriptHost& host)
+        : host_(host)
+    {
+    }
+
+    std::unique_ptr<Script> create(std::string source) override;
+
+private:
+    ScriptHost host_;
+};
+
+} // namespace corvellane

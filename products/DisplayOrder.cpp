@@ -1,0 +1,66 @@
+#include "products/DisplayOrder.h"
+
+#include <utf8proc.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+
+namespace corvellane {
+namespace {
+
+struct Entry {
+    std::string key;
+    const std::string* location;
+};
+
+bool isAscii(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
+/// UTF-8 sorts by its bytes as its scalar values do.
+std::string sortKey(std::string_view name)
+{
+    if (isAscii(name)) {
+        return std::string(name);
+    }
+    utf8proc_uint8_t* composed = nullptr;
+    const auto length = utf8proc_map(reinterpret_cast<const utf8proc_uint8_t*>(name.data()),
+        static_cast<utf8proc_ssize_t>(name.size()), &composed,
+        static_cast<utf8proc_option_t>(UTF8PROC_STABLE | UTF8PROC_COMPOSE));
+    const std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> owner(composed, &std::free);
+    if (length < 0) {
+        return std::string(name);
+    }
+    return {reinterpret_cast<const char*>(composed), static_cast<std::size_t>(length)};
+}
+
+} // namespace
+
+std::string_view lastPathComponent(std::string_view path)
+{
+    while (path.size() > 1 && path.ends_with('/')) {
+        path.remove_suffix(1);
+    }
+    return path.substr(path.rfind('/') + 1);
+}
+
+std::vector<std::string> inDisplayOrder(const ProductSelection& selection)
+{
+    std::vector<Entry> entries;
+    entries.reserve(selection.size());
+    for (const auto& product : selection) {
+        entries.push_back({sortKey(lastPathComponent(product.first)), &product.first});
+    }
+    std::stable_sort(
+        entries.begin(), entries.end(), [](const Entry& left, const Entry& right) { return left.key < right.key; });
+    std::vector<std::string> locations;
+    locations.reserve(entries.size());
+    for (const Entry& entry : entries) {
+        locations.push_back(*entry.location);
+    }
+    return locations;
+}
+
+} // namespace corvellane
