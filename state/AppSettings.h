@@ -78,6 +78,8 @@ public:
     void copyLogDetails();
     void openAutomationSettings();
 
+    /// Where an installation writes to.
+    HostPaths hostPaths() const;
     /// Composes the script for the ticked products, prints it and runs it.
     void installSelectedProducts();
     /// The paths of the ticked products' elements, product by product in display order.
@@ -94,7 +96,6 @@ private:
     void applyOutcome(const ScriptOutcome& outcome);
     void applyProbe(const ScriptExecution& execution);
     void printFailure(const std::string& description);
-    HostPaths hostPaths() const;
 
     Platform platform_;
     Product product_;

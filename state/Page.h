@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <string_view>
 
 namespace corvellane {
 
@@ -19,6 +20,12 @@ constexpr std::array allPages{Page::intro, Page::license, Page::products, Page::
 constexpr int rawValue(Page page)
 {
     return static_cast<int>(page);
+}
+
+constexpr std::string_view nameOf(Page page)
+{
+    constexpr std::array<std::string_view, allPages.size()> names{"intro", "license", "products", "install", "summary"};
+    return names[static_cast<std::size_t>(page)];
 }
 
 /// Absent when no page has this number.

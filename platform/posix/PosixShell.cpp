@@ -5,7 +5,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
-#include <sys/pidfd.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 
 #include <algorithm>
@@ -90,7 +90,8 @@ void drain(FileDescriptor& stream, std::string& kept)
 /// Returns when the process has ended or, where that cannot be told, when both streams have.
 void drainUntilEnd(pid_t process, Pipe& output, Pipe& errors, CommandResult& result)
 {
-    const FileDescriptor ended(pidfd_open(process, 0));
+    // The C library's header declares pidfd_open() without C linkage.
+    const FileDescriptor ended(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
     bool running = true;
     while (running && (ended.isOpen() || output.readEnd.isOpen() || errors.readEnd.isOpen())) {
         std::array<pollfd, 3> events{

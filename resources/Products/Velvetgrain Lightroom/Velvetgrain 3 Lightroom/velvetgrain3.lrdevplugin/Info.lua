@@ -1,0 +1,5 @@
+return {
+    LrSdkVersion = 3.0,
+    LrToolkitIdentifier = "example.corvellane.velvetgrain3",
+    LrPluginName = "Corvellane Velvetgrain 3",
+}

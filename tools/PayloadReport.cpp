@@ -1,0 +1,103 @@
+#include "tools/PayloadReport.h"
+
+#include "install/ElementKind.h"
+#include "products/Discovery.h"
+#include "products/DisplayOrder.h"
+#include "tools/PrintableText.h"
+
+#include <iterator>
+#include <utility>
+
+namespace corvellane {
+namespace {
+
+std::vector<std::string> describeElement(const std::string& path, const HostPaths& hosts)
+{
+    switch (kindOf(path)) {
+    case ElementKind::lightroom: {
+        const LightroomGeneration generation = generationOf(path);
+        return {"kind: Lightroom", "target folder: " + printable(hosts.lightroom),
+            "digit: " + std::string(generation.digit),
+            "preset identifier: " + std::string(generation.presetIdentifier)};
+    }
+    case ElementKind::video: {
+        const std::string suffix(supersededSuffix(lastPathComponent(path)));
+        return {"kind: video", "target folder: " + printable(hosts.video),
+            "supersedes: Glintmotion" + suffix + ".plugin, Velvetgrain" + suffix + ".plugin"};
+    }
+    default:
+        return {"kind: photo", "target folder: " + printable(hosts.photo)};
+    }
+}
+
+class Reporter {
+public:
+    Reporter(const FileListing& files, const HostPaths& hosts)
+        : files_(files)
+        , hosts_(hosts)
+    {
+    }
+
+    void reportProductsFolder(const std::string& folder)
+    {
+        warn(warnAboutName(folder));
+        warn(warnAboutEntries(files_, folder));
+    }
+
+    void reportProduct(const std::string& location)
+    {
+        report_.lines.push_back(printable(lastPathComponent(location)));
+        warn(warnAboutName(location));
+        warn(warnAboutEntries(files_, location));
+        const auto found = foldersIn(files_, location);
+        if (const auto* elements = std::get_if<std::vector<std::string>>(&found)) {
+            warn(warnAboutMissingElements(location, *elements));
+            for (const std::string& element : *elements) {
+                reportElement(element);
+            }
+        }
+    }
+
+    PayloadReport finish()
+    {
+        warn(warnAboutUncreatedFolder(hosts_, elements_));
+        return std::move(report_);
+    }
+
+private:
+    void reportElement(const std::string& path)
+    {
+        elements_.push_back(path);
+        report_.lines.push_back("  " + printable(lastPathComponent(path)));
+        for (const std::string& line : describeElement(path, hosts_)) {
+            report_.lines.push_back("    " + line);
+        }
+        warn(warnAboutName(path));
+        warn(warnAboutElement(path));
+    }
+
+    void warn(PayloadWarnings warnings)
+    {
+        std::move(warnings.begin(), warnings.end(), std::back_inserter(report_.warnings));
+    }
+
+    const FileListing& files_;
+    const HostPaths& hosts_;
+    std::vector<std::string> elements_;
+    PayloadReport report_;
+};
+
+} // namespace
+
+PayloadReport reportPayload(const FileListing& files, const std::string& productsFolder,
+    const ProductSelection& selection, const HostPaths& hosts)
+{
+    Reporter reporter(files, hosts);
+    reporter.reportProductsFolder(productsFolder);
+    for (const std::string& location : inDisplayOrder(onlySelected(selection))) {
+        reporter.reportProduct(location);
+    }
+    return reporter.finish();
+}
+
+} // namespace corvellane

@@ -1,0 +1,104 @@
+#include "tools/RehearseOptions.h"
+
+#include "tools/PrintableText.h"
+
+#include <filesystem>
+
+namespace corvellane {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string absolutePath(const std::string& path)
+{
+    std::error_code error;
+    std::string absolute = fs::absolute(path, error).lexically_normal().native();
+    while (absolute.size() > 1 && absolute.ends_with('/')) {
+        absolute.pop_back();
+    }
+    return absolute;
+}
+
+/// Takes the arguments one by one; the first mistake is kept and ends them.
+class OptionReader {
+public:
+    explicit OptionReader(const std::vector<std::string>& arguments)
+        : next_(arguments.begin())
+        , end_(arguments.end())
+    {
+    }
+
+    std::variant<RehearseOptions, UsageError> read()
+    {
+        while (next_ != end_ && error_.empty()) {
+            readArgument(*next_++);
+        }
+        if (error_.empty()) {
+            check();
+        }
+        if (!error_.empty()) {
+            return UsageError{error_};
+        }
+        return options_;
+    }
+
+private:
+    void readArgument(const std::string& argument)
+    {
+        if (argument == "--script") {
+            options_.script = true;
+        } else if (argument == "--into") {
+            options_.into = absolutePath(valueOf(argument));
+        } else if (argument == "--select") {
+            options_.select.push_back(valueOf(argument));
+        } else if (argument == "--" && next_ != end_) {
+            readProductsFolder(*next_++);
+        } else if (argument.starts_with('-')) {
+            error_ = "unknown option " + quotedPrintable(argument);
+        } else {
+            readProductsFolder(argument);
+        }
+    }
+
+    std::string valueOf(const std::string& option)
+    {
+        if (next_ == end_ || next_->empty()) {
+            error_ = option + " needs a value";
+            return {};
+        }
+        return *next_++;
+    }
+
+    void readProductsFolder(const std::string& argument)
+    {
+        if (!options_.productsFolder.empty()) {
+            error_ = "one products folder is enough: " + quotedPrintable(argument);
+        }
+        options_.productsFolder = absolutePath(argument);
+    }
+
+    void check()
+    {
+        std::error_code error;
+        if (options_.productsFolder.empty()) {
+            error_ = "the products folder is missing; usage: "
+                     "rehearse [--script] [--into FOLDER] [--select NAME]... PRODUCTS";
+        } else if (!fs::is_directory(options_.productsFolder, error)) {
+            error_ = quotedPrintable(options_.productsFolder) + " is no folder";
+        }
+    }
+
+    std::vector<std::string>::const_iterator next_;
+    std::vector<std::string>::const_iterator end_;
+    RehearseOptions options_;
+    std::string error_;
+};
+
+} // namespace
+
+std::variant<RehearseOptions, UsageError> parseOptions(const std::vector<std::string>& arguments)
+{
+    return OptionReader(arguments).read();
+}
+
+} // namespace corvellane

@@ -1,0 +1,107 @@
+#include "platform/posix/StandardOutput.h"
+#include "products/DisplayOrder.h"
+#include "tools/FolderTree.h"
+#include "tools/PayloadReport.h"
+#include "tools/PrintableText.h"
+#include "tools/Rehearsal.h"
+#include "tools/RehearseOptions.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace corvellane {
+namespace {
+
+constexpr int allWell = 0;
+constexpr int notWell = 1;
+constexpr int wrongUsage = 2;
+
+int complain(const std::string& message)
+{
+    std::fprintf(stderr, "rehearse: %s\n", message.c_str());
+    return wrongUsage;
+}
+
+/// Ticks the named products and no others; gives a name that no product has.
+std::optional<std::string> select(AppSettings& settings, const std::vector<std::string>& names)
+{
+    const ProductSelection products = settings.products.get();
+    const auto hasName = [](const std::string& name) {
+        return [&name](const auto& product) { return lastPathComponent(product.first) == name; };
+    };
+    for (const std::string& name : names) {
+        if (std::none_of(products.begin(), products.end(), hasName(name))) {
+            return name;
+        }
+    }
+    for (const auto& product : products) {
+        const auto isProduct = [&](const std::string& name) { return hasName(name)(product); };
+        if (!names.empty() && std::none_of(names.begin(), names.end(), isProduct)) {
+            settings.toggleProduct(product.first);
+        }
+    }
+    return std::nullopt;
+}
+
+int showScript(AppSettings& settings)
+{
+    const std::string script = composeInstallScript(settings.hostPaths(), settings.elementsToCopy());
+    std::fwrite(script.data(), 1, script.size(), stdout);
+    return allWell;
+}
+
+int showPayload(AppSettings& settings, const std::string& productsFolder, Console& console)
+{
+    const auto report
+        = reportPayload(PosixFileListing(), productsFolder, settings.products.get(), settings.hostPaths());
+    for (const std::string& line : report.lines) {
+        console.print(line);
+    }
+    for (const PayloadWarning& warning : report.warnings) {
+        console.print("warning: " + printable(warning.path) + ": " + printable(warning.message));
+    }
+    return report.warnings.empty() ? allWell : notWell;
+}
+
+int install(Rehearsal& rehearsal, const std::string& into, Console& console)
+{
+    rehearsal.install();
+    const AppSettings& settings = rehearsal.settings();
+    const bool withErrors = settings.completedWithErrors.get();
+    console.print("page: " + std::string(nameOf(settings.currentPage.get())));
+    console.print(std::string("completedWithErrors: ") + (withErrors ? "true" : "false"));
+    console.print("log: " + settings.logDetailsStr);
+    for (const std::string& line : describeTree(into)) {
+        console.print(line);
+    }
+    return settings.currentPage.get() == Page::summary && !withErrors ? allWell : notWell;
+}
+
+int rehearse(const std::vector<std::string>& arguments)
+{
+    const auto parsed = parseOptions(arguments);
+    if (const auto* error = std::get_if<UsageError>(&parsed)) {
+        return complain(error->message);
+    }
+    const auto& options = std::get<RehearseOptions>(parsed);
+    StandardOutput console;
+    Rehearsal rehearsal(options.productsFolder, options.into.value_or(""), console);
+    if (const auto unknown = select(rehearsal.settings(), options.select)) {
+        return complain("there is no product " + quotedPrintable(*unknown));
+    }
+    if (options.script) {
+        return showScript(rehearsal.settings());
+    }
+    if (options.into) {
+        return install(rehearsal, *options.into, console);
+    }
+    return showPayload(rehearsal.settings(), options.productsFolder, console);
+}
+
+} // namespace
+} // namespace corvellane
+
+int main(int count, char** arguments)
+{
+    return corvellane::rehearse({arguments + 1, arguments + count});
+}
