@@ -3,6 +3,7 @@
 #include "install/ElementKind.h"
 #include "install/ScriptEscapes.h"
 #include "products/DisplayOrder.h"
+#include "tools/PrintableText.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -69,8 +70,8 @@ PayloadWarnings warnAboutLightroomContents(const std::string& path)
     for (const std::string& needed :
         {"Corvellane Velvetgrain " + digit, "velvetgrain" + digit + ".lrdevplugin", "Velvetgrain" + digit + ".app"}) {
         std::error_code error;
-        if (!fs::is_directory(path + "/" + needed, error)) {
-            warnings.push_back({path, "lacks the folder “" + needed + "”, which the script needs"});
+        if (!fs::is_directory(fs::path(path) / needed, error)) {
+            warnings.push_back({path, "lacks the folder " + quotedPrintable(needed) + ", which the script needs"});
         }
     }
     return warnings;
