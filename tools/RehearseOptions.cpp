@@ -9,10 +9,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Links and ".." stay as they are: only the system knows where they lead.
 std::string absolutePath(const std::string& path)
 {
     std::error_code error;
-    std::string absolute = fs::absolute(path, error).lexically_normal().native();
+    std::string absolute = fs::absolute(path, error).native();
     while (absolute.size() > 1 && absolute.ends_with('/')) {
         absolute.pop_back();
     }
@@ -48,7 +49,8 @@ private:
         if (argument == "--script") {
             options_.script = true;
         } else if (argument == "--into") {
-            options_.into = absolutePath(valueOf(argument));
+            const std::string folder = absolutePath(valueOf(argument));
+            options_.into = folder == "/" ? "" : folder;
         } else if (argument == "--select") {
             options_.select.push_back(valueOf(argument));
         } else if (argument == "--" && next_ != end_) {

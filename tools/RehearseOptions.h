@@ -10,7 +10,7 @@ namespace corvellane {
 /// What the command line asks of a rehearsal.
 struct RehearseOptions {
     bool script = false;
-    /// An absolute path without a trailing "/", with which every host folder begins.
+    /// An absolute path without a trailing "/", with which every host folder begins; empty for the root folder.
     std::optional<std::string> into;
     /// The names of the products to tick; all of them when there is none.
     std::vector<std::string> select;

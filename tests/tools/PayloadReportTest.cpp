@@ -86,9 +86,9 @@ TEST(RehearseOptions, areReadOrRefusedWithOneLine)
 {
     const ScratchFolder scratch;
     const auto parsed
-        = parseOptions({"--into", scratch.path() + "/x/../y/", "--select", "-a", "--script", "--", scratch.path()});
+        = parseOptions({"--into", scratch.path() + "/x/../y//", "--select", "-a", "--script", "--", scratch.path()});
     const auto& options = std::get<RehearseOptions>(parsed);
-    EXPECT_EQ(options.into, scratch.path() + "/y");
+    EXPECT_EQ(options.into, scratch.path() + "/x/../y");
     EXPECT_EQ(options.select, std::vector<std::string>{"-a"});
     EXPECT_TRUE(options.script);
     EXPECT_EQ(options.productsFolder, scratch.path());
@@ -99,7 +99,7 @@ TEST(RehearseOptions, areReadOrRefusedWithOneLine)
     EXPECT_EQ(errorOf({"--quick", "/"}), "unknown option “--quick”");
     EXPECT_EQ(errorOf({"/", "--into"}), "--into needs a value");
     EXPECT_EQ(errorOf({"/", "/usr"}), "one products folder is enough: “/usr”");
-    EXPECT_EQ(errorOf({scratch.path() + "/gone"}), "“" + scratch.path() + "/gone” is no folder");
+    EXPECT_EQ(errorOf({scratch.path() + "/gone/"}), "“" + scratch.path() + "/gone” is no folder");
     EXPECT_THAT(errorOf({}), testing::StartsWith("the products folder is missing; usage: rehearse "));
 }
 

@@ -88,7 +88,9 @@ TEST(RealInstall, installsPhotoAndVideoElementsOfAnyName)
         for (const std::string kind : {"photo", "Tessellane"}) {
             RealInstall install(kind, name);
             ASSERT_EQ(install.run(), "") << name;
-            EXPECT_EQ(describeTree(install.installed()), describeTree(install.elementPath)) << name;
+            EXPECT_EQ(describeTree(install.installed(), install.installed()),
+                describeTree(install.elementPath, install.elementPath))
+                << name;
             const std::string links = kind == "photo" ? install.photoFolder() : install.videoFolder();
             EXPECT_EQ(fs::read_symlink(links + name).native(), install.installed()) << name;
         }
@@ -172,7 +174,8 @@ protected:
     /// Paths, types and links, with one folder's name for the other's.
     std::vector<std::string> treeOf(const std::string& folder)
     {
-        auto lines = describeTree(scratch.path() + "/" + folder);
+        const std::string path = scratch.path() + "/" + folder;
+        auto lines = describeTree(path, path);
         for (std::string& line : lines) {
             if (const auto at = line.find("/" + folder + "/"); at != std::string::npos) {
                 line.replace(at, folder.size() + 2, "/…/");

@@ -21,7 +21,7 @@ protected:
         return std::get<CommandResult>(std::move(result));
     }
 
-    std::vector<std::string> tree() { return describeTree(scratch.path()); }
+    std::vector<std::string> tree() { return describeTree(scratch.path(), scratch.path()); }
 
     ScratchFolder scratch;
 };
