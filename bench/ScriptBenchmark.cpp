@@ -39,7 +39,7 @@ struct SilentFileManager : FileManager {
 void runScriptOfCommands(benchmark::State& state)
 {
     PosixShell shell(realUser());
-    DirectPrompt prompt(realUser(), DirectPrompt::Use::rehearsal);
+    DirectPrompt prompt(realUser());
     SilentFileManager fileManager;
     const FakeFolders folders;
     InterpretedScriptService service({shell, prompt, fileManager, folders});

@@ -1,5 +1,4 @@
 #include "platform/posix/PosixShell.h"
-#include "platform/posix/DirectPrompt.h"
 
 #include "tests/ScratchFolder.h"
 
@@ -72,14 +71,6 @@ TEST_F(PosixShellTest, saysWhyACommandCannotBeRun)
 {
     const auto result = shell.run(": " + std::string(200000, 'x'));
     EXPECT_EQ(std::get<ScriptError>(result).message, "The command could not be run: Argument list too long.");
-}
-
-TEST_F(PosixShellTest, givesAdministratorRightsToRootAndToRehearsals)
-{
-    DirectPrompt forRehearsal({"someone", "/"}, DirectPrompt::Use::rehearsal);
-    EXPECT_TRUE(std::holds_alternative<std::unique_ptr<Shell>>(forRehearsal.authorize()));
-    DirectPrompt forInstall({"someone", "/"}, DirectPrompt::Use::install);
-    EXPECT_EQ(std::holds_alternative<std::unique_ptr<Shell>>(forInstall.authorize()), geteuid() == 0);
 }
 
 } // namespace
