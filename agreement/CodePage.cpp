@@ -132,10 +132,10 @@ std::unique_ptr<CodePage> CodePage::open(int number)
 CodePage::CodePage(std::u32string_view charactersFromSpace)
 {
     singles_.fill(replacementOfSymbols);
-    for (char32_t code = 0; code < ' '; ++code) {
+    for (char32_t code = 0; code < 0x20; ++code) {
         singles_[code] = code;
     }
-    std::copy(charactersFromSpace.begin(), charactersFromSpace.end(), singles_.begin() + ' ');
+    std::copy(charactersFromSpace.begin(), charactersFromSpace.end(), singles_.begin() + 0x20);
 }
 
 CodePage::CodePage(void* converter)
