@@ -27,8 +27,12 @@ int hexDigit(char byte)
     return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 
-bool startsKnownWord(std::string_view bytes)
+/// What could follow a backslash: a word that the reader knows, or a byte in hexadecimal.
+bool startsControl(std::string_view bytes)
 {
+    if (bytes.starts_with('\'')) {
+        return bytes.size() > 2 && hexDigit(bytes[1]) >= 0 && hexDigit(bytes[2]) >= 0;
+    }
     std::size_t length = 0;
     while (length < bytes.size() && isLetter(bytes[length])) {
         ++length;
@@ -149,13 +153,13 @@ RtfToken RtfLexer::lexByte()
 }
 
 /// Writers that know the code page leave a trail byte bare; others put a backslash before it or write it in
-/// hexadecimal. After two backslashes only what follows can tell: a control word, or text.
+/// hexadecimal. After two backslashes only what follows can tell: a control, or text.
 int RtfLexer::peekTrailByte() const
 {
     if (at(0, '{') || at(0, '}')) {
         return bytes_[position_];
     }
-    const bool written = at(1, '\'') || (at(1, '\\') && !startsKnownWord(bytes_.substr(position_ + 2)));
+    const bool written = at(1, '\'') || (at(1, '\\') && !startsControl(bytes_.substr(position_ + 2)));
     return at(0, '\\') && !written ? '\\' : -1;
 }
 
