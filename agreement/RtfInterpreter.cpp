@@ -192,7 +192,7 @@ void RtfInterpreter::onText(const RtfToken& token)
 
 void RtfInterpreter::putFontNames(std::string_view bytes, bool ascii)
 {
-    for (std::size_t end = bytes.find(';'); end != bytes.npos; end = bytes.find(';')) {
+    for (std::size_t end = bytes.find(';'); end != std::string_view::npos; end = bytes.find(';')) {
         putText(bytes.substr(0, end), ascii);
         fonts_.finishEntry();
         sinkChanged_ = true;
@@ -263,7 +263,7 @@ void RtfInterpreter::findSink()
         sink_ = &fonts_.entryName();
     } else if (group_.destination == Destination::fieldInstruction) {
         sink_ = &instruction_;
-    } else if (group_.destination == Destination::body && !character_[CharacterFlag::hidden]) {
+    } else if (group_.destination == Destination::body && !character_.is(CharacterFlag::hidden)) {
         if (builder_.beginRun(characterIndex(), fonts_)) {
             decoder_.breakText();
         }
