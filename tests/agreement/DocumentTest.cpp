@@ -145,8 +145,8 @@ TEST_F(DocumentTest, saysThatPermissionIsMissing)
 
 TEST_F(DocumentTest, forgivesWhatStandsAroundTheOuterGroup)
 {
-    for (const std::string before : {"", " \r\n\t", "\xEF\xBB\xBF", "\xEF\xBB\xBF\n", " \xEF\xBB\xBF "}) {
-        for (const std::string after : {"", "\n", "}", "{\\b", std::string(3, '\0').c_str()}) {
+    for (const std::string& before : Lines{"", " \r\n\t", "\xEF\xBB\xBF", "\xEF\xBB\xBF\n", " \xEF\xBB\xBF "}) {
+        for (const std::string& after : Lines{"", "\n", "}", "{\\b", std::string(3, '\0')}) {
             resources.write("Terms.rtf", before + "{\\rtf1 a}" + after);
             Document document(resources, console);
             document.load("Terms");
