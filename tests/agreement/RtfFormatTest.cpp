@@ -86,7 +86,7 @@ TEST(RtfFormat, startsWithHelveticaAndIsPlainInTheFirstFont)
     EXPECT_FALSE(plain.bold || plain.italic || plain.underline || plain.strike || plain.color || plain.background);
     EXPECT_EQ(plain.size, 12);
     EXPECT_EQ(plain.baselineOffset, 0);
-    EXPECT_EQ(plain.script, Script::normal);
+    EXPECT_EQ(plain.script, VerticalPosition::normal);
     EXPECT_EQ(plain.capitals, Capitals::asTyped);
 }
 
