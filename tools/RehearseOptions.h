@@ -9,6 +9,11 @@ namespace corvellane {
 
 /// What the command line asks of a rehearsal.
 struct RehearseOptions {
+    enum class Subject { products, agreement, agreementText };
+
+    Subject subject = Subject::products;
+    /// The file of the two subjects that are an agreement.
+    std::string agreement;
     bool script = false;
     /// An absolute path without a trailing "/", with which every host folder begins; empty for the root folder.
     std::optional<std::string> into;

@@ -1,5 +1,6 @@
 #include "platform/posix/StreamConsole.h"
 #include "products/DisplayOrder.h"
+#include "tools/AgreementReport.h"
 #include "tools/FolderTree.h"
 #include "tools/PayloadReport.h"
 #include "tools/PrintableText.h"
@@ -87,13 +88,8 @@ int install(Rehearsal& rehearsal, const std::string& into, Console& console)
     return settings.currentPage.get() == Page::summary && !withErrors ? allWell : notWell;
 }
 
-int rehearse(const std::vector<std::string>& arguments)
+int rehearseProducts(const RehearseOptions& options)
 {
-    const auto parsed = parseOptions(arguments);
-    if (const auto* error = std::get_if<UsageError>(&parsed)) {
-        return complain(error->message);
-    }
-    const auto& options = std::get<RehearseOptions>(parsed);
     // The script stands alone on standard output.
     StreamConsole console(options.script ? stderr : stdout);
     Rehearsal rehearsal(options.productsFolder, options.into.value_or(""), console);
@@ -107,6 +103,21 @@ int rehearse(const std::vector<std::string>& arguments)
         return install(rehearsal, *options.into, console);
     }
     return showPayload(rehearsal.settings(), options.productsFolder, console);
+}
+
+int rehearse(const std::vector<std::string>& arguments)
+{
+    const auto parsed = parseOptions(arguments);
+    if (const auto* error = std::get_if<UsageError>(&parsed)) {
+        return complain(error->message);
+    }
+    const auto& options = std::get<RehearseOptions>(parsed);
+    if (options.subject == RehearseOptions::Subject::products) {
+        return rehearseProducts(options);
+    }
+    StreamConsole console(stdout);
+    const bool asText = options.subject == RehearseOptions::Subject::agreementText;
+    return reportAgreement(options.agreement, asText ? AgreementForm::plainText : AgreementForm::json, console);
 }
 
 } // namespace
