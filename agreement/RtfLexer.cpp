@@ -18,13 +18,19 @@ bool isDigit(char byte)
     return byte >= '0' && byte <= '9';
 }
 
+constexpr std::array<std::int8_t, 256> hexDigits = [] {
+    std::array<std::int8_t, 256> values{};
+    values.fill(-1);
+    for (std::int8_t value = 0; value < 16; ++value) {
+        values[static_cast<unsigned char>("0123456789abcdef"[value])] = value;
+        values[static_cast<unsigned char>("0123456789ABCDEF"[value])] = value;
+    }
+    return values;
+}();
+
 int hexDigit(char byte)
 {
-    if (isDigit(byte)) {
-        return byte - '0';
-    }
-    const char lower = static_cast<char>(byte | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+    return hexDigits[static_cast<unsigned char>(byte)];
 }
 
 /// What could follow a backslash: a word that the reader knows, or a byte in hexadecimal.
@@ -87,7 +93,7 @@ RtfToken RtfLexer::lexControl()
     if (isLetter(bytes_[position_])) {
         return lexWord();
     }
-    return bytes_[position_] == '\'' ? lexByte() : lexSymbol();
+    return bytes_[position_] == '\'' ? lexBytes() : lexSymbol();
 }
 
 RtfToken RtfLexer::lexWord()
@@ -141,15 +147,32 @@ RtfToken RtfLexer::lexSymbol()
     return token;
 }
 
-RtfToken RtfLexer::lexByte()
+/// The byte written at the position of two digits; -1 where there are none.
+int RtfLexer::hexByteAt(std::size_t position) const
 {
-    ++position_;
-    int value = 0;
-    int digits = 0;
-    for (; digits < 2 && position_ < bytes_.size() && hexDigit(bytes_[position_]) >= 0; ++digits, ++position_) {
-        value = value * 16 + hexDigit(bytes_[position_]);
+    if (bytes_.size() < 2 || position > bytes_.size() - 2) {
+        return -1;
     }
-    return digits < 2 ? RtfToken{} : RtfToken{.kind = RtfToken::Kind::byte, .parameter = value};
+    const int high = hexDigit(bytes_[position]);
+    const int low = hexDigit(bytes_[position + 1]);
+    return high < 0 || low < 0 ? -1 : high * 16 + low;
+}
+
+/// Stands on the apostrophe. Of a byte without its digits nothing is left, not even a single digit.
+RtfToken RtfLexer::lexBytes()
+{
+    std::size_t count = 0;
+    for (int value = hexByteAt(position_ + 1); value >= 0; value = hexByteAt(position_ + 1)) {
+        hexBytes_[count++] = static_cast<char>(value);
+        position_ += 3;
+        if (count == hexBytes_.size() || !at(0, '\\') || !at(1, '\'') || hexByteAt(position_ + 2) < 0) {
+            return {.kind = RtfToken::Kind::bytes, .text = {hexBytes_.data(), count}};
+        }
+        ++position_;
+    }
+    ++position_;
+    position_ += position_ < bytes_.size() && hexDigit(bytes_[position_]) >= 0 ? 1 : 0;
+    return {};
 }
 
 /// Writers that know the code page leave a trail byte bare; others put a backslash before it or write it in

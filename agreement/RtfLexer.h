@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -16,8 +17,8 @@ struct RtfToken {
         word,
         /// A control symbol: `text` is the character after the backslash, a line feed for any line end.
         symbol,
-        /// A byte written as two hexadecimal digits: `parameter`.
-        byte,
+        /// Bytes of text that are written as two hexadecimal digits each: `text`, until the next token is asked for.
+        bytes,
         /// Raw bytes of text, tabs included.
         text,
     };
@@ -30,8 +31,8 @@ struct RtfToken {
     std::string_view text{};
 };
 
-/// Cuts RTF into tokens that point into the given bytes. Line ends and control characters in the text are left out,
-/// as are the data of \bin and hexadecimal bytes without their digits.
+/// Cuts RTF into tokens that point into the given bytes, or for bytes in hexadecimal into the lexer. Line ends and
+/// control characters in the text are left out, as are the data of \bin and hexadecimal bytes without their digits.
 class RtfLexer {
 public:
     explicit RtfLexer(std::string_view bytes)
@@ -53,13 +54,15 @@ private:
     RtfToken lexControl();
     RtfToken lexWord();
     RtfToken lexSymbol();
-    RtfToken lexByte();
+    RtfToken lexBytes();
+    int hexByteAt(std::size_t position) const;
     void lexParameter(RtfToken& token);
     void skipBinary(const RtfToken& token);
     bool at(std::size_t offset, char wanted) const;
 
     std::string_view bytes_;
     std::size_t position_ = 0;
+    std::array<char, 256> hexBytes_{};
 };
 
 } // namespace corvellane
