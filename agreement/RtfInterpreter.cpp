@@ -22,7 +22,7 @@ RtfInterpreter::RtfInterpreter(std::string_view bytes)
 bool RtfInterpreter::run()
 {
     for (;;) {
-        const RtfToken token = lexer_.next();
+        const RtfToken& token = lexer_.next();
         const bool opened = groupJustOpened_;
         groupJustOpened_ = false;
         if (isOptional_ && token.kind != RtfToken::Kind::word) {

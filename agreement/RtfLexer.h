@@ -40,7 +40,8 @@ public:
     {
     }
 
-    RtfToken next();
+    /// The next token; it changes with the next call.
+    const RtfToken& next();
 
     /// What the byte after a raw lead byte of a two-byte character would be, taken as its trail byte although it
     /// means something else to RTF; -1 for a byte that is to be read as RTF. Moves nothing.
@@ -50,18 +51,20 @@ public:
     void skipByte() { ++position_; }
 
 private:
-    RtfToken lexText();
-    RtfToken lexControl();
-    RtfToken lexWord();
-    RtfToken lexSymbol();
-    RtfToken lexBytes();
+    bool lexToken();
+    bool lexControl();
+    void lexText();
+    void lexWord();
+    void lexSymbol();
+    bool lexBytes();
     int hexByteAt(std::size_t position) const;
-    void lexParameter(RtfToken& token);
-    void skipBinary(const RtfToken& token);
+    void lexParameter();
+    void skipBinary();
     bool at(std::size_t offset, char wanted) const;
 
     std::string_view bytes_;
     std::size_t position_ = 0;
+    RtfToken token_;
     std::array<char, 256> hexBytes_{};
 };
 

@@ -38,8 +38,8 @@ std::string tokens(std::string_view rtf)
 {
     RtfLexer lexer(rtf);
     std::string all;
-    for (RtfToken token = lexer.next(); token.kind != RtfToken::Kind::end; token = lexer.next()) {
-        all.append(all.empty() ? "" : "|").append(printed(token));
+    for (const RtfToken* token = &lexer.next(); token->kind != RtfToken::Kind::end; token = &lexer.next()) {
+        all.append(all.empty() ? "" : "|").append(printed(*token));
     }
     return all;
 }
