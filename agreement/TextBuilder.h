@@ -1,0 +1,62 @@
+#pragma once
+
+#include "agreement/AttributedText.h"
+#include "agreement/FontTable.h"
+#include "agreement/Interner.h"
+#include "agreement/RtfState.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace corvellane {
+
+/// Builds attributed text run by run and paragraph by paragraph out of states of formatting.
+class TextBuilder {
+public:
+    /// `expectedLength` bytes of text are made room for.
+    explicit TextBuilder(std::size_t expectedLength) { result_.text.reserve(expectedLength); }
+
+    std::uint32_t indexOf(const CharacterState& state) { return characters_.index(state); }
+    std::uint32_t indexOf(const ParagraphState& state) { return paragraphs_.index(state); }
+    const CharacterState& character(std::uint32_t index) const { return characters_[index]; }
+    const ParagraphState& paragraph(std::uint32_t index) const { return paragraphs_[index]; }
+
+    /// The text to append to, once a run is begun.
+    std::string& text() { return result_.text; }
+
+    /// What is appended from here on looks like that; true when this is not how the text before looks.
+    bool beginRun(std::uint32_t character, const FontTable& fonts);
+
+    /// Ends the paragraph in that character and paragraph formatting.
+    void endParagraph(std::uint32_t character, std::uint32_t paragraph, const FontTable& fonts);
+
+    bool paragraphIsEmpty() const { return result_.runs.size() == firstRun_ && result_.text.size() == runBegin_; }
+
+    /// The last tab stop of a paragraph whose last one was `state.previous` and which gets one more.
+    std::uint32_t addTab(TabState state);
+
+    /// The number by which a CharacterState knows a link.
+    std::uint32_t addLink(std::string target);
+
+    /// The whole text; nothing may be called after it.
+    AttributedText take(const FontTable& fonts);
+
+private:
+    std::uint32_t attributesOf(std::uint32_t character, const FontTable& fonts);
+    void endRun();
+
+    AttributedText result_;
+    Interner<CharacterState> characters_;
+    Interner<ParagraphState> paragraphs_;
+    Interner<TabState> tabs_;
+    /// States told apart only by what is visible in them.
+    Interner<CharacterState> attributes_;
+    /// 1 + the index of the attributes of a character state, 0 where not yet known.
+    std::vector<std::uint32_t> attributesOfCharacters_;
+    std::uint32_t runAttributes_ = 0;
+    std::size_t runBegin_ = 0;
+    std::size_t firstRun_ = 0;
+};
+
+} // namespace corvellane

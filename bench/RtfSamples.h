@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace corvellane {
+
+/// RTF of about `size` bytes: the body of the licence agreement that comes with the program, repeated.
+std::string agreementSample(std::size_t size);
+
+/// Japanese text of about `size` bytes in code page 932, its bytes in hexadecimal as word processors write them.
+std::string multiByteSample(std::size_t size);
+
+/// The same text in raw bytes.
+std::string rawMultiByteSample(std::size_t size);
+
+/// Short list items of about `size` bytes in all, each with its marker, tab stops and changes of style.
+std::string listSample(std::size_t size);
+
+/// How many backslashes and braces there are: one memchr scan of all bytes for each of the three.
+std::size_t scanForControls(std::string_view bytes);
+
+} // namespace corvellane
