@@ -18,7 +18,7 @@ struct Color {
     bool operator==(const Color&) const = default;
 };
 
-enum class TextScript : std::uint8_t { normal, superscript, subscript };
+enum class VerticalPosition : std::uint8_t { normal, superscript, subscript };
 enum class Capitals : std::uint8_t { asTyped, small, all };
 
 /// How a run of text looks. Lengths are points.
@@ -35,7 +35,7 @@ struct TextAttributes {
     std::optional<Color> color;
     /// Absent: no background.
     std::optional<Color> background;
-    TextScript script = TextScript::normal;
+    VerticalPosition script = VerticalPosition::normal;
     /// Above zero raises the text, below zero lowers it; independent of `script`.
     double baselineOffset = 0;
     Capitals capitals = Capitals::asTyped;

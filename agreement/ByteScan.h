@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -13,14 +14,18 @@ constexpr bool isRtfText(char byte)
     return (static_cast<unsigned char>(byte) >= 0x20 || byte == '\t') && byte != '\\' && byte != '{' && byte != '}';
 }
 
-constexpr bool isAsciiText(char byte)
+/// Which bytes a scan goes over.
+enum class TextBytes : bool { all, ascii };
+
+template <TextBytes Kind>
+constexpr bool isTextByte(char byte)
 {
-    return isRtfText(byte) && static_cast<unsigned char>(byte) < 0x80;
+    return isRtfText(byte) && (Kind == TextBytes::all || static_cast<unsigned char>(byte) < 0x80);
 }
 
-/// True when eight bytes, in any order, are all printable ASCII other than the backslash and the braces. A false
-/// answer may be wrong for a tab.
-constexpr bool isPlainWord(std::uint64_t word)
+/// True when eight bytes, in any order, are all text. A false answer may be wrong.
+template <TextBytes Kind>
+constexpr bool isTextWord(std::uint64_t word)
 {
     constexpr std::uint64_t ones = 0x0101010101010101U;
     constexpr std::uint64_t highs = 0x8080808080808080U;
@@ -29,21 +34,29 @@ constexpr bool isPlainWord(std::uint64_t word)
         return (zeroWhereEqual - ones) & ~zeroWhereEqual;
     };
     const std::uint64_t controls = (word - ones * 0x20) & ~word;
-    return ((word | controls | holds(word, '\\') | holds(word, '{') | holds(word, '}')) & highs) == 0;
+    const std::uint64_t above = Kind == TextBytes::ascii ? word : 0;
+    return ((above | controls | holds(word, '\\') | holds(word, '{') | holds(word, '}')) & highs) == 0;
 }
 
-/// How many bytes at the beginning are ASCII text.
-inline std::size_t asciiTextLength(std::string_view bytes)
+/// How many bytes at the beginning are text.
+template <TextBytes Kind>
+std::size_t textLength(std::string_view bytes)
 {
     std::size_t length = 0;
-    for (std::uint64_t word = 0; length + sizeof word <= bytes.size(); length += sizeof word) {
-        std::memcpy(&word, bytes.data() + length, sizeof word);
-        if (!isPlainWord(word)) {
-            break;
+    while (length < bytes.size()) {
+        std::uint64_t word = 0;
+        if (length + sizeof word <= bytes.size()) {
+            std::memcpy(&word, bytes.data() + length, sizeof word);
+            if (isTextWord<Kind>(word)) {
+                length += sizeof word;
+                continue;
+            }
         }
-    }
-    while (length < bytes.size() && isAsciiText(bytes[length])) {
-        ++length;
+        for (const std::size_t end = std::min(length + sizeof word, bytes.size()); length < end; ++length) {
+            if (!isTextByte<Kind>(bytes[length])) {
+                return length;
+            }
+        }
     }
     return length;
 }

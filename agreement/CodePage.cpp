@@ -158,20 +158,19 @@ CodePage::~CodePage()
 
 char32_t CodePage::decode(std::string_view bytes)
 {
-    if (bytes.size() == 1) {
-        return decode(bytes[0]);
+    if (bytes.size() == 2) {
+        return decode(bytes[0], bytes[1]);
     }
-    if (bytes.size() > 2) {
-        return convert(bytes);
-    }
-    if (pairs_.empty()) {
-        pairs_.resize(std::size_t{256} * 256);
-    }
-    char32_t& known = pairs_[static_cast<unsigned char>(bytes[0]) * 256U + static_cast<unsigned char>(bytes[1])];
-    if (known == 0) {
-        known = convert(bytes);
-    }
-    return known;
+    return bytes.size() == 1 ? decode(bytes[0]) : convert(bytes);
+}
+
+char32_t CodePage::convertPair(char lead, char trail)
+{
+    pairs_.resize(std::size_t{256} * 256);
+    const char bytes[] = {lead, trail};
+    const char32_t code = convert({bytes, sizeof bytes});
+    pairs_[static_cast<unsigned char>(lead) * 256U + static_cast<unsigned char>(trail)] = code;
+    return code;
 }
 
 char32_t CodePage::convert(std::string_view bytes)

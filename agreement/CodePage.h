@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -31,6 +32,14 @@ public:
     /// The character that one to four bytes stand for, all together.
     char32_t decode(std::string_view bytes);
 
+    /// The character that two bytes stand for.
+    char32_t decode(char lead, char trail)
+    {
+        const std::size_t place = static_cast<unsigned char>(lead) * 256U + static_cast<unsigned char>(trail);
+        const char32_t known = pairs_.empty() ? 0 : pairs_[place];
+        return known != 0 ? known : convertPair(lead, trail);
+    }
+
     char32_t decode(char byte) const { return singles_[static_cast<unsigned char>(byte)]; }
 
     /// All bytes below 0x80 are ASCII.
@@ -42,6 +51,7 @@ public:
 private:
     explicit CodePage(void* converter);
     char32_t convert(std::string_view bytes);
+    char32_t convertPair(char lead, char trail);
 
     /// An iconv_t, or null.
     void* converter_ = nullptr;

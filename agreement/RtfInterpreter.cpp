@@ -6,10 +6,16 @@
 #include <utility>
 
 namespace corvellane {
+namespace {
+
+/// Raw bytes of most code pages take no more room in UTF-8.
+constexpr std::size_t mostGrowth = 2;
+
+} // namespace
 
 RtfInterpreter::RtfInterpreter(std::string_view bytes)
     : lexer_(bytes)
-    , builder_(bytes.size())
+    , builder_(bytes.size() * mostGrowth)
 {
 }
 

@@ -66,17 +66,11 @@ RtfToken RtfLexer::next()
 
 RtfToken RtfLexer::lexText()
 {
-    RtfToken token{.kind = RtfToken::Kind::text, .ascii = true};
-    const std::size_t begin = position_;
-    position_ = begin + asciiTextLength(bytes_.substr(begin));
-    if (position_ < bytes_.size() && isRtfText(bytes_[position_])) {
-        token.ascii = false;
-        while (position_ < bytes_.size() && isRtfText(bytes_[position_])) {
-            ++position_;
-        }
-    }
-    token.text = bytes_.substr(begin, position_ - begin);
-    return token;
+    const std::string_view rest = bytes_.substr(position_);
+    const std::size_t asciiLength = textLength<TextBytes::ascii>(rest);
+    const std::size_t length = asciiLength + textLength<TextBytes::all>(rest.substr(asciiLength));
+    position_ += length;
+    return {.kind = RtfToken::Kind::text, .ascii = length == asciiLength, .text = rest.substr(0, length)};
 }
 
 /// A token of kind `end` stands for a control that means nothing.

@@ -27,7 +27,7 @@ struct RtfToken {
     bool ascii = false;
     bool hasParameter = false;
     std::int32_t parameter = 0;
-    std::string_view text {};
+    std::string_view text{};
 };
 
 /// Cuts RTF into tokens that point into the given bytes. Line ends and control characters in the text are left out,

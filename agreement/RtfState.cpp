@@ -42,7 +42,7 @@ TextAttributes textAttributes(const CharacterState& state)
         .strike = state[CharacterFlag::strike],
         .color = color(state.color),
         .background = color(state.background),
-        .script = static_cast<TextScript>(state.script),
+        .script = static_cast<VerticalPosition>(state.script),
         .baselineOffset = state.offset / 2.0,
         .capitals = static_cast<Capitals>(state.capitals),
         .link = std::nullopt,

@@ -26,7 +26,7 @@ struct CharacterState {
     std::int32_t offset = 0;
     /// By CharacterFlag, 0 or 1.
     std::array<std::uint8_t, 5> flags{};
-    /// A TextScript and a Capitals.
+    /// A VerticalPosition and a Capitals.
     std::uint8_t script = 0;
     std::uint8_t capitals = 0;
     std::uint8_t padding = 0;

@@ -14,7 +14,7 @@ namespace corvellane {
 /// Builds attributed text run by run and paragraph by paragraph out of states of formatting.
 class TextBuilder {
 public:
-    /// `expectedLength` bytes of text are made room for.
+    /// Room is set aside for `expectedLength` bytes of text; it costs memory only as it is filled.
     explicit TextBuilder(std::size_t expectedLength) { result_.text.reserve(expectedLength); }
 
     std::uint32_t indexOf(const CharacterState& state) { return characters_.index(state); }

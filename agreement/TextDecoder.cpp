@@ -18,16 +18,41 @@ bool isText(char32_t code)
 void TextDecoder::appendBytes(std::string_view bytes, CodePage& page, std::string& out)
 {
     while (!bytes.empty()) {
-        if (leadLength_ == 0 && page.hasAscii()) {
-            const std::size_t length = asciiTextLength(bytes);
+        if (leadLength_ == 0) {
+            const std::size_t length = page.hasAscii() ? textLength<TextBytes::ascii>(bytes) : 0;
             out.append(bytes.substr(0, length));
             bytes.remove_prefix(length);
+            bytes.remove_prefix(appendCharacters(bytes, page, out));
         }
         if (!bytes.empty()) {
             appendByte(bytes[0], page, out);
             bytes.remove_prefix(1);
         }
     }
+}
+
+/// Appends what stands at the beginning and is whole and beyond doubt: characters of one and two bytes, above ASCII.
+/// Gives the number of bytes taken.
+std::size_t TextDecoder::appendCharacters(std::string_view bytes, CodePage& page, std::string& out)
+{
+    char buffer[512];
+    char* to = buffer;
+    const char* from = bytes.data();
+    const char* const end = from + bytes.size();
+    while (from != end && to + longestUtf8 <= buffer + sizeof buffer && static_cast<unsigned char>(*from) >= 0x80) {
+        char32_t code = page.decode(*from);
+        if (code <= 0x10FFFF) {
+            from += 1;
+        } else if (code == CodePage::incomplete && end - from > 1
+            && (code = page.decode(from[0], from[1])) <= 0x10FFFF) {
+            from += 2;
+        } else {
+            break;
+        }
+        to += writeUtf8(to, code);
+    }
+    out.append(buffer, static_cast<std::size_t>(to - buffer));
+    return static_cast<std::size_t>(from - bytes.data());
 }
 
 void TextDecoder::appendByte(char byte, CodePage& page, std::string& out)

@@ -37,6 +37,7 @@ public:
 
 private:
     bool endsWithPending(const std::string& out) const { return pendingIn_ == &out && pendingEnd_ == out.size(); }
+    static std::size_t appendCharacters(std::string_view bytes, CodePage& page, std::string& out);
     bool continueCharacter(char byte, CodePage& page, std::string& out);
     void appendPending(std::string& out);
 

@@ -4,6 +4,7 @@
 #include "platform/Console.h"
 #include "platform/Dispatcher.h"
 #include "platform/FileListing.h"
+#include "platform/Menu.h"
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
 #include "platform/Resources.h"
@@ -13,15 +14,28 @@
 
 #include <deque>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace corvellane {
 
+struct FakeMenu : Menu {
+    explicit FakeMenu(std::vector<std::string> items)
+        : titles(std::move(items))
+    {
+    }
+    std::vector<std::string> itemTitles() const override { return titles; }
+    void removeItem(std::size_t index) override { titles.erase(titles.begin() + static_cast<std::ptrdiff_t>(index)); }
+    std::vector<std::string> titles;
+};
+
 struct FakeApplication : Application {
     void terminate() override { ++terminations; }
+    Menu* mainMenu() override { return menu ? &*menu : nullptr; }
     int terminations = 0;
+    std::optional<FakeMenu> menu;
 };
 
 struct FakeConsole : Console {

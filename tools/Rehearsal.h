@@ -49,6 +49,7 @@ public:
 private:
     struct NoApplication : Application {
         void terminate() override { }
+        Menu* mainMenu() override { return nullptr; }
     };
     struct NoPasteboard : Pasteboard {
         void clearContents() override { }

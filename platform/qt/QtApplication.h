@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/Application.h"
+#include "platform/qt/QtMenu.h"
+
+namespace corvellane {
+
+/// The one QApplication, which exists whenever this is used.
+class QtApplication : public Application {
+public:
+    QtApplication();
+
+    void terminate() override;
+
+    /// An application menu, "File", "Edit", "View" and "Window"; those in the middle have nothing in them.
+    Menu* mainMenu() override { return &menu_; }
+
+    /// Makes the main menu, as it stands at that moment, reachable from the window: as the desktop's global menu bar
+    /// where there is one, and otherwise as a menu that F10 or the menu key opens at the window's top left. The window
+    /// gives no room to it. This must outlive the window.
+    void offerMainMenu(QWidget& window);
+
+private:
+    QtMenu menu_;
+};
+
+} // namespace corvellane

@@ -1,0 +1,45 @@
+#include "platform/qt/QtMenu.h"
+
+#include <QCoreApplication>
+#include <QMenu>
+
+namespace corvellane {
+
+namespace {
+
+QString shown(const char* title)
+{
+    return QCoreApplication::translate("Menu", title);
+}
+
+} // namespace
+
+std::vector<std::string> QtMenu::itemTitles() const
+{
+    std::vector<std::string> titles;
+    for (const Item& item : items_) {
+        titles.emplace_back(item.title);
+    }
+    return titles;
+}
+
+void QtMenu::removeItem(std::size_t index)
+{
+    items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(index));
+}
+
+QList<QMenu*> QtMenu::makeMenus(QWidget& window, QWidget* parent) const
+{
+    QList<QMenu*> menus;
+    for (const Item& item : items_) {
+        auto* menu = new QMenu(shown(item.title), parent);
+        for (const Command& command : item.commands) {
+            QObject::connect(menu->addAction(shown(command.title)), &QAction::triggered, &window,
+                [&window, perform = command.perform] { perform(window); });
+        }
+        menus.append(menu);
+    }
+    return menus;
+}
+
+} // namespace corvellane
