@@ -1,0 +1,11 @@
+#pragma once
+
+class QWidget;
+
+namespace corvellane {
+
+struct AttributedText;
+
+QWidget* makeRichTextViewer(const AttributedText& text, QWidget* parent);
+
+} // namespace corvellane
