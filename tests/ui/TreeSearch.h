@@ -1,0 +1,73 @@
+#pragma once
+
+#include "ui/View.h"
+
+#include <string>
+#include <vector>
+
+namespace corvellane {
+
+/// Calls `visit` with every view of the tree, in reading order.
+template <typename Visit>
+void forEachView(const View& view, const Visit& visit)
+{
+    visit(view);
+    for (const View& child : view.children) {
+        forEachView(child, visit);
+    }
+}
+
+/// All elements of a kind, in reading order.
+template <typename Kind>
+std::vector<Kind> allOf(const View& view)
+{
+    std::vector<Kind> found;
+    forEachView(view, [&](const View& each) {
+        if (const auto* element = std::get_if<Kind>(&each.element)) {
+            found.push_back(*element);
+        }
+    });
+    return found;
+}
+
+/// The views of a kind, with everything around the element.
+template <typename Kind>
+std::vector<View> viewsOf(const View& view)
+{
+    std::vector<View> found;
+    forEachView(view, [&](const View& each) {
+        if (std::holds_alternative<Kind>(each.element)) {
+            found.push_back(each);
+        }
+    });
+    return found;
+}
+
+/// What a person could read, buttons in brackets, those that cannot be pressed in round ones.
+inline std::vector<std::string> wordsOf(const View& view)
+{
+    std::vector<std::string> words;
+    forEachView(view, [&](const View& each) {
+        if (const auto* text = std::get_if<Text>(&each.element)) {
+            words.push_back(text->text);
+        } else if (const auto* button = std::get_if<Button>(&each.element)) {
+            words.push_back(button->enabled ? "[" + button->label + "]" : "(" + button->label + ")");
+        }
+    });
+    return words;
+}
+
+/// Presses the last button of that label, as a person would press the one in front.
+inline bool press(const View& view, const std::string& label)
+{
+    const std::vector<Button> buttons = allOf<Button>(view);
+    for (auto button = buttons.rbegin(); button != buttons.rend(); ++button) {
+        if (button->label == label && button->enabled) {
+            button->action.run();
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace corvellane

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "state/AppSettings.h"
+#include "tests/FakePlatform.h"
+#include "tests/ui/TreeSearch.h"
+#include "ui/ContentView.h"
+
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace corvellane {
+
+/// The wizard's state and trees on a world without a window.
+class WizardWorld : public testing::Test {
+protected:
+    View body() { return contentView.body(*settings); }
+
+    std::vector<std::string> words() { return wordsOf(body()); }
+
+    bool pressed(const std::string& label) { return press(body(), label); }
+
+    void addProducts(const std::vector<std::string>& names)
+    {
+        for (const std::string& name : names) {
+            platform.addProduct(name, {});
+        }
+        settings->refreshProducts();
+    }
+
+    FakePlatform platform;
+    std::shared_ptr<AppSettings> settings = std::make_shared<AppSettings>(platform.services());
+    ContentView contentView{platform.resources, platform.console};
+};
+
+} // namespace corvellane

@@ -1,0 +1,41 @@
+#include "ui/AlertView.h"
+
+#include "state/AppSettings.h"
+#include "ui/AlertCards.h"
+#include "ui/Build.h"
+#include "ui/LogDetails.h"
+
+namespace corvellane {
+namespace {
+
+View centred(View card)
+{
+    return column(
+        standardSpacing, Placement::centre, gap(), row(standardSpacing, gap(), std::move(card), gap()), gap());
+}
+
+View dimmedFrame(std::string identity, View card)
+{
+    return holding(Layers{Placement::leading, true}, holding(Fill{Tint::gray, 0.65}), centred(std::move(card)))
+        .withIdentity(std::move(identity));
+}
+
+} // namespace
+
+View AlertView::body() const
+{
+    switch (settings.visibleAlert()) {
+    case Alert::agreement:
+        return dimmedFrame("agreement", agreementCard(settings));
+    case Alert::installConfirmation:
+        return dimmedFrame("installConfirmation", installConfirmationCard(settings));
+    case Alert::automationPermission:
+        return dimmedFrame("automationPermission", automationPermissionCard(settings));
+    case Alert::logDetails:
+        return dimmedFrame("logDetails", logDetailsCard(settings));
+    default:
+        return nothing();
+    }
+}
+
+} // namespace corvellane

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "ui/View.h"
+
+namespace corvellane {
+
+/// The layer in front of the whole window: dims it and shows a card when the state asks for an alert, and is nothing
+/// otherwise.
+struct AlertView {
+    AppSettings& settings;
+
+    View body() const;
+};
+
+} // namespace corvellane

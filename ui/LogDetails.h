@@ -1,0 +1,10 @@
+#pragma once
+
+#include "ui/View.h"
+
+namespace corvellane {
+
+/// The failed installation's message on a card, to be read and copied.
+View logDetailsCard(AppSettings& settings);
+
+} // namespace corvellane

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "ui/View.h"
+
+namespace corvellane {
+
+/// All products as a check list, or the message that there are none.
+View productsView(AppSettings& settings);
+
+} // namespace corvellane

@@ -1,0 +1,24 @@
+#include "ui/SelectedProductsPage.h"
+
+#include "products/DisplayOrder.h"
+#include "state/AppSettings.h"
+#include "ui/Build.h"
+#include "ui/PageTexts.h"
+
+namespace corvellane {
+namespace {
+
+ListRow plainRow(const std::string& location, bool)
+{
+    const std::string name(lastPathComponent(location));
+    return {name, Symbol{"circle.fill", Tint::gray, 13}, Text{name, false, Font{14, false}}, std::nullopt};
+}
+
+} // namespace
+
+View selectedProductsView(const AppSettings& settings)
+{
+    return holding(List{pageTitle(Page::install), &settings.products.get(), true, plainRow, {}});
+}
+
+} // namespace corvellane

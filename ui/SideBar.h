@@ -1,0 +1,10 @@
+#pragma once
+
+#include "ui/View.h"
+
+namespace corvellane {
+
+/// The logo and the list of the pages, the current one marked.
+View sideBar(const AppSettings& settings);
+
+} // namespace corvellane

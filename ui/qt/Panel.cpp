@@ -1,0 +1,73 @@
+#include "ui/qt/Panel.h"
+
+#include "ui/qt/Tones.h"
+#include "ui/qt/ViewLayout.h"
+
+#include <QPainter>
+
+namespace corvellane {
+
+Panel::Panel(QWidget* parent)
+    : QWidget(parent)
+    , layout_(new ViewLayout(this))
+{
+}
+
+void Panel::showBackdrop(const Backdrop& backdrop)
+{
+    if (backdrop != backdrop_) {
+        backdrop_ = backdrop;
+        setAttribute(Qt::WA_OpaquePaintEvent, backdrop.fill && backdrop.cornerRadius == 0);
+        update();
+    }
+}
+
+void Panel::setModal(bool modal)
+{
+    modal_ = modal;
+    setAttribute(Qt::WA_NoMousePropagation, modal);
+}
+
+Extent Panel::widthExtent() const
+{
+    return layout_->widthExtent();
+}
+
+Extent Panel::heightExtent(int width) const
+{
+    return layout_->heightExtent(width);
+}
+
+void Panel::paintEvent(QPaintEvent*)
+{
+    if (!backdrop_.fill && !backdrop_.border) {
+        return;
+    }
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing, backdrop_.cornerRadius > 0);
+    painter.setPen(Qt::NoPen);
+    if (backdrop_.fill) {
+        painter.setBrush(colorOf(*backdrop_.fill));
+        painter.drawRoundedRect(rect(), backdrop_.cornerRadius, backdrop_.cornerRadius);
+    }
+    if (backdrop_.border) {
+        painter.setBrush(colorOf(*backdrop_.border));
+        painter.drawRects(QList<QRect>{QRect(0, 0, width(), 1), QRect(0, height() - 1, width(), 1),
+            QRect(0, 1, 1, height() - 2), QRect(width() - 1, 1, 1, height() - 2)});
+    }
+}
+
+void FillArea::present(const Fill& fill)
+{
+    fill_ = fill;
+    update();
+}
+
+void FillArea::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setOpacity(fill_.opacity);
+    painter.fillRect(rect(), colorOf(fill_.tint));
+}
+
+} // namespace corvellane

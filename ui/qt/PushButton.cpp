@@ -1,0 +1,103 @@
+#include "ui/qt/PushButton.h"
+
+#include "ui/qt/TintedPicture.h"
+#include "ui/qt/Tones.h"
+#include "ui/qt/Words.h"
+
+#include <QIcon>
+#include <QPainter>
+#include <QStyleOptionButton>
+
+namespace corvellane {
+namespace {
+
+constexpr int symbolSize = 14;
+
+QString withoutMnemonics(QString label)
+{
+    return label.replace('&', QStringLiteral("&&"));
+}
+
+} // namespace
+
+PushButton::PushButton(QWidget* parent)
+    : QPushButton(parent)
+{
+    setAutoDefault(false);
+    connect(this, &QPushButton::clicked, this, [this] {
+        if (const auto run = action_.run) {
+            run();
+        }
+    });
+}
+
+void PushButton::present(const Button& button)
+{
+    const QString label = localized(button.label);
+    isLink_ = button.style == Button::Style::link;
+    setFont(fontOf({standardFont.size, button.style == Button::Style::emphasised}));
+    setText(withoutMnemonics(label));
+    setAccessibleName(label);
+    setCursor(isLink_ ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    if (!button.symbol.empty()) {
+        const QSize size(symbolSize, symbolSize);
+        setIconSize(size);
+        setIcon(QIcon(tintedPicture(symbolFile(button.symbol), colorOf(Tint::label), size, devicePixelRatioF())));
+    }
+    setEnabled(button.enabled);
+}
+
+Extent PushButton::widthExtent() const
+{
+    const int width = isLink_ ? fontMetrics().size(Qt::TextShowMnemonic, text()).width() + 2 : sizeHint().width();
+    return {width, width};
+}
+
+Extent PushButton::heightExtent(int) const
+{
+    const int height = isLink_ ? fontMetrics().height() + 2 : sizeHint().height();
+    return {height, height};
+}
+
+/// Behind an alert a button cannot be used, but looks as it did before.
+void PushButton::initStyleOption(QStyleOptionButton* option) const
+{
+    QPushButton::initStyleOption(option);
+    if (!testAttribute(Qt::WA_ForceDisabled)) {
+        option->state |= QStyle::State_Enabled;
+        option->palette.setCurrentColorGroup(QPalette::Active);
+    }
+}
+
+void PushButton::paintEvent(QPaintEvent* event)
+{
+    if (isLink_) {
+        paintLink();
+    } else {
+        QPushButton::paintEvent(event);
+    }
+}
+
+void PushButton::paintLink()
+{
+    QPainter painter(this);
+    QFont underlined = font();
+    underlined.setUnderline(underMouse() || hasFocus());
+    painter.setFont(underlined);
+    painter.setPen(palette().color(QPalette::Link));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
+}
+
+void PushButton::enterEvent(QEnterEvent* event)
+{
+    QPushButton::enterEvent(event);
+    update();
+}
+
+void PushButton::leaveEvent(QEvent* event)
+{
+    QPushButton::leaveEvent(event);
+    update();
+}
+
+} // namespace corvellane
