@@ -24,6 +24,14 @@ const std::string confirmation = "Click \"Install\" button to complete the insta
 constexpr int onName = 50;
 constexpr int besideName = 420;
 
+/// What the host applications have made where they are installed.
+void makeHostFolders(const HostPaths& hosts)
+{
+    for (const std::string& folder : {hosts.video, hosts.photo}) {
+        std::filesystem::create_directories(folder);
+    }
+}
+
 bool isTicked(const WindowUser& user, int row)
 {
     const QListView* const list = user.list();
@@ -62,6 +70,7 @@ std::vector<std::string> Tour::run()
 void Tour::visitToSuccess()
 {
     Visit visit(*this, "success");
+    makeHostFolders(visit.wizard.settings().hostPaths());
     expect(visit.user.reads("Welcome to the Corvellane Plugin Installer"), "the introduction is shown first");
     expect(!visit.user.canPress("Go Back"), "there is nothing before the introduction");
     picture(visit, "introduction");
