@@ -1,24 +1,38 @@
 #include "ui/qt/RichTextViewer.h"
 
-#include "agreement/AttributedText.h"
+#include "ui/qt/RichTextDocument.h"
 
+#include <QTextDocument>
 #include <QTextEdit>
 
 namespace corvellane {
 
+namespace {
+
+QPalette paperPalette(QPalette palette)
+{
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::Highlight, QColor(0, 99, 225));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+} // namespace
+
 QWidget* makeRichTextViewer(const AttributedText& text, QWidget* parent)
 {
-    auto* const viewer = new QTextEdit(parent);
+    auto* viewer = new QTextEdit(parent);
     viewer->setReadOnly(true);
+    viewer->setTextInteractionFlags(
+        Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::LinksAccessibleByMouse);
+    viewer->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewer->setFrameShape(QFrame::NoFrame);
-    for (const Paragraph& paragraph : text.paragraphs) {
-        QString line;
-        for (const Run& run : text.runsOf(paragraph)) {
-            line += QString::fromUtf8(text.textOf(run));
-        }
-        viewer->append(line);
-    }
-    viewer->moveCursor(QTextCursor::Start);
+    viewer->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    viewer->setPalette(paperPalette(viewer->palette()));
+    auto* document = new QTextDocument(viewer);
+    fillTextDocument(*document, text);
+    viewer->setDocument(document);
     return viewer;
 }
 

@@ -1,37 +1,15 @@
 #include "platform/qt/QtWorkspace.h"
 
-#include <QDesktopServices>
+#include "tests/UrlOpener.h"
+
 #include <QDir>
 #include <QFile>
-#include <QObject>
 #include <QTemporaryDir>
-#include <QUrl>
 
 #include <gtest/gtest.h>
 
 namespace corvellane {
 namespace {
-
-/// Stands in for the program of one scheme.
-class Opener : public QObject {
-    Q_OBJECT
-
-public:
-    explicit Opener(const QString& scheme)
-        : scheme_(scheme)
-    {
-        QDesktopServices::setUrlHandler(scheme, this, "open");
-    }
-    ~Opener() override { QDesktopServices::unsetUrlHandler(scheme_); }
-
-    QStringList opened;
-
-public slots:
-    void open(const QUrl& url) { opened.append(url.toString()); }
-
-private:
-    QString scheme_;
-};
 
 void registerScheme(const QTemporaryDir& home, const QByteArray& scheme)
 {
@@ -45,8 +23,8 @@ TEST(QtWorkspace, opensOnlyWhatAProgramIsRegisteredFor)
 {
     const QTemporaryDir home;
     qputenv("XDG_DATA_HOME", home.path().toUtf8());
-    Opener opener(QStringLiteral("x-settings.known"));
-    Opener unregistered(QStringLiteral("x-settings"));
+    UrlOpener opener(QStringLiteral("x-settings.known"));
+    UrlOpener unregistered(QStringLiteral("x-settings"));
     registerScheme(home, "x-settings.known");
     QtWorkspace workspace;
     EXPECT_TRUE(workspace.openUrl("x-settings.known:pane?Privacy"));
@@ -60,5 +38,3 @@ TEST(QtWorkspace, opensOnlyWhatAProgramIsRegisteredFor)
 
 } // namespace
 } // namespace corvellane
-
-#include "WorkspaceTest.moc"
