@@ -30,7 +30,9 @@ Table tableOf(const QString& path)
     QString context;
     std::string source;
     while (!reader.atEnd()) {
-        reader.readNextStartElement();
+        if (reader.readNext() != QXmlStreamReader::StartElement) {
+            continue;
+        }
         if (reader.name() == QStringLiteral("name")) {
             context = reader.readElementText();
         } else if (reader.name() == QStringLiteral("source")) {
