@@ -3,6 +3,8 @@
 add_library(corvellane-options INTERFACE)
 target_compile_features(corvellane-options INTERFACE cxx_std_20)
 target_include_directories(corvellane-options INTERFACE ${PROJECT_SOURCE_DIR})
+# Qt's own keywords are macros, and one of them is a name of ours.
+target_compile_definitions(corvellane-options INTERFACE QT_NO_KEYWORDS)
 target_compile_options(corvellane-options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 
 option(CORVELLANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)

@@ -6,6 +6,14 @@
 #include <QPainter>
 
 namespace corvellane {
+namespace {
+
+Extent widened(Extent content, int line)
+{
+    return {sumOf(content.minimum, line), sumOf(content.maximum, line)};
+}
+
+} // namespace
 
 Panel::Panel(QWidget* parent)
     : QWidget(parent)
@@ -18,6 +26,8 @@ void Panel::showBackdrop(const Backdrop& backdrop)
     if (backdrop != backdrop_) {
         backdrop_ = backdrop;
         setAttribute(Qt::WA_OpaquePaintEvent, backdrop.fill && backdrop.cornerRadius == 0);
+        const int line = backdrop.border ? 1 : 0;
+        setContentsMargins(line, line, line, line);
         update();
     }
 }
@@ -30,12 +40,14 @@ void Panel::setModal(bool modal)
 
 Extent Panel::widthExtent() const
 {
-    return layout_->widthExtent();
+    const QMargins line = contentsMargins();
+    return widened(layout_->widthExtent(), line.left() + line.right());
 }
 
 Extent Panel::heightExtent(int width) const
 {
-    return layout_->heightExtent(width);
+    const QMargins line = contentsMargins();
+    return widened(layout_->heightExtent(width - line.left() - line.right()), line.top() + line.bottom());
 }
 
 void Panel::paintEvent(QPaintEvent*)

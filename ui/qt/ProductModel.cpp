@@ -31,7 +31,7 @@ void ProductModel::updateTicks(const ProductSelection& products)
         if (entry.ticked != product->second) {
             entry.ticked = product->second;
             const QModelIndex changed = index(entry.row);
-            emit dataChanged(changed, changed, {Qt::CheckStateRole});
+            Q_EMIT dataChanged(changed, changed, {Qt::CheckStateRole});
         }
         ++product;
     }

@@ -8,10 +8,14 @@
 #include <QPainter>
 #include <QStyleOptionButton>
 
+#include <algorithm>
+
 namespace corvellane {
 namespace {
 
 constexpr int symbolSize = 14;
+constexpr int symbolDistance = 4;
+constexpr int besideLabel = 12;
 
 QString withoutMnemonics(QString label)
 {
@@ -49,7 +53,9 @@ void PushButton::present(const Button& button)
 
 Extent PushButton::widthExtent() const
 {
-    const int width = isLink_ ? fontMetrics().size(Qt::TextShowMnemonic, text()).width() + 2 : sizeHint().width();
+    const int label = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+    const int symbol = icon().isNull() ? 0 : symbolSize + symbolDistance;
+    const int width = isLink_ ? label + 2 : std::max(sizeHint().width(), symbol + label + 2 * besideLabel);
     return {width, width};
 }
 

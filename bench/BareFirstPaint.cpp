@@ -1,0 +1,13 @@
+#include "bench/FirstPaint.h"
+
+#include <QApplication>
+
+int main(int count, char** arguments)
+{
+    const QApplication platform(count, arguments);
+    QWidget window;
+    window.resize(648, 405);
+    const corvellane::EndAtFirstPaint end(window);
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,13 @@
+#include "app/Installer.h"
+#include "bench/FirstPaint.h"
+
+#include <QApplication>
+
+int main(int count, char** arguments)
+{
+    const QApplication platform(count, arguments);
+    corvellane::ViewHost::prepareApplication();
+    corvellane::Installer installer;
+    const corvellane::EndAtFirstPaint end(installer.window());
+    return installer.run();
+}

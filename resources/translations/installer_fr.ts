@@ -1,0 +1,110 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Installer</name>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Go Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>You will be guided through the steps necessary to use this software.</source>
+        <translation>Vous allez être guidé dans les étapes nécessaires à l’utilisation de ce logiciel.</translation>
+    </message>
+    <message>
+        <source>No products found</source>
+        <translation>Aucun produit trouvé</translation>
+    </message>
+    <message>
+        <source>You have been successfully installed selected products.</source>
+        <translation>Les produits sélectionnés ont été installés.</translation>
+    </message>
+    <message>
+        <source>The installation was not completed successfully.</source>
+        <translation>L’installation ne s’est pas terminée correctement.</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>To continue using the software you must agree to the terms of the software license agreement.</source>
+        <translation>Pour continuer à utiliser le logiciel, vous devez accepter les termes du contrat de licence du logiciel.</translation>
+    </message>
+    <message>
+        <source>Click Agree to continue or click Disagree to cancel and quit the Installer.</source>
+        <translation>Cliquez sur Accepter pour continuer ou sur Refuser pour annuler et quitter le programme d’installation.</translation>
+    </message>
+    <message>
+        <source>Read License</source>
+        <translation>Lire la licence</translation>
+    </message>
+    <message>
+        <source>Disagree</source>
+        <translation>Refuser</translation>
+    </message>
+    <message>
+        <source>Agree</source>
+        <translation>Accepter</translation>
+    </message>
+    <message>
+        <source>Click &quot;Install&quot; button to complete the installation.</source>
+        <translation>Cliquez sur « Installer » pour terminer l’installation.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Installer</translation>
+    </message>
+    <message>
+        <source>To make changes with Installer please allow Finder access from Settings</source>
+        <translation>Pour que le programme d’installation puisse effectuer des modifications, autorisez l’accès au Finder dans les réglages.</translation>
+    </message>
+    <message>
+        <source>Open settings</source>
+        <translation>Ouvrir les réglages</translation>
+    </message>
+    <message>
+        <source>Copy to Clipboard</source>
+        <translation>Copier dans le presse-papiers</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Corvellane Plugin Installer</source>
+        <translation>Corvellane Plugin Installer</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Agrandir/Réduire</translation>
+    </message>
+</context>
+</TS>
