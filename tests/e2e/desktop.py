@@ -41,7 +41,7 @@ class Desktop:
         read, write = os.pipe()
         self.processes = [
             subprocess.Popen(
-                ["Xvfb", "-displayfd", str(write), "-nolisten", "tcp", "-screen", "0", "1024x768x24"],
+                ["Xvfb", "-displayfd", str(write), "-nolisten", "tcp", "-noreset", "-screen", "0", "1024x768x24"],
                 pass_fds=[write],
                 stderr=subprocess.DEVNULL,
             )
@@ -49,13 +49,19 @@ class Desktop:
         os.close(write)
         with os.fdopen(read) as number:
             os.environ["DISPLAY"] = ":" + number.readline().strip()
+        wait_for("the display", lambda: self.answers("getdisplaygeometry"))
         self.start("openbox")
+        wait_for("the window manager", lambda: self.answers("get_num_desktops"))
         return self
 
     def __exit__(self, *_):
         for process in reversed(self.processes):
             process.terminate()
             process.wait()
+
+    @staticmethod
+    def answers(question):
+        return subprocess.run(["xdotool", question], capture_output=True).returncode == 0
 
     def start(self, *command, **options):
         process = subprocess.Popen(command, stderr=subprocess.DEVNULL, **options)
@@ -94,26 +100,24 @@ class Wizard:
                 yield child
                 yield from self.nodes(child)
 
-    @staticmethod
-    def while_it_stands(look):
+    def while_it_stands(self, look):
         """What `look` gives; nothing when the tree was rebuilt under its eyes."""
         try:
             return look()
         except (GLib.GError, IndexError):
+            assert self.process.poll() is None, "the installer has ended"
             return None
 
     def said(self):
         """What a screen reader would find: the roles and names of all that has a name, with what is special of each."""
-        found = []
-        for node in self.nodes():
-            if not node.name:
-                continue
-            state = node.getState()
-            words = [node.getRoleName(), node.name]
-            words += [word for word, flag in self.FLAGS.items() if state.contains(flag)]
-            words += [] if state.contains(self.atspi.STATE_ENABLED) else ["disabled"]
-            found.append(" ".join(words))
-        return found
+        return self.while_it_stands(lambda: [self.words_of(node) for node in self.nodes() if node.name]) or []
+
+    def words_of(self, node):
+        state = node.getState()
+        words = [node.getRoleName(), node.name]
+        words += [word for word, flag in self.FLAGS.items() if state.contains(flag)]
+        words += [] if state.contains(self.atspi.STATE_ENABLED) else ["disabled"]
+        return " ".join(words)
 
     def press(self, name):
         """Presses the button in front of that name, as assistive technology does, once it can be pressed."""
@@ -127,7 +131,7 @@ class Wizard:
 
     def press_until(self, name, shown):
         self.press(name)
-        wait_for(shown, lambda: shown in (self.while_it_stands(self.said) or []))
+        wait_for(shown, lambda: shown in self.said())
 
     def key(self, name):
         subprocess.run(["xdotool", "key", "--clearmodifiers", name], check=True)
@@ -136,7 +140,7 @@ class Wizard:
         """Waits until exactly this is shown to the right of the side bar."""
         expected = list(expected)
         try:
-            wait_for("", lambda: (self.while_it_stands(self.said) or [])[len(SIDE_BAR) :] == expected)
+            wait_for("", lambda: self.said()[len(SIDE_BAR) :] == expected)
         except AssertionError:
             found = "\n  ".join(self.said()[len(SIDE_BAR) :])
             raise AssertionError("expected\n  " + "\n  ".join(expected) + "\nbut found\n  " + found) from None

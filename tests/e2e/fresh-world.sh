@@ -1,7 +1,8 @@
 #!/bin/bash
-# fresh-world.sh BUNDLE STORY: runs a Python script of this folder as root in a mount namespace of its own, where "/Applications",
-# "/Library" and root's home are new and empty, on a session bus of its own. The script is handed the path of a copy of
-# the bundle. Exits with 77, which ctest counts as skipped, for anybody but root.
+# fresh-world.sh BUNDLE STORY: runs a Python script of this folder as root in a mount namespace of its own, where
+# "/Applications", "/Library", root's home and the sockets of displays are new and empty, on a session bus of its own.
+# The script is handed the path of a copy of the bundle. Exits with 77, which ctest counts as skipped, for anybody but
+# root.
 set -eu
 [ "$(id -u)" = 0 ] || exit 77
 
@@ -20,7 +21,8 @@ for folder in /Applications /Library; do
 done
 
 unshare --mount --propagation private bash -euc '
-    for folder in /Applications /Library "$(getent passwd 0 | cut -d: -f6)"; do
+    mkdir -p /tmp/.X11-unix
+    for folder in /Applications /Library /tmp/.X11-unix "$(getent passwd 0 | cut -d: -f6)"; do
         mount -t tmpfs -o mode=755 fresh "$folder"
     done
     cd /

@@ -68,13 +68,13 @@ def choose_products(wizard):
         *(words.removesuffix(" focused") for words in CHOOSING),
     )
     wizard.press_until("Select All", TICKED[2] + " focused")
-    wizard.press("Next")
+    wizard.press_until("Next", TO_INSTALL[0])
 
 
 def confirm(wizard):
     bare = [words.removesuffix(" focused") for words in BUTTONS]
-    while "push button Next focused" not in wizard.said():
-        wizard.key("Tab")
+    while wizard.focus_after("Tab") != "Next":
+        pass
     wizard.shows(*TO_INSTALL, *BUTTONS)
     wizard.press("Next")
     alert = [f"dialog {CONFIRMATION}", f"label {CONFIRMATION}", "push button Cancel focused", "push button Install"]
