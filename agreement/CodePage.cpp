@@ -3,10 +3,10 @@
 #include "agreement/SymbolFonts.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdint>
 #include <iconv.h>
-#include <iterator>
 
 namespace corvellane {
 namespace {
@@ -16,7 +16,7 @@ struct PageName {
     const char* name;
 };
 
-constexpr PageName pageNames[] = {
+constexpr auto pageNames = std::to_array<PageName>({
     {437, "CP437"},
     {708, "ASMO-708"},
     {737, "CP737"},
@@ -60,14 +60,14 @@ constexpr PageName pageNames[] = {
     {20866, "KOI8-R"},
     {54936, "GB18030"},
     {65001, "UTF-8"},
-};
+});
 
 struct CharsetPage {
     int charset;
     int page;
 };
 
-constexpr CharsetPage charsetPages[] = {
+constexpr auto charsetPages = std::to_array<CharsetPage>({
     {0, 1252},
     {77, 10000},
     {78, 10001},
@@ -95,7 +95,7 @@ constexpr CharsetPage charsetPages[] = {
     {238, 1250},
     {254, 437},
     {255, 850},
-};
+});
 
 iconv_t handle(void* converter)
 {
@@ -106,9 +106,9 @@ iconv_t handle(void* converter)
 
 int codePageOfCharset(int charset)
 {
-    const auto* const found = std::find_if(
-        std::begin(charsetPages), std::end(charsetPages), [&](auto& row) { return row.charset == charset; });
-    return found == std::end(charsetPages) ? 0 : found->page;
+    const auto* const found
+        = std::find_if(charsetPages.begin(), charsetPages.end(), [&](auto& row) { return row.charset == charset; });
+    return found == charsetPages.end() ? 0 : found->page;
 }
 
 std::unique_ptr<CodePage> CodePage::open(int number)
@@ -117,8 +117,8 @@ std::unique_ptr<CodePage> CodePage::open(int number)
         return std::make_unique<CodePage>(number == symbolPage ? symbolCharacters : wingdingsCharacters);
     }
     const auto* const found
-        = std::find_if(std::begin(pageNames), std::end(pageNames), [&](auto& row) { return row.number == number; });
-    if (found == std::end(pageNames)) {
+        = std::find_if(pageNames.begin(), pageNames.end(), [&](auto& row) { return row.number == number; });
+    if (found == pageNames.end()) {
         return nullptr;
     }
     const iconv_t converter = iconv_open("UTF-32LE", found->name);
@@ -167,8 +167,8 @@ char32_t CodePage::decode(std::string_view bytes)
 char32_t CodePage::convertPair(char lead, char trail)
 {
     pairs_.resize(std::size_t{256} * 256);
-    const char bytes[] = {lead, trail};
-    const char32_t code = convert({bytes, sizeof bytes});
+    const std::array bytes{lead, trail};
+    const char32_t code = convert({bytes.data(), bytes.size()});
     pairs_[static_cast<unsigned char>(lead) * 256U + static_cast<unsigned char>(trail)] = code;
     return code;
 }
@@ -178,13 +178,13 @@ char32_t CodePage::convert(std::string_view bytes)
     if (converter_ == nullptr) {
         return invalid;
     }
-    char in[4];
-    std::copy(bytes.begin(), bytes.end(), in);
-    unsigned char out[16];
-    char* from = in;
-    char* to = reinterpret_cast<char*>(out);
+    std::array<char, 4> in{};
+    std::copy(bytes.begin(), bytes.end(), in.begin());
+    std::array<unsigned char, 16> out{};
+    char* from = in.data();
+    char* to = reinterpret_cast<char*>(out.data());
     std::size_t fromLeft = bytes.size();
-    std::size_t toLeft = sizeof out;
+    std::size_t toLeft = out.size();
     iconv(handle(converter_), nullptr, nullptr, nullptr, nullptr);
     const bool failed = iconv(handle(converter_), &from, &fromLeft, &to, &toLeft) == static_cast<std::size_t>(-1);
     if (failed) {
@@ -192,7 +192,7 @@ char32_t CodePage::convert(std::string_view bytes)
     }
     // A page with combining characters holds a letter back until it is asked for it.
     iconv(handle(converter_), nullptr, nullptr, &to, &toLeft);
-    const bool single = toLeft + 4 == sizeof out;
+    const bool single = toLeft + 4 == out.size();
     return single ? out[0] | char32_t{out[1]} << 8U | char32_t{out[2]} << 16U : invalid;
 }
 

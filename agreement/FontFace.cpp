@@ -1,7 +1,7 @@
 #include "agreement/FontFace.h"
 
 #include <algorithm>
-#include <iterator>
+#include <array>
 
 namespace corvellane {
 namespace {
@@ -12,7 +12,7 @@ struct StyleWord {
     bool italic;
 };
 
-constexpr StyleWord styleWords[] = {
+constexpr auto styleWords = std::to_array<StyleWord>({
     {"Regular", false, false},
     {"Roman", false, false},
     {"Book", false, false},
@@ -34,14 +34,14 @@ constexpr StyleWord styleWords[] = {
     {"Oblique", false, true},
     {"It", false, true},
     {"Obl", false, true},
-};
+});
 
 struct FamilyName {
     std::string_view postScript;
     std::string_view family;
 };
 
-constexpr FamilyName familyNames[] = {
+constexpr auto familyNames = std::to_array<FamilyName>({
     {"AmericanTypewriter", "American Typewriter"},
     {"ArialMT", "Arial"},
     {"ArialNarrow", "Arial Narrow"},
@@ -62,9 +62,9 @@ constexpr FamilyName familyNames[] = {
     {"TimesNewRomanPS", "Times New Roman"},
     {"TimesNewRomanPSMT", "Times New Roman"},
     {"TrebuchetMS", "Trebuchet MS"},
-};
+});
 
-constexpr std::string_view charsetMarks[] = {
+constexpr auto charsetMarks = std::to_array<std::string_view>({
     " CE",
     " CYR",
     " Cyr",
@@ -76,13 +76,13 @@ constexpr std::string_view charsetMarks[] = {
     " (Arabic)",
     " (Vietnamese)",
     " (Thai)",
-};
+});
 
 std::string_view familyOf(std::string_view postScript)
 {
-    const auto* const found = std::find_if(
-        std::begin(familyNames), std::end(familyNames), [&](auto& row) { return row.postScript == postScript; });
-    return found == std::end(familyNames) ? postScript : found->family;
+    const auto* const found
+        = std::find_if(familyNames.begin(), familyNames.end(), [&](auto& row) { return row.postScript == postScript; });
+    return found == familyNames.end() ? postScript : found->family;
 }
 
 /// Takes the words of a style off one by one; false when one of them is no word of a style.

@@ -38,7 +38,7 @@ public:
     std::int32_t find(std::int32_t number) const;
 
     /// For -1 the font of text that names none: Helvetica in the document's code page.
-    const Font& font(std::int32_t index) const { return fonts_[static_cast<std::size_t>(index + 1)]; }
+    const Font& font(std::int32_t index) const { return fonts_[static_cast<std::uint32_t>(index) + 1U]; }
 
     const std::vector<std::string>& families() const { return families_; }
 

@@ -13,7 +13,7 @@ bool startsWithKeyword(std::string_view text)
             return false;
         }
     }
-    return text.size() == keyword.size() || spaces.find(text[keyword.size()]) != spaces.npos
+    return text.size() == keyword.size() || spaces.find(text[keyword.size()]) != std::string_view::npos
         || text[keyword.size()] == '"';
 }
 
@@ -35,7 +35,7 @@ std::string takeQuoted(std::string_view& text)
 std::string takeArgument(std::string_view& text)
 {
     const std::size_t begin = text.find_first_not_of(spaces);
-    text.remove_prefix(begin == text.npos ? text.size() : begin);
+    text.remove_prefix(begin == std::string_view::npos ? text.size() : begin);
     if (text.starts_with('"')) {
         return takeQuoted(text);
     }
@@ -49,13 +49,13 @@ std::string takeArgument(std::string_view& text)
 std::optional<std::string> hyperlinkTarget(std::string_view instruction)
 {
     const std::size_t begin = instruction.find_first_not_of(spaces);
-    if (begin == instruction.npos || !startsWithKeyword(instruction.substr(begin))) {
+    if (begin == std::string_view::npos || !startsWithKeyword(instruction.substr(begin))) {
         return std::nullopt;
     }
     std::string_view rest = instruction.substr(begin + keyword.size());
     std::string address;
     std::string bookmark;
-    while (rest.find_first_not_of(spaces) != rest.npos) {
+    while (rest.find_first_not_of(spaces) != std::string_view::npos) {
         const bool quoted = rest[rest.find_first_not_of(spaces)] == '"';
         const std::string argument = takeArgument(rest);
         if (quoted || !argument.starts_with('\\')) {

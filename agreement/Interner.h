@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -34,8 +35,8 @@ public:
 private:
     static std::size_t hash(const Value& value)
     {
-        std::uint32_t words[sizeof(Value) / sizeof(std::uint32_t)];
-        std::memcpy(words, &value, sizeof(Value));
+        std::array<std::uint32_t, sizeof(Value) / sizeof(std::uint32_t)> words;
+        std::memcpy(words.data(), &value, sizeof(Value));
         std::uint64_t sum = 0;
         for (const std::uint32_t word : words) {
             sum = (sum ^ word) * 0x9E3779B97F4A7C15U;

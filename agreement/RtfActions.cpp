@@ -19,7 +19,7 @@ std::int32_t parameterOr(const RtfToken& token, std::int32_t absent)
 
 RtfInterpreter::Handler RtfInterpreter::handlerOf(RtfAction action)
 {
-    static constexpr std::pair<RtfAction, Handler> rows[] = {
+    static constexpr auto rows = std::to_array<std::pair<RtfAction, Handler>>({
         {RtfAction::nothing, &RtfInterpreter::doNothing},
         {RtfAction::character, &RtfInterpreter::doCharacter},
         {RtfAction::destination, &RtfInterpreter::doDestination},
@@ -57,10 +57,10 @@ RtfInterpreter::Handler RtfInterpreter::handlerOf(RtfAction action)
         {RtfAction::row, &RtfInterpreter::doRow},
         {RtfAction::page, &RtfInterpreter::doPage},
         {RtfAction::samePage, &RtfInterpreter::doSamePage},
-    };
+    });
     static constexpr auto handlers = [] {
         std::array<Handler, static_cast<std::size_t>(RtfAction::count)> filled{};
-        static_assert(std::size(rows) == filled.size());
+        static_assert(rows.size() == filled.size());
         for (const auto& [key, handler] : rows) {
             filled[static_cast<std::size_t>(key)] = handler;
         }
@@ -277,7 +277,7 @@ void RtfInterpreter::doPageBreakBefore(std::int32_t, const RtfToken& token)
 
 void RtfInterpreter::doParagraph(std::int32_t, const RtfToken&)
 {
-    if (group_.destination != Destination::body || character_[CharacterFlag::hidden]) {
+    if (group_.destination != Destination::body || character_.is(CharacterFlag::hidden)) {
         return;
     }
     if (paragraph_.inTable != 0) {

@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstddef>
-#include <iterator>
 
 namespace corvellane {
 namespace {
@@ -23,7 +22,7 @@ constexpr ControlWord word(std::string_view name, RtfAction action)
 
 using enum RtfAction;
 
-constexpr ControlWord words[] = {
+constexpr auto words = std::to_array<ControlWord>({
     word("rtf", nothing),
     word("ansi", nothing),
     word("mac", codePage, 10000),
@@ -217,10 +216,10 @@ constexpr ControlWord words[] = {
     word("userprops", destination, Destination::skipped),
     word("xe", destination, Destination::skipped),
     word("xmlnstbl", destination, Destination::skipped),
-};
+});
 
 constexpr std::size_t slotCount = 1024;
-static_assert(std::size(words) * 4 < slotCount);
+static_assert(words.size() * 4 < slotCount);
 
 constexpr std::size_t slotOf(std::string_view name)
 {
@@ -233,9 +232,9 @@ constexpr std::size_t slotOf(std::string_view name)
 
 /// 1 + the index of a word in the slot of its name or in the next free one after it; 0 in a free slot.
 constexpr std::array<std::uint8_t, slotCount> slots = [] {
-    static_assert(std::size(words) <= UINT8_MAX);
+    static_assert(words.size() <= UINT8_MAX);
     std::array<std::uint8_t, slotCount> filled{};
-    for (std::size_t index = 0; index < std::size(words); ++index) {
+    for (std::size_t index = 0; index < words.size(); ++index) {
         std::size_t slot = slotOf(words[index].name);
         while (filled[slot] != 0) {
             slot = (slot + 1) % slotCount;

@@ -22,7 +22,7 @@ RtfInterpreter::RtfInterpreter(std::string_view bytes)
 bool RtfInterpreter::run()
 {
     for (;;) {
-        const RtfToken token = lexer_.next();
+        const RtfToken& token = lexer_.next();
         const bool opened = groupJustOpened_;
         groupJustOpened_ = false;
         if (isOptional_ && token.kind != RtfToken::Kind::word) {
@@ -47,8 +47,8 @@ bool RtfInterpreter::run()
             isOptional_ = opened && token.text == "*";
             onSymbol(token);
             break;
-        case RtfToken::Kind::byte:
-            onByte(static_cast<char>(token.parameter));
+        case RtfToken::Kind::bytes:
+            onBytes(token.text);
             break;
         case RtfToken::Kind::text:
             onText(token);
@@ -152,7 +152,7 @@ void RtfInterpreter::onSymbol(const RtfToken& token)
         fallback_ = 0;
         doParagraph(0, token);
     } else if (symbol == '\\' || symbol == '{' || symbol == '}') {
-        onByte(symbol);
+        onBytes(token.text);
     } else if (fallback_ > 0) {
         --fallback_;
     } else if (symbol == '~' || symbol == '_') {
@@ -162,23 +162,29 @@ void RtfInterpreter::onSymbol(const RtfToken& token)
     }
 }
 
-void RtfInterpreter::onByte(char byte)
+/// Passes over what of the bytes belongs to a fallback.
+std::string_view RtfInterpreter::withoutFallback(std::string_view bytes)
 {
-    if (fallback_ > 0) {
-        --fallback_;
-    } else if (std::string* const out = sink()) {
-        decoder_.appendByte(byte, *page_, *out);
-    }
-}
-
-void RtfInterpreter::onText(const RtfToken& token)
-{
-    std::string_view bytes = token.text;
     if (fallback_ > 0) {
         const std::size_t passed = std::min(bytes.size(), static_cast<std::size_t>(fallback_));
         fallback_ -= static_cast<std::int32_t>(passed);
         bytes.remove_prefix(passed);
     }
+    return bytes;
+}
+
+/// Bytes that are not written as they are never stand for RTF's own characters.
+void RtfInterpreter::onBytes(std::string_view bytes)
+{
+    const std::string_view wanted = withoutFallback(bytes);
+    if (std::string* const out = wanted.empty() ? nullptr : sink()) {
+        decoder_.appendBytes(wanted, *page_, *out);
+    }
+}
+
+void RtfInterpreter::onText(const RtfToken& token)
+{
+    const std::string_view bytes = withoutFallback(token.text);
     if (group_.destination == Destination::colorTable) {
         for (auto entries = std::count(bytes.begin(), bytes.end(), ';'); entries > 0; --entries) {
             colors_.finishEntry();
@@ -192,7 +198,7 @@ void RtfInterpreter::onText(const RtfToken& token)
 
 void RtfInterpreter::putFontNames(std::string_view bytes, bool ascii)
 {
-    for (std::size_t end = bytes.find(';'); end != bytes.npos; end = bytes.find(';')) {
+    for (std::size_t end = bytes.find(';'); end != std::string_view::npos; end = bytes.find(';')) {
         putText(bytes.substr(0, end), ascii);
         fonts_.finishEntry();
         sinkChanged_ = true;
@@ -263,7 +269,7 @@ void RtfInterpreter::findSink()
         sink_ = &fonts_.entryName();
     } else if (group_.destination == Destination::fieldInstruction) {
         sink_ = &instruction_;
-    } else if (group_.destination == Destination::body && !character_[CharacterFlag::hidden]) {
+    } else if (group_.destination == Destination::body && !character_.is(CharacterFlag::hidden)) {
         if (builder_.beginRun(characterIndex(), fonts_)) {
             decoder_.breakText();
         }

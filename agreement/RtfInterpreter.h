@@ -35,7 +35,8 @@ private:
     void closeGroup();
     void onWord(const RtfToken& token);
     void onSymbol(const RtfToken& token);
-    void onByte(char byte);
+    void onBytes(std::string_view bytes);
+    std::string_view withoutFallback(std::string_view bytes);
     void onText(const RtfToken& token);
     void skipGroup();
     bool isSkipping(RtfAction action) const;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -16,8 +17,8 @@ struct RtfToken {
         word,
         /// A control symbol: `text` is the character after the backslash, a line feed for any line end.
         symbol,
-        /// A byte written as two hexadecimal digits: `parameter`.
-        byte,
+        /// Bytes of text that are written as two hexadecimal digits each: `text`, until the next token is asked for.
+        bytes,
         /// Raw bytes of text, tabs included.
         text,
     };
@@ -30,8 +31,8 @@ struct RtfToken {
     std::string_view text{};
 };
 
-/// Cuts RTF into tokens that point into the given bytes. Line ends and control characters in the text are left out,
-/// as are the data of \bin and hexadecimal bytes without their digits.
+/// Cuts RTF into tokens that point into the given bytes, or for bytes in hexadecimal into the lexer. Line ends and
+/// control characters in the text are left out, as are the data of \bin and hexadecimal bytes without their digits.
 class RtfLexer {
 public:
     explicit RtfLexer(std::string_view bytes)
@@ -39,7 +40,8 @@ public:
     {
     }
 
-    RtfToken next();
+    /// The next token; it changes with the next call.
+    const RtfToken& next();
 
     /// What the byte after a raw lead byte of a two-byte character would be, taken as its trail byte although it
     /// means something else to RTF; -1 for a byte that is to be read as RTF. Moves nothing.
@@ -49,17 +51,21 @@ public:
     void skipByte() { ++position_; }
 
 private:
-    RtfToken lexText();
-    RtfToken lexControl();
-    RtfToken lexWord();
-    RtfToken lexSymbol();
-    RtfToken lexByte();
-    void lexParameter(RtfToken& token);
-    void skipBinary(const RtfToken& token);
+    bool lexToken();
+    bool lexControl();
+    void lexText();
+    void lexWord();
+    void lexSymbol();
+    bool lexBytes();
+    int hexByteAt(std::size_t position) const;
+    void lexParameter();
+    void skipBinary();
     bool at(std::size_t offset, char wanted) const;
 
     std::string_view bytes_;
     std::size_t position_ = 0;
+    RtfToken token_;
+    std::array<char, 256> hexBytes_{};
 };
 
 } // namespace corvellane

@@ -32,7 +32,7 @@ struct CharacterState {
     std::uint8_t padding = 0;
 
     std::uint8_t& operator[](CharacterFlag flag) { return flags[static_cast<std::size_t>(flag)]; }
-    bool operator[](CharacterFlag flag) const { return flags[static_cast<std::size_t>(flag)] != 0; }
+    bool is(CharacterFlag flag) const { return flags[static_cast<std::size_t>(flag)] != 0; }
 };
 
 enum class ParagraphLength : std::uint8_t { left, right, firstLine, before, after, line };

@@ -63,12 +63,23 @@ void TextBuilder::endParagraph(std::uint32_t character, std::uint32_t paragraph,
     firstRun_ = result_.runs.size();
 }
 
+/// Paragraph after paragraph sets the same stops: the one that came next last time is tried before any other.
 std::uint32_t TextBuilder::addTab(TabState state)
 {
+    std::uint32_t& next = nextTabs_[state.previous];
+    if (next != 0 && tabs_[next - 1].position == state.position && tabs_[next - 1].kind == state.kind) {
+        return next;
+    }
     if (state.previous != 0) {
         state.count = static_cast<std::uint16_t>(tabs_[state.previous - 1].count + 1);
     }
-    return state.count > mostTabs ? state.previous : 1 + tabs_.index(state);
+    if (state.count > mostTabs) {
+        return state.previous;
+    }
+    next = 1 + tabs_.index(state);
+    const std::uint32_t added = next;
+    nextTabs_.resize(tabs_.values().size() + 1);
+    return added;
 }
 
 std::uint32_t TextBuilder::addLink(std::string target)

@@ -50,6 +50,8 @@ private:
     Interner<CharacterState> characters_;
     Interner<ParagraphState> paragraphs_;
     Interner<TabState> tabs_;
+    /// The tab stop that followed each one last, 0 for none; at the index 0 what followed none.
+    std::vector<std::uint32_t> nextTabs_{0};
     /// States told apart only by what is visible in them.
     Interner<CharacterState> attributes_;
     /// 1 + the index of the attributes of a character state, 0 where not yet known.

@@ -35,11 +35,12 @@ void TextDecoder::appendBytes(std::string_view bytes, CodePage& page, std::strin
 /// Gives the number of bytes taken.
 std::size_t TextDecoder::appendCharacters(std::string_view bytes, CodePage& page, std::string& out)
 {
-    char buffer[512];
-    char* to = buffer;
+    std::array<char, 512> buffer;
+    char* to = buffer.data();
     const char* from = bytes.data();
     const char* const end = from + bytes.size();
-    while (from != end && to + longestUtf8 <= buffer + sizeof buffer && static_cast<unsigned char>(*from) >= 0x80) {
+    while (
+        from != end && to + longestUtf8 <= buffer.data() + buffer.size() && static_cast<unsigned char>(*from) >= 0x80) {
         char32_t code = page.decode(*from);
         if (code <= 0x10FFFF) {
             from += 1;
@@ -51,7 +52,7 @@ std::size_t TextDecoder::appendCharacters(std::string_view bytes, CodePage& page
         }
         to += writeUtf8(to, code);
     }
-    out.append(buffer, static_cast<std::size_t>(to - buffer));
+    out.append(buffer.data(), static_cast<std::size_t>(to - buffer.data()));
     return static_cast<std::size_t>(from - bytes.data());
 }
 
@@ -76,8 +77,8 @@ bool TextDecoder::continueCharacter(char byte, CodePage& page, std::string& out)
 {
     lead_[leadLength_] = byte;
     const char32_t code
-        = endsWithPending(out) ? page.decode(std::string_view(lead_, leadLength_ + 1)) : CodePage::invalid;
-    if (code == CodePage::incomplete && leadLength_ + 1 < sizeof lead_) {
+        = endsWithPending(out) ? page.decode(std::string_view(lead_.data(), leadLength_ + 1)) : CodePage::invalid;
+    if (code == CodePage::incomplete && leadLength_ + 1 < lead_.size()) {
         ++leadLength_;
         return true;
     }
@@ -93,7 +94,8 @@ bool TextDecoder::continueCharacter(char byte, CodePage& page, std::string& out)
 bool TextDecoder::completesCharacter(char byte, CodePage& page, const std::string& out)
 {
     lead_[leadLength_] = byte;
-    return awaitsTrail() && endsWithPending(out) && page.decode(std::string_view(lead_, leadLength_ + 1)) <= 0x10FFFF;
+    return awaitsTrail() && endsWithPending(out)
+        && page.decode(std::string_view(lead_.data(), leadLength_ + 1)) <= 0x10FFFF;
 }
 
 void TextDecoder::appendUnit(char32_t code, std::string& out)

@@ -2,6 +2,7 @@
 
 #include "agreement/CodePage.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -41,7 +42,7 @@ private:
     bool continueCharacter(char byte, CodePage& page, std::string& out);
     void appendPending(std::string& out);
 
-    char lead_[4] = {};
+    std::array<char, 4> lead_{};
     std::size_t leadLength_ = 0;
     char32_t highSurrogate_ = 0;
     const std::string* pendingIn_ = nullptr;

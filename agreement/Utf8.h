@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string>
 
@@ -42,8 +43,8 @@ inline std::size_t writeUtf8(char* to, char32_t code)
 
 inline void appendUtf8(std::string& out, char32_t code)
 {
-    char bytes[longestUtf8];
-    out.append(bytes, writeUtf8(bytes, code));
+    std::array<char, longestUtf8> bytes;
+    out.append(bytes.data(), writeUtf8(bytes.data(), code));
 }
 
 } // namespace corvellane

@@ -1,13 +1,31 @@
 #include "app/Installer.h"
 
 #include "app/AppDelegate.h"
+#include "platform/posix/DirectPrompt.h"
+#include "platform/posix/PkexecPrompt.h"
 
 #include <QApplication>
 
+#include <unistd.h>
+
 namespace corvellane {
+namespace {
+
+/// Root need not be asked.
+std::unique_ptr<AdministratorPrompt> makePrompt(const ExecutableBundle& bundle)
+{
+    if (geteuid() == 0) {
+        return std::make_unique<DirectPrompt>(realUser());
+    }
+    return std::make_unique<PkexecPrompt>(bundle.program("corvellane-command-runner"));
+}
+
+} // namespace
 
 Installer::Installer()
-    : translations_(bundle_.folder("translations").value_or(""), QLocale::system())
+    : prompt_(makePrompt(bundle_))
+    , scripts_({shell_, *prompt_, fileManager_, folders_})
+    , translations_(bundle_.folder("translations").value_or(""), QLocale::system())
     , scene_({application_, console_, dispatcher_, files_, pasteboard_, bundle_, scripts_, folders_, workspace_})
 {
     AppDelegate::applicationDidFinishLaunching(application_);

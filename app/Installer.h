@@ -1,12 +1,11 @@
 #pragma once
 
 #include "app/CorvellaneInstallerApp.h"
-#include "platform/posix/DirectPrompt.h"
 #include "platform/posix/ExecutableBundle.h"
 #include "platform/posix/PosixFileListing.h"
 #include "platform/posix/PosixShell.h"
 #include "platform/posix/PosixStandardFolders.h"
-#include "platform/posix/StandardOutput.h"
+#include "platform/posix/StreamConsole.h"
 #include "platform/qt/DBusFileManager.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtDispatcher.h"
@@ -14,6 +13,9 @@
 #include "platform/qt/QtWorkspace.h"
 #include "platform/qt/Translations.h"
 #include "platform/script/InterpretedScriptService.h"
+
+#include <cstdio>
+#include <memory>
 
 namespace corvellane {
 
@@ -29,16 +31,16 @@ public:
 
 private:
     QtApplication application_;
-    StandardOutput console_;
+    StreamConsole console_{stdout};
     QtDispatcher dispatcher_;
     PosixFileListing files_;
     QtPasteboard pasteboard_;
     ExecutableBundle bundle_;
     PosixStandardFolders folders_;
     PosixShell shell_{realUser()};
-    DirectPrompt prompt_{realUser(), DirectPrompt::Use::install};
+    std::unique_ptr<AdministratorPrompt> prompt_;
     DBusFileManager fileManager_;
-    InterpretedScriptService scripts_{{shell_, prompt_, fileManager_, folders_}};
+    InterpretedScriptService scripts_;
     QtWorkspace workspace_;
     Translations translations_;
     CorvellaneInstallerApp scene_;

@@ -85,6 +85,7 @@ void requireBounded(const AttributedText& text, std::size_t size)
 } // namespace
 } // namespace corvellane
 
+// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer calls it by this name.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);

@@ -6,43 +6,48 @@
 namespace corvellane {
 namespace {
 
-/// What each byte becomes; the empty text stands for the byte itself.
+/// What each byte becomes; most stay as they are.
 class Escapes {
 public:
     constexpr Escapes& with(char character, std::string_view replacement)
     {
         replacements_[static_cast<unsigned char>(character)] = replacement;
+        isPlain_[static_cast<unsigned char>(character)] = false;
         return *this;
     }
 
-    std::string apply(std::string_view text) const
+    std::string apply(std::string text) const
     {
-        std::string escaped;
-        while (!text.empty()) {
-            const std::size_t plain = lengthOfPlainStart(text);
-            escaped.append(text.substr(0, plain));
-            if (plain < text.size()) {
-                escaped.append(replacementOf(text[plain]));
-            }
-            text.remove_prefix(std::min(plain + 1, text.size()));
+        const auto firstEscaped = std::find_if_not(text.begin(), text.end(), [&](char byte) { return isPlain(byte); });
+        if (firstEscaped == text.end()) {
+            return text;
         }
+        std::string escaped(text.begin(), firstEscaped);
+        std::for_each(firstEscaped, text.end(), [&](char byte) { append(escaped, byte); });
         return escaped;
     }
 
 private:
-    std::string_view replacementOf(char character) const
+    bool isPlain(char byte) const { return isPlain_[static_cast<unsigned char>(byte)]; }
+
+    void append(std::string& escaped, char byte) const
     {
-        return replacements_[static_cast<unsigned char>(character)];
+        if (isPlain(byte)) {
+            escaped += byte;
+        } else {
+            escaped += replacements_[static_cast<unsigned char>(byte)];
+        }
     }
 
-    std::size_t lengthOfPlainStart(std::string_view text) const
+    static constexpr std::array<bool, 256> allPlain()
     {
-        const auto* end
-            = std::find_if(text.begin(), text.end(), [&](char character) { return !replacementOf(character).empty(); });
-        return static_cast<std::size_t>(end - text.begin());
+        std::array<bool, 256> plain{};
+        plain.fill(true);
+        return plain;
     }
 
     std::array<std::string_view, 256> replacements_{};
+    std::array<bool, 256> isPlain_ = allPlain();
 };
 
 constexpr Escapes luaEscapes = Escapes().with('\\', R"(\\)").with('"', R"(\")").with('\n', R"(\n)").with('\r', R"(\r)");
@@ -54,17 +59,17 @@ constexpr Escapes literalEscapes = Escapes().with('\\', R"(\\)").with('"', R"(\"
 
 std::string asArgument(std::string_view path)
 {
-    return literalEscapes.apply(shellEscapes.apply(path));
+    return literalEscapes.apply(shellEscapes.apply(std::string(path)));
 }
 
 std::string asEchoedText(std::string_view path)
 {
-    return asArgument(echoEscapes.apply(path));
+    return asArgument(echoEscapes.apply(std::string(path)));
 }
 
 std::string asEchoedLuaString(std::string_view path)
 {
-    return asEchoedText(luaEscapes.apply(path));
+    return asEchoedText(luaEscapes.apply(std::string(path)));
 }
 
 } // namespace corvellane

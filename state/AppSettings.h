@@ -92,7 +92,7 @@ public:
     void checkAccess();
 
 private:
-    void runInBackground(std::string script, std::function<void(ScriptExecution)> completion);
+    void runInBackground(std::string source, std::function<void(ScriptExecution)> completion);
     void applyOutcome(const ScriptOutcome& outcome);
     void applyProbe(const ScriptExecution& execution);
     void printFailure(const std::string& description);

@@ -4,20 +4,21 @@
 #include "platform/Console.h"
 #include "tools/JsonObject.h"
 
+#include <array>
 #include <span>
 #include <string_view>
 
 namespace corvellane {
 namespace {
 
-constexpr const char* alignmentNames[] = {"", "left", "right", "centre", "justified"};
-constexpr const char* lineHeightNames[] = {"", "multiple", "atLeast", "exactly"};
-constexpr const char* tabNames[] = {"left", "centre", "right", "decimal"};
-constexpr const char* scriptNames[] = {"", "super", "sub"};
-constexpr const char* capitalsNames[] = {"", "small", "all"};
+constexpr std::array alignmentNames{"", "left", "right", "centre", "justified"};
+constexpr std::array lineHeightNames{"", "multiple", "atLeast", "exactly"};
+constexpr std::array tabNames{"left", "centre", "right", "decimal"};
+constexpr std::array scriptNames{"", "super", "sub"};
+constexpr std::array capitalsNames{"", "small", "all"};
 
 template <typename Kind, std::size_t Count>
-std::string_view nameOf(Kind kind, const char* const (&names)[Count])
+std::string_view nameOf(Kind kind, const std::array<const char*, Count>& names)
 {
     return names[static_cast<std::size_t>(kind)];
 }

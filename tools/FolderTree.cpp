@@ -27,7 +27,7 @@ std::string describe(const fs::path& path, const std::string& name)
 
 } // namespace
 
-std::vector<std::string> describeTree(const std::string& folder)
+std::vector<std::string> describeTree(const std::string& folder, const std::string& base)
 {
     std::error_code error;
     std::vector<fs::path> paths;
@@ -39,7 +39,7 @@ std::vector<std::string> describeTree(const std::string& folder)
     std::vector<std::string> lines;
     lines.reserve(paths.size());
     for (const fs::path& path : paths) {
-        lines.push_back(describe(path, printable(path.lexically_relative(folder).native())));
+        lines.push_back(describe(path, printable(path.lexically_relative(base.empty() ? "/" : base).native())));
     }
     return lines;
 }

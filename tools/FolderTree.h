@@ -5,8 +5,8 @@
 
 namespace corvellane {
 
-/// What stands below `folder`, itself left out, sorted by path: one line an entry with its type, a file's size in
-/// bytes, its path from `folder` on, and a link's target. Links are not followed.
-std::vector<std::string> describeTree(const std::string& folder);
+/// What stands below `folder`, itself left out, sorted by path: one line an entry with its type, its path from `base`
+/// on, a file's size in bytes and a link's target. Links are not followed.
+std::vector<std::string> describeTree(const std::string& folder, const std::string& base);
 
 } // namespace corvellane

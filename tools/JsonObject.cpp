@@ -1,5 +1,6 @@
 #include "tools/JsonObject.h"
 
+#include <array>
 #include <cstdio>
 
 namespace corvellane {
@@ -17,9 +18,9 @@ std::string escaped(char letter)
     case '\t':
         return "\\t";
     default:
-        char code[8];
-        std::snprintf(code, sizeof code, "\\u%04x", static_cast<unsigned>(static_cast<unsigned char>(letter)));
-        return code;
+        std::array<char, 8> code{};
+        std::snprintf(code.data(), code.size(), "\\u%04x", static_cast<unsigned>(static_cast<unsigned char>(letter)));
+        return code.data();
     }
 }
 
@@ -54,9 +55,9 @@ void JsonObject::addFlag(std::string_view key, bool value)
 
 void JsonObject::addNumber(std::string_view key, double value)
 {
-    char number[64];
-    const int length = std::snprintf(number, sizeof number, "%.6f", value);
-    std::string_view digits(number, static_cast<std::size_t>(length));
+    std::array<char, 64> number{};
+    const int length = std::snprintf(number.data(), number.size(), "%.6f", value);
+    std::string_view digits(number.data(), static_cast<std::size_t>(length));
     digits = digits.substr(0, digits.find_last_not_of('0') + 1);
     digits = digits.substr(0, digits.find_last_not_of('.') + 1);
     addJson(key, digits == "0" || digits == "-0" ? "" : digits);

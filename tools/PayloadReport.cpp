@@ -42,6 +42,7 @@ public:
     {
         warn(warnAboutName(folder));
         warn(warnAboutEntries(files_, folder));
+        warn(warnAboutAgreement(folder));
     }
 
     void reportProduct(const std::string& location)

@@ -3,6 +3,8 @@
 #include "install/ElementKind.h"
 #include "install/ScriptEscapes.h"
 #include "products/DisplayOrder.h"
+#include "tools/AgreementReport.h"
+#include "tools/PrintableText.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -69,8 +71,8 @@ PayloadWarnings warnAboutLightroomContents(const std::string& path)
     for (const std::string& needed :
         {"Corvellane Velvetgrain " + digit, "velvetgrain" + digit + ".lrdevplugin", "Velvetgrain" + digit + ".app"}) {
         std::error_code error;
-        if (!fs::is_directory(path + "/" + needed, error)) {
-            warnings.push_back({path, "lacks the folder “" + needed + "”, which the script needs"});
+        if (!fs::is_directory(fs::path(path) / needed, error)) {
+            warnings.push_back({path, "lacks the folder " + quotedPrintable(needed) + ", which the script needs"});
         }
     }
     return warnings;
@@ -129,6 +131,20 @@ PayloadWarnings warnAboutEntries(const FileListing& files, const std::string& fo
         }
     }
     return warnings;
+}
+
+PayloadWarnings warnAboutAgreement(const std::string& productsFolder)
+{
+    const fs::path folder = fs::path(productsFolder).parent_path();
+    const std::string name = folder.filename();
+    if (name != "resources" && name != "Resources") {
+        return {};
+    }
+    const fs::path agreement = folder / "CorvellaneEULA.rtf";
+    if (const auto problem = agreementProblem(agreement)) {
+        return {{agreement, "is no agreement to show: " + *problem}};
+    }
+    return {};
 }
 
 PayloadWarnings warnAboutMissingElements(const std::string& product, const std::vector<std::string>& elements)

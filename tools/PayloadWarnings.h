@@ -19,6 +19,9 @@ using PayloadWarnings = std::vector<PayloadWarning>;
 /// Entries of a folder that are no folders, and so are neither products nor elements; or that it cannot be listed.
 PayloadWarnings warnAboutEntries(const FileListing& files, const std::string& folder);
 
+/// The agreement of the resource folder that the products folder lies in; nothing when it lies in another folder.
+PayloadWarnings warnAboutAgreement(const std::string& productsFolder);
+
 /// A product that installs nothing.
 PayloadWarnings warnAboutMissingElements(const std::string& product, const std::vector<std::string>& elements);
 

@@ -71,7 +71,7 @@ private:
     RehearsalResources resources_;
     PosixStandardFolders folders_;
     PosixShell shell_{realUser()};
-    DirectPrompt prompt_{realUser(), DirectPrompt::Use::rehearsal};
+    DirectPrompt prompt_{realUser()};
     InterpretedScriptService scripts_{{shell_, prompt_, fileManager_, folders_}};
     std::shared_ptr<AppSettings> settings_;
 };

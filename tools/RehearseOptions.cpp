@@ -9,10 +9,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Links and ".." stay as they are: only the system knows where they lead.
 std::string absolutePath(const std::string& path)
 {
     std::error_code error;
-    std::string absolute = fs::absolute(path, error).lexically_normal().native();
+    std::string absolute = fs::absolute(path, error).native();
     while (absolute.size() > 1 && absolute.ends_with('/')) {
         absolute.pop_back();
     }
@@ -21,6 +22,8 @@ std::string absolutePath(const std::string& path)
 
 /// Takes the arguments one by one; the first mistake is kept and ends them.
 class OptionReader {
+    using Subject = RehearseOptions::Subject;
+
 public:
     explicit OptionReader(const std::vector<std::string>& arguments)
         : next_(arguments.begin())
@@ -48,9 +51,14 @@ private:
         if (argument == "--script") {
             options_.script = true;
         } else if (argument == "--into") {
-            options_.into = absolutePath(valueOf(argument));
+            const std::string folder = absolutePath(valueOf(argument));
+            options_.into = folder == "/" ? "" : folder;
         } else if (argument == "--select") {
             options_.select.push_back(valueOf(argument));
+        } else if (argument == "--agreement") {
+            readAgreement(Subject::agreement, argument);
+        } else if (argument == "--agreement-text") {
+            readAgreement(Subject::agreementText, argument);
         } else if (argument == "--" && next_ != end_) {
             readProductsFolder(*next_++);
         } else if (argument.starts_with('-')) {
@@ -58,6 +66,12 @@ private:
         } else {
             readProductsFolder(argument);
         }
+    }
+
+    void readAgreement(Subject subject, const std::string& argument)
+    {
+        options_.subject = subject;
+        options_.agreement = valueOf(argument);
     }
 
     std::string valueOf(const std::string& option)
@@ -80,9 +94,14 @@ private:
     void check()
     {
         std::error_code error;
-        if (options_.productsFolder.empty()) {
-            error_ = "the products folder is missing; usage: "
-                     "rehearse [--script] [--into FOLDER] [--select NAME]... PRODUCTS";
+        if (options_.subject != Subject::products) {
+            if (!options_.productsFolder.empty()) {
+                error_ = "an agreement is shown without a products folder: " + quotedPrintable(options_.productsFolder);
+            }
+        } else if (options_.productsFolder.empty()) {
+            error_ = "the products folder is missing; usage: rehearse [--script] [--into FOLDER] [--select NAME]... "
+                     "PRODUCTS, "
+                     "or rehearse --agreement FILE, or rehearse --agreement-text FILE";
         } else if (!fs::is_directory(options_.productsFolder, error)) {
             error_ = quotedPrintable(options_.productsFolder) + " is no folder";
         }

@@ -9,8 +9,13 @@ namespace corvellane {
 
 /// What the command line asks of a rehearsal.
 struct RehearseOptions {
+    enum class Subject { products, agreement, agreementText };
+
+    Subject subject = Subject::products;
+    /// The file of the two subjects that are an agreement.
+    std::string agreement;
     bool script = false;
-    /// An absolute path without a trailing "/", with which every host folder begins.
+    /// An absolute path without a trailing "/", with which every host folder begins; empty for the root folder.
     std::optional<std::string> into;
     /// The names of the products to tick; all of them when there is none.
     std::vector<std::string> select;

@@ -5,7 +5,6 @@
 #include <QListView>
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <utility>
@@ -192,9 +191,8 @@ void Tour::click(Visit& visit, const std::string& label)
 
 void Tour::picture(Visit& visit, const std::string& name)
 {
-    char number[8] = {};
-    std::snprintf(number, sizeof number, "%02d", ++pictures_);
-    const std::string file = folders_.pictures + "/" + number + "-" + name + ".png";
+    const QString number = QStringLiteral("%1").arg(++pictures_, 2, 10, QLatin1Char('0'));
+    const std::string file = folders_.pictures + "/" + number.toStdString() + "-" + name + ".png";
     expect(visit.wizard.window().grab().save(QString::fromStdString(file)), "the picture " + file + " is saved");
 }
 

@@ -1,5 +1,5 @@
 #include "app/AppDelegate.h"
-#include "platform/posix/StandardOutput.h"
+#include "platform/posix/StreamConsole.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/Translations.h"
 #include "tools/FolderTree.h"
@@ -95,7 +95,7 @@ int rehearse()
     imitateDesktop(options);
     ViewHost::prepareApplication();
     const Translations translations(options.translations.toStdString(), QLocale::system());
-    StandardOutput console;
+    StreamConsole console(stdout);
     return options.tour.isEmpty() ? show(options, console) : tour(options, console);
 }
 

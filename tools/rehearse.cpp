@@ -1,5 +1,6 @@
-#include "platform/posix/StandardOutput.h"
+#include "platform/posix/StreamConsole.h"
 #include "products/DisplayOrder.h"
+#include "tools/AgreementReport.h"
 #include "tools/FolderTree.h"
 #include "tools/PayloadReport.h"
 #include "tools/PrintableText.h"
@@ -63,6 +64,16 @@ int showPayload(AppSettings& settings, const std::string& productsFolder, Consol
     return report.warnings.empty() ? allWell : notWell;
 }
 
+std::vector<std::string> describeHostFolders(const HostPaths& hosts, const std::string& into)
+{
+    std::vector<std::string> lines;
+    for (const std::string& folder : {hosts.application, hosts.photo, hosts.video, hosts.lightroom}) {
+        const auto tree = describeTree(folder, into);
+        lines.insert(lines.end(), tree.begin(), tree.end());
+    }
+    return lines;
+}
+
 int install(Rehearsal& rehearsal, const std::string& into, Console& console)
 {
     rehearsal.install();
@@ -71,20 +82,16 @@ int install(Rehearsal& rehearsal, const std::string& into, Console& console)
     console.print("page: " + std::string(nameOf(settings.currentPage.get())));
     console.print(std::string("completedWithErrors: ") + (withErrors ? "true" : "false"));
     console.print("log: " + settings.logDetailsStr);
-    for (const std::string& line : describeTree(into)) {
+    for (const std::string& line : describeHostFolders(settings.hostPaths(), into)) {
         console.print(line);
     }
     return settings.currentPage.get() == Page::summary && !withErrors ? allWell : notWell;
 }
 
-int rehearse(const std::vector<std::string>& arguments)
+int rehearseProducts(const RehearseOptions& options)
 {
-    const auto parsed = parseOptions(arguments);
-    if (const auto* error = std::get_if<UsageError>(&parsed)) {
-        return complain(error->message);
-    }
-    const auto& options = std::get<RehearseOptions>(parsed);
-    StandardOutput console;
+    // The script stands alone on standard output.
+    StreamConsole console(options.script ? stderr : stdout);
     Rehearsal rehearsal(options.productsFolder, options.into.value_or(""), console);
     if (const auto unknown = select(rehearsal.settings(), options.select)) {
         return complain("there is no product " + quotedPrintable(*unknown));
@@ -96,6 +103,21 @@ int rehearse(const std::vector<std::string>& arguments)
         return install(rehearsal, *options.into, console);
     }
     return showPayload(rehearsal.settings(), options.productsFolder, console);
+}
+
+int rehearse(const std::vector<std::string>& arguments)
+{
+    const auto parsed = parseOptions(arguments);
+    if (const auto* error = std::get_if<UsageError>(&parsed)) {
+        return complain(error->message);
+    }
+    const auto& options = std::get<RehearseOptions>(parsed);
+    if (options.subject == RehearseOptions::Subject::products) {
+        return rehearseProducts(options);
+    }
+    StreamConsole console(stdout);
+    const bool asText = options.subject == RehearseOptions::Subject::agreementText;
+    return reportAgreement(options.agreement, asText ? AgreementForm::plainText : AgreementForm::json, console);
 }
 
 } // namespace

@@ -9,23 +9,25 @@ ExecutableBundle::ExecutableBundle()
     std::error_code error;
     const std::filesystem::path executable = std::filesystem::read_symlink("/proc/self/exe", error);
     if (!error) {
-        resources_ = (executable.parent_path().parent_path() / "Resources").native();
+        folder_ = executable.parent_path().parent_path().native();
     }
+}
+
+std::string ExecutableBundle::program(const std::string& name) const
+{
+    return folder_.value_or("") + "/bin/" + name;
 }
 
 std::optional<std::string> ExecutableBundle::folder(const std::string& name) const
 {
-    return resources_ ? std::optional(*resources_ + "/" + name) : std::nullopt;
+    return folder_ ? std::optional(*folder_ + "/Resources/" + name) : std::nullopt;
 }
 
 std::optional<std::string> ExecutableBundle::file(const std::string& baseName, const std::string& extension) const
 {
-    if (!resources_) {
-        return std::nullopt;
-    }
-    const std::string path = *resources_ + "/" + baseName + "." + extension;
+    const auto path = folder(baseName + "." + extension);
     std::error_code error;
-    return std::filesystem::exists(path, error) ? std::optional(path) : std::nullopt;
+    return path && std::filesystem::exists(*path, error) ? path : std::nullopt;
 }
 
 } // namespace corvellane

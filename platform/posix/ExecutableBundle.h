@@ -11,12 +11,15 @@ public:
     /// The bundle of the running program; without resources when the system does not say where that lies.
     ExecutableBundle();
 
+    /// The path of the program `name` beside the executable.
+    std::string program(const std::string& name) const;
+
     std::optional<std::string> folder(const std::string& name) const override;
     std::optional<std::string> file(const std::string& baseName, const std::string& extension) const override;
 
 private:
-    /// Without a trailing "/".
-    std::optional<std::string> resources_;
+    /// Without a trailing "/"; absent when the system does not say where the executable lies.
+    std::optional<std::string> folder_;
 };
 
 } // namespace corvellane

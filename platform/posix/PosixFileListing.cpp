@@ -76,8 +76,9 @@ FolderListing PosixFileListing::list(const std::string& folder) const
     if (errno != 0) {
         return describe(folder, errno);
     }
-    std::sort(entries.begin(), entries.end(),
-        [](const FolderEntry& left, const FolderEntry& right) { return left.path < right.path; });
+    std::sort(entries.begin(), entries.end(), [&](const FolderEntry& left, const FolderEntry& right) {
+        return left.path.compare(base.size(), std::string::npos, right.path, base.size()) < 0;
+    });
     return entries;
 }
 

@@ -6,8 +6,13 @@ namespace corvellane {
 
 std::vector<std::string> PosixStandardFolders::searchPaths(SearchDirectory directory, SearchDomain domain) const
 {
-    const std::string home = domain == SearchDomain::user ? realUser().home : std::string();
-    const std::string base = prefix_ + (home == "/" ? std::string() : home);
+    std::string base = prefix_;
+    if (domain == SearchDomain::user) {
+        base += realUser().home;
+    }
+    if (base.ends_with('/')) {
+        base.pop_back();
+    }
     return {base + (directory == SearchDirectory::applications ? "/Applications" : "/Library/Application Support")};
 }
 

@@ -9,13 +9,13 @@ namespace corvellane {
 /// The numbers of the errors that scripts and their services raise.
 namespace script_error {
 constexpr int userCanceled = -128;
+constexpr int connectionInvalid = -609;
 constexpr int cannotGetObject = -1728;
 constexpr int cannotConvert = -1700;
 constexpr int notAuthorized = -1743;
 constexpr int notPermitted = -10004;
 constexpr int syntax = -2741;
 constexpr int undefinedVariable = -2753;
-constexpr int outOfStack = -2706;
 } // namespace script_error
 
 /// An error that a running script can catch.

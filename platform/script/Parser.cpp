@@ -239,6 +239,7 @@ private:
         std::string text;
         std::string_view rest = token.spelling.substr(std::min<std::size_t>(1, token.spelling.size()));
         rest.remove_suffix(std::min<std::size_t>(1, rest.size()));
+        text.reserve(rest.size());
         for (auto escape = rest.find('\\'); escape != std::string_view::npos; escape = rest.find('\\')) {
             const char character = escapedCharacter(rest[escape + 1]);
             if (character == '\0') {

@@ -1,6 +1,7 @@
 #include "platform/script/TokenStream.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <utility>
 
@@ -47,7 +48,7 @@ bool TokenStream::at(std::string_view word) const
 
 bool TokenStream::atReservedWord() const
 {
-    constexpr std::string_view words[] = {"administrator", "application", "do", "end", "error", "on", "path",
+    constexpr std::array<std::string_view, 18> words{"administrator", "application", "do", "end", "error", "on", "path",
         "privileges", "return", "script", "set", "shell", "support", "tell", "to", "try", "with", "without"};
     return std::any_of(std::begin(words), std::end(words), [&](std::string_view word) { return at(word); });
 }

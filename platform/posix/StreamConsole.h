@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/Console.h"
+
+#include <cstdio>
+
+namespace corvellane {
+
+/// One of the process's standard streams, flushed after every print.
+class StreamConsole : public Console {
+public:
+    explicit StreamConsole(std::FILE* stream)
+        : stream_(stream)
+    {
+    }
+
+    void print(std::string_view text) override
+    {
+        std::fwrite(text.data(), 1, text.size(), stream_);
+        std::fputc('\n', stream_);
+        std::fflush(stream_);
+    }
+
+private:
+    std::FILE* stream_;
+};
+
+} // namespace corvellane
