@@ -35,12 +35,15 @@ QWidget* firstFocusable(const Mounted& root)
     return first;
 }
 
+/// What a person would call the alert: its words, or the name of the log in it.
 QString wordsOf(const Mounted& root)
 {
     QString words;
     forEachMounted(root, [&](const Mounted& each) {
         if (each.as<Text>() != nullptr) {
             words += (words.isEmpty() ? "" : " ") + static_cast<QLabel*>(each.widget)->text();
+        } else if (each.as<LogArea>() != nullptr) {
+            words += each.widget->accessibleName();
         }
     });
     return words;

@@ -29,6 +29,24 @@ bool takesRoom(const Mounted& mounted)
     return mounted.as<Nothing>() == nullptr && mounted.as<Timer>() == nullptr;
 }
 
+/// Puts the children's widgets into the order of the tree: the one in which they are read out, and the last in front.
+void restack(const Mounted& mounted)
+{
+    QObjectList wanted;
+    for (const auto& child : mounted.children) {
+        if (child->widget != nullptr && takesRoom(*child)) {
+            wanted.append(child->widget);
+        }
+    }
+    QObjectList standing = mounted.widget->children();
+    standing.removeIf([&](QObject* object) { return !wanted.contains(object); });
+    if (standing != wanted) {
+        for (QObject* const object : wanted) {
+            static_cast<QWidget*>(object)->raise();
+        }
+    }
+}
+
 } // namespace
 
 bool Reconciler::update(std::unique_ptr<Mounted>& mounted, View view, QWidget* parent)
@@ -122,10 +140,8 @@ void Reconciler::arrange(Mounted& mounted)
             continue;
         }
         slotsOfChildren.push_back(slotOf(*child));
-        if (mounted.as<Layers>() != nullptr && child->widget != nullptr) {
-            child->widget->raise();
-        }
     }
+    restack(mounted);
     if (const auto* stack = mounted.as<Stack>()) {
         panel->viewLayout().arrange(*stack, std::move(slotsOfChildren));
     } else if (const auto* layers = mounted.as<Layers>()) {

@@ -7,7 +7,8 @@ namespace corvellane {
 struct AttributedText;
 
 /// Replaces what is in `document`, which keeps no record for undoing, by `text` with all its formatting. A length of
-/// one point becomes one device-independent pixel. Needs a QGuiApplication; main thread.
+/// one point becomes one device-independent pixel; sizes of fonts grow with all texts of the window where the desktop's
+/// own font is large. Needs a QApplication; main thread.
 void fillTextDocument(QTextDocument& document, const AttributedText& text);
 
 } // namespace corvellane

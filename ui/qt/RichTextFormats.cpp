@@ -1,6 +1,7 @@
 #include "ui/qt/RichTextFormats.h"
 
 #include "ui/qt/FontSubstitutes.h"
+#include "ui/qt/TextScale.h"
 
 #include <QFontMetricsF>
 #include <QTextOption>
@@ -24,7 +25,7 @@ QColor colorOf(const Color& color)
 QFont fontFor(const TextAttributes& attributes, const AttributedText& text)
 {
     QFont font(substitutesFor(text.families[attributes.family]));
-    font.setPixelSize(std::max(1, qRound(attributes.size)));
+    font.setPixelSize(std::max(1, qRound(attributes.size * textScale())));
     font.setBold(attributes.bold);
     font.setItalic(attributes.italic);
     font.setUnderline(attributes.underline || attributes.link);

@@ -8,8 +8,8 @@
 namespace corvellane {
 
 /// The format of `attributes`, which are some of `text`'s. A point is one device-independent pixel, as in all lengths
-/// of the window; sizes of fonts are rounded to whole ones, which are all that Qt sets text in. The colour of text
-/// without one of its own is left to the palette.
+/// of the window; sizes of fonts grow with the window's texts and are rounded to whole pixels, which are all that Qt
+/// sets text in. The colour of text without one of its own is left to the palette.
 QTextCharFormat charFormatFor(const TextAttributes& attributes, const AttributedText& text);
 
 /// The format of the paragraph at `index`. The space between two paragraphs all belongs to the lower one, for of two

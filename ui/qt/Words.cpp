@@ -1,22 +1,10 @@
 #include "ui/qt/Words.h"
 
-#include <QApplication>
-#include <QFontInfo>
+#include "ui/qt/TextScale.h"
 
-#include <algorithm>
+#include <QApplication>
 
 namespace corvellane {
-namespace {
-
-/// Desktops set their text at 9 to 11 points of 96 dots an inch; what is larger has been asked for.
-constexpr double largestUsualPixelSize = 15;
-
-double textScale()
-{
-    return std::max(1.0, QFontInfo(QApplication::font()).pixelSize() / largestUsualPixelSize);
-}
-
-} // namespace
 
 QString localized(const std::string& key)
 {

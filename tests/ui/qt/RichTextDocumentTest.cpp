@@ -4,6 +4,7 @@
 #include "ui/qt/FontSubstitutes.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QApplication>
 #include <QImage>
 #include <QPainter>
 #include <QRawFont>
@@ -58,6 +59,16 @@ TEST(RichTextDocument, makesAPointOneDeviceIndependentPixel)
     EXPECT_DOUBLE_EQ(QRawFont::fromFont(formatOf("text").font()).pixelSize(), 12);
     EXPECT_DOUBLE_EQ(QRawFont::fromFont(formatOf(R"(\fs21 text)").font()).pixelSize(), 11);
     EXPECT_DOUBLE_EQ(QRawFont::fromFont(formatOf(R"(\fs1 text)").font()).pixelSize(), 1);
+}
+
+TEST(RichTextDocument, growsWithTheDesktopsOwnFont)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPixelSize(30);
+    QApplication::setFont(large);
+    EXPECT_DOUBLE_EQ(QRawFont::fromFont(formatOf("text").font()).pixelSize(), 24);
+    QApplication::setFont(usual);
 }
 
 TEST(RichTextDocument, carriesEveryStyleOfARun)
