@@ -3,14 +3,13 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QTimer>
-#include <QWidget>
 
 namespace corvellane {
 
-/// Ends the program when a window has been painted for the first time.
+/// Ends the program when a widget has been painted for the first time.
 class EndAtFirstPaint : public QObject {
 public:
-    explicit EndAtFirstPaint(QWidget& window) { window.installEventFilter(this); }
+    EndAtFirstPaint() { QCoreApplication::instance()->installEventFilter(this); }
 
     bool eventFilter(QObject*, QEvent* event) override
     {

@@ -8,6 +8,6 @@ int main(int count, char** arguments)
     const QApplication platform(count, arguments);
     corvellane::ViewHost::prepareApplication();
     corvellane::Installer installer;
-    const corvellane::EndAtFirstPaint end(installer.window());
+    const corvellane::EndAtFirstPaint end;
     return installer.run();
 }

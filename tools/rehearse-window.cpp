@@ -68,7 +68,7 @@ int tour(const Options& options, Console& console)
     for (const std::string& fault : faults) {
         std::fprintf(stderr, "rehearse-window: not so: %s\n", fault.c_str());
     }
-    for (const std::string& line : describeTree(options.into.toStdString())) {
+    for (const std::string& line : describeTree(options.into.toStdString(), options.into.toStdString())) {
         console.print(line);
     }
     return faults.empty() ? 0 : 1;

@@ -48,7 +48,7 @@ TEST(RtfText, endsParagraphsAndLines)
         {" a\\page b\\par\\page c", "a\nb\nc\n"},
         {" a\\sect\\sectd b\\par\\sect\\sectd c", "a\nb\nc\n"},
         {" a\\u8233 ?b", "a\nb\n"},
-        {std::string(" a\tb\x01\0c\f", 9), "a\tbc\n"},
+        {std::string(" a\tb\x01\0c\f", 8), "a\tbc\n"},
     });
 }
 
