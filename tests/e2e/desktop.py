@@ -38,23 +38,29 @@ class Desktop:
     """Xvfb and a window manager; everything started here is ended by its own id."""
 
     def __enter__(self):
+        self.processes = []
+        try:
+            self.open()
+        except BaseException:
+            self.close()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        self.close()
+
+    def open(self):
         read, write = os.pipe()
-        self.processes = [
-            subprocess.Popen(
-                ["Xvfb", "-displayfd", str(write), "-nolisten", "tcp", "-noreset", "-screen", "0", "1024x768x24"],
-                pass_fds=[write],
-                stderr=subprocess.DEVNULL,
-            )
-        ]
+        display = ["Xvfb", "-displayfd", str(write), "-nolisten", "tcp", "-noreset", "-screen", "0", "1024x768x24"]
+        self.start(*display, pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as number:
             os.environ["DISPLAY"] = ":" + number.readline().strip()
         wait_for("the display", lambda: self.answers("getdisplaygeometry"))
         self.start("openbox")
         wait_for("the window manager", lambda: self.answers("get_num_desktops"))
-        return self
 
-    def __exit__(self, *_):
+    def close(self):
         for process in reversed(self.processes):
             process.terminate()
             process.wait()

@@ -132,7 +132,7 @@ TEST_F(WindowWorld, opensLongLogsAndScrollsThem)
     }
     goTo(Page::summary);
     show(settings().showLogDetailsWindow, true);
-    auto* const log = dynamic_cast<QAbstractScrollArea*>(named("Details"));
+    auto* const log = named<QAbstractScrollArea>("Details");
     ASSERT_NE(log, nullptr);
     EXPECT_EQ(log->verticalScrollBar()->value(), 0);
     EXPECT_GT(log->verticalScrollBar()->maximum(), 200'000 * 10);

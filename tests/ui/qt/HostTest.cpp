@@ -178,7 +178,7 @@ TEST_F(WindowWorld, showsNamesAndLogsAsTheyStand)
     settings().logDetailsStr = "<b>not bold</b>\n<img src=\"/etc/passwd\"> & more";
     goTo(Page::summary);
     show(settings().showLogDetailsWindow, true);
-    auto* const log = dynamic_cast<LogView*>(named("Details"));
+    auto* const log = named<LogView>("Details");
     ASSERT_NE(log, nullptr);
     EXPECT_EQ(log->size(), QSize(500, 300));
     QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(log);

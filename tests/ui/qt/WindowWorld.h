@@ -52,11 +52,13 @@ protected:
     }
 
     /// The visible widget of that accessible name.
-    QWidget* named(const QString& name)
+    template <typename Kind = QWidget>
+    Kind* named(const QString& name)
     {
         for (QWidget* const each : window().findChildren<QWidget*>()) {
-            if (each->isVisible() && each->accessibleName() == name) {
-                return each;
+            auto* const found = dynamic_cast<Kind*>(each);
+            if (found != nullptr && each->isVisible() && each->accessibleName() == name) {
+                return found;
             }
         }
         return nullptr;
