@@ -16,7 +16,7 @@ namespace {
 constexpr int inset = 10;
 constexpr int aboveName = 4;
 
-const ListRow rowOf(const QModelIndex& index)
+ListRow rowOf(const QModelIndex& index)
 {
     return static_cast<const ProductModel*>(index.model())->rowAt(index.row());
 }
