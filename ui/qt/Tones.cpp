@@ -1,11 +1,16 @@
 #include "ui/qt/Tones.h"
 
-#include <utility>
+#include <array>
 
 namespace corvellane {
 namespace {
 
-constexpr std::pair<QPalette::ColorRole, QRgb> lightColors[]{
+struct RoleColor {
+    QPalette::ColorRole role;
+    QRgb color;
+};
+
+constexpr std::array<RoleColor, 20> lightColors{{
     {QPalette::WindowText, 0xff000000},
     {QPalette::Button, 0xfffafafa},
     {QPalette::Light, 0xffffffff},
@@ -26,7 +31,7 @@ constexpr std::pair<QPalette::ColorRole, QRgb> lightColors[]{
     {QPalette::ToolTipBase, 0xffffffff},
     {QPalette::ToolTipText, 0xff000000},
     {QPalette::PlaceholderText, 0xff6e6e73},
-};
+}};
 
 } // namespace
 
@@ -48,7 +53,7 @@ QColor colorOf(Tint tint)
     case Tint::separator:
         return QColor::fromRgb(0xffd8d8d8);
     case Tint::windowBackground:
-        return QColor(241, 241, 241);
+        return {241, 241, 241};
     default:
         return QColor::fromRgb(0xff000000);
     }
