@@ -5,4 +5,4 @@ build_packages="cmake ninja-build g++ pkg-config libutf8proc-dev libgtest-dev li
 window_packages="xvfb xauth fonts-dejavu-core fonts-liberation"
 test_packages="$build_packages $window_packages clang clang-tidy clang-format libclang-rt-14-dev lua5.4
     dbus polkitd pkexec passwd desktop-file-utils appstream lintian dpkg-dev zstd
-    at-spi2-core python3 python3-pyatspi xdotool xclip openbox"
+    at-spi2-core python3 python3-dbus python3-pyatspi xdotool xclip openbox"

@@ -44,6 +44,7 @@ TEST(DBusFileManager, waitsASecondForOneThatDoesNotAnswer)
     while (!bus->isServiceRegistered(service) && silent.state() == QProcess::Running) {
         silent.waitForFinished(20);
     }
+    ASSERT_TRUE(bus->isServiceRegistered(service)) << silent.readAllStandardError().toStdString();
     QElapsedTimer timer;
     timer.start();
     EXPECT_FALSE(askInBackground());
