@@ -157,12 +157,21 @@ void promptToFirstCommand(benchmark::State& state)
 }
 BENCHMARK(promptToFirstCommand)->UseRealTime()->Unit(benchmark::kMillisecond)->MinTime(2);
 
+std::string peakMemoryOf(Shell& shell)
+{
+    const auto result = shell.run("sed -n 's/^VmHWM:[[:space:]]*//p' /proc/$PPID/status");
+    return std::get<CommandResult>(result).output;
+}
+
 void printPeakMemory()
 {
     const auto shell = runner();
+    for (const std::string& command : sampleCommands()) {
+        benchmark::DoNotOptimize(shell->run(inBsdDialect(command)));
+    }
+    std::cout << "the runner's peak memory after the samples: " << peakMemoryOf(*shell);
     benchmark::DoNotOptimize(shell->run("head -c 100000000 /dev/zero; head -c 100000000 /dev/zero >&2"));
-    const auto result = shell->run("grep VmHWM /proc/$PPID/status");
-    std::cout << "the runner's peak memory after 100 MB on each stream: " << std::get<CommandResult>(result).output;
+    std::cout << "and after 100 MB on each stream: " << peakMemoryOf(*shell);
 }
 
 } // namespace

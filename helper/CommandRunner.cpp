@@ -71,6 +71,11 @@ std::string asFourBytes(std::uint32_t number)
         static_cast<char>(number)};
 }
 
+bool writeText(const std::string& text)
+{
+    return writeAll(asFourBytes(static_cast<std::uint32_t>(text.size()))) && writeAll(text);
+}
+
 /// Absent at the end of the input and for a request that breaks the rules.
 std::optional<std::string> readCommand()
 {
@@ -105,6 +110,8 @@ struct Stream {
         }
         readEnd = ends[0];
         writeEnd = ends[1];
+        // Only what is written to becomes memory; growing step by step would copy.
+        kept.reserve(mostKept);
         return fcntl(readEnd, F_SETFL, O_NONBLOCK) == 0;
     }
 
@@ -199,9 +206,8 @@ bool answer(std::string& command)
     }
     output.closeBoth();
     errors.closeBoth();
-    return writeAll(asFourBytes(static_cast<std::uint32_t>(status))
-        + asFourBytes(static_cast<std::uint32_t>(output.kept.size())) + output.kept
-        + asFourBytes(static_cast<std::uint32_t>(errors.kept.size())) + errors.kept);
+    return writeAll(asFourBytes(static_cast<std::uint32_t>(status))) && writeText(output.kept)
+        && writeText(errors.kept);
 }
 
 /// The user who was asked, by the number that pkexec passes on.
