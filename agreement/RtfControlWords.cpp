@@ -218,16 +218,17 @@ constexpr auto words = std::to_array<ControlWord>({
     word("xmlnstbl", destination, Destination::skipped),
 });
 
-constexpr std::size_t slotCount = 1024;
+constexpr std::size_t slotCount = 1U << 10U;
 static_assert(words.size() * 4 < slotCount);
 
+/// Words differ by their first letters and their lengths, but for a few that then stand in neighbouring slots.
 constexpr std::size_t slotOf(std::string_view name)
 {
-    std::uint32_t sum = 0x811C9DC5U;
-    for (const char letter : name) {
-        sum = (sum ^ static_cast<unsigned char>(letter)) * 0x01000193U;
+    std::uint64_t letters = name.size();
+    for (const char letter : name.substr(0, 7)) {
+        letters = letters << 8U | static_cast<unsigned char>(letter);
     }
-    return (sum ^ sum >> 15U) % slotCount;
+    return letters * 0x9E3779B97F4A7C15U >> 54U;
 }
 
 /// 1 + the index of a word in the slot of its name or in the next free one after it; 0 in a free slot.
