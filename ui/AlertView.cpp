@@ -8,10 +8,11 @@
 namespace corvellane {
 namespace {
 
+/// The gaps may vanish, so that the tallest card fits the smallest window.
 View centred(View card)
 {
     return column(
-        standardSpacing, Placement::centre, gap(), row(standardSpacing, gap(), std::move(card), gap()), gap());
+        standardSpacing, Placement::centre, gap(0), row(standardSpacing, gap(0), std::move(card), gap(0)), gap(0));
 }
 
 View dimmedFrame(std::string identity, View card)

@@ -93,6 +93,15 @@ TEST_F(WindowWorld, givesCardsTheWindowUpToTheirSize)
     EXPECT_LE(cardOf(window()).height(), 400);
 }
 
+TEST_F(WindowWorld, staysAsSmallAsItIsUnderTheTallestCard)
+{
+    settings().logDetailsStr = "message";
+    goTo(Page::summary);
+    show(settings().showLogDetailsWindow, true);
+    EXPECT_EQ(window().size(), QSize(648, 405));
+    expectNothingCutOff(window(), "log");
+}
+
 TEST_F(WindowWorld, cutsNothingOffInLargeLetters)
 {
     const QFont usual = QApplication::font();
