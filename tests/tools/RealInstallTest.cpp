@@ -74,7 +74,6 @@ public:
 std::string editorPathIn(const std::string& preset)
 {
     PosixShell shell(realUser());
-    setenv("PRESET", preset.c_str(), 1);
     const ScratchFolder scratch;
     fs::copy_file(preset, scratch.path() + "/preset.lua");
     auto result = shell.run(
