@@ -1,6 +1,7 @@
 """A display with a window manager, and the wizard on it as assistive technology sees it."""
 
 import os
+import re
 import subprocess
 import time
 
@@ -76,9 +77,9 @@ class Desktop:
 
 
 class Wizard:
-    """A run of the installer."""
+    """A run of the installer, of its own or as the program of a polkit-test-agent with the given answers."""
 
-    def __init__(self, desktop, bundle, output):
+    def __init__(self, desktop, bundle, output, agent=()):
         import pyatspi  # connects to the bus at once
 
         self.atspi = pyatspi
@@ -86,14 +87,20 @@ class Wizard:
         self.output = output
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", LANGUAGE="en")
         with open(output, "wb") as file:
-            self.process = subprocess.Popen([bundle + "/bin/corvellane-installer"], stdout=file, env=environment)
+            command = [*agent, bundle + "/bin/corvellane-installer"]
+            self.process = subprocess.Popen(command, stdout=file, env=environment)
         desktop.processes.append(self.process)
+        self.pid = wait_for("the agent", self.pid_by_the_agent) if agent else self.process.pid
         self.window = wait_for("the window", self.find_window)
+
+    def pid_by_the_agent(self):
+        found = re.search(r"^program: (\d+)\n", self.printed(), re.MULTILINE)
+        return found and int(found[1])
 
     def find_window(self):
         assert self.process.poll() is None, "the installer has ended"
         for application in self.atspi.Registry.getDesktop(0):
-            if application and application.get_process_id() == self.process.pid and application.childCount:
+            if application and application.get_process_id() == self.pid and application.childCount:
                 return application[0]
         return None
 
@@ -139,6 +146,13 @@ class Wizard:
         self.press(name)
         wait_for(shown, lambda: shown in self.said())
 
+    def walk_to_the_confirmation(self):
+        self.press_until("Next", "label Software License Agreement")
+        self.press_until("Next", "push button Agree")
+        self.press_until("Agree", "label Select Products to install")
+        self.press_until("Next", "label The following Products will be installed")
+        self.press_until("Next", "push button Install")
+
     def key(self, name):
         subprocess.run(["xdotool", "key", "--clearmodifiers", name], check=True)
 
@@ -161,9 +175,12 @@ class Wizard:
         self.key(key)
         return wait_for("another focus", lambda: self.while_it_stands(lambda: focused() != before and focused()))
 
-    def result_line(self):
+    def printed(self):
         with open(self.output, encoding="utf-8", errors="surrogateescape", newline="") as file:
-            return file.read().rpartition("ERROR VALUE ")[2]
+            return file.read()
+
+    def result_line(self):
+        return self.printed().rpartition("ERROR VALUE ")[2]
 
     def ends(self):
         assert self.process.wait(PATIENCE) == 0, f"exit code {self.process.returncode}"

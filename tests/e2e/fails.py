@@ -1,6 +1,7 @@
-"""A run whose second element lacks what its host needs: the failure is shown, and its log goes to the clipboard."""
+"""Products that go between their page and the installation: the failure is shown, and its log goes to the clipboard."""
 
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -21,19 +22,19 @@ def on_clipboard():
 
 with Desktop() as desktop:
     bundle = sys.argv[1]
-    shutil.rmtree(bundle + "/Resources/Products/Velvetgrain Lightroom/Velvetgrain 3 Lightroom/Corvellane Velvetgrain 3")
     for folder in HOST_FOLDERS:
         os.makedirs(folder)
     wizard = Wizard(desktop, bundle, "/Applications/output")
-    wizard.press_until("Next", "label Software License Agreement")
-    wizard.press_until("Next", "push button Agree")
-    wizard.press_until("Agree", "label Select Products to install")
-    wizard.press_until("Next", "label The following Products will be installed")
-    wizard.press_until("Next", "push button Install")
+    wizard.walk_to_the_confirmation()
+    for gone in ["Velvetgrain Photo", "Velvetgrain Lightroom/Velvetgrain 3 Lightroom/Corvellane Velvetgrain 3"]:
+        shutil.rmtree(bundle + "/Resources/Products/" + gone)
     wizard.press("Install")
     wizard.shows(*FAILURE)
     log = wizard.result_line().removesuffix("\n")
     assert "Corvellane Velvetgrain 3" in log and "No such file or directory" in log, log
+    assert re.search("^Fail__ .*Velvetgrain Photo", wizard.printed(), re.MULTILINE), "what is left out is printed"
+    assert os.listdir("/Applications/Corvellane") == ["Velvetgrain 3 Lightroom"], "what was done before stays"
+    assert os.listdir(HOST_FOLDERS[0]) == [], "nothing after it ran"
 
     wizard.press("Details")
     panel = ["dialog Details", "text Details focused", "push button Copy to Clipboard", "push button Close"]

@@ -1,6 +1,7 @@
-// polkit-test-agent ANSWER PROGRAM ARGUMENT...: runs a program and answers the password windows that polkit asks for on
-// its behalf, as the present user: with the password "password:TEXT", by dismissing it ("dismiss"), by letting it wait
-// ("wait"), or with no agent at all ("none"). Exits as the program does.
+// polkit-test-agent ANSWER[,ANSWER...] PROGRAM ARGUMENT...: runs a program and answers the password windows that polkit
+// asks for on its behalf, as the present user: with the password "password:TEXT", by dismissing it ("dismiss"), by
+// letting it wait ("wait"), or with no agent at all ("none"). Each window has an answer of its own, the last one also
+// for all that follow. Exits as the program does.
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
@@ -56,8 +57,8 @@ void authenticate(const QString& cookie, const QString& password)
 
 class Agent : public QDBusVirtualObject {
 public:
-    explicit Agent(QString answer)
-        : answer_(std::move(answer))
+    explicit Agent(QStringList answers)
+        : answers_(std::move(answers))
     {
     }
 
@@ -70,18 +71,19 @@ public:
         }
         std::printf("prompt: %s\n", qPrintable(message.arguments().at(1).toString()));
         std::fflush(stdout);
-        if (answer_ == "wait") {
+        const QString answer = answers_.size() > 1 ? answers_.takeFirst() : answers_.first();
+        if (answer == "wait") {
             return true;
         }
-        if (answer_ == "dismiss") {
+        if (answer == "dismiss") {
             return bus.send(message.createErrorReply("org.freedesktop.PolicyKit1.Error.Cancelled", "dismissed"));
         }
-        authenticate(message.arguments().at(4).toString(), answer_.section(':', 1));
+        authenticate(message.arguments().at(4).toString(), answer.section(':', 1));
         return bus.send(message.createReply());
     }
 
 private:
-    QString answer_;
+    QStringList answers_;
 };
 
 /// When the process started, in the kernel's ticks: the 22nd field of its status.
@@ -115,15 +117,15 @@ int main(int count, char** arguments)
     const QCoreApplication application(count, arguments);
     qDBusRegisterMetaType<Subject>();
     const QStringList words = QCoreApplication::arguments();
-    const QString& answer = words.at(1);
+    const QString& answers = words.at(1);
     QProcess program;
     program.setProcessChannelMode(QProcess::ForwardedChannels);
     // The program keeps its process id, and waits until the agent is there.
     program.start("/bin/sh", QStringList{"-c", "read -r go; exec \"$@\" </dev/null", "sh"} + words.mid(2));
     program.waitForStarted();
-    Agent agent(answer);
+    Agent agent(answers.split(','));
     QDBusConnection bus = QDBusConnection::systemBus();
-    if (answer != "none") {
+    if (answers != "none") {
         bus.registerVirtualObject(agentPath, &agent);
         if (!registerAgent(bus, program.processId())) {
             return 3;

@@ -5,11 +5,13 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
+
 namespace corvellane {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
+using testing::HasSubstr;
 
 /// Names that a shell, a script or a preset would take for something else.
 std::vector<std::string> hostileNames()
@@ -113,35 +115,33 @@ TEST(RealInstall, installsLightroomElementsOfAnyName)
     EXPECT_FALSE(fs::exists("/pwned"));
 }
 
-/// Fails one command without running it and runs the others.
+/// Runs one command without the means to open a file, so that it fails, and the others as they are.
 class FailingShell : public Shell {
 public:
-    FailingShell(int failing, int& ran)
+    FailingShell(int failing, const std::function<void()>& beforeCommand)
         : failing_(failing)
-        , ran_(ran)
+        , beforeCommand_(beforeCommand)
     {
     }
     std::variant<CommandResult, ScriptError> run(const std::string& command) override
     {
-        if (ran_++ == failing_) {
-            return CommandResult{1, "", "made to fail\n"};
-        }
-        return shell_.run(command);
+        beforeCommand_();
+        return shell_.run(failing_-- == 0 ? "ulimit -n 3; " + command : command);
     }
 
 private:
     int failing_;
-    int& ran_;
+    const std::function<void()>& beforeCommand_;
     PosixShell shell_{realUser()};
 };
 
 struct FailingPrompt : AdministratorPrompt {
     std::variant<std::unique_ptr<Shell>, ScriptError> authorize() override
     {
-        return std::make_unique<FailingShell>(failing, ran);
+        return std::make_unique<FailingShell>(failing, beforeCommand);
     }
     int failing = -1;
-    int ran = 0;
+    std::function<void()> beforeCommand;
 };
 
 /// Scripts of three elements, one of each kind, and what runs them.
@@ -165,7 +165,8 @@ protected:
         const std::string script = composeInstallScript(
             hosts, {from + "Tessellane 2.plugin", from + "A.plugin", from + "Velvetgrain 3 Lightroom"});
         prompt.failing = failing;
-        prompt.ran = 0;
+        begun.clear();
+        prompt.beforeCommand = [this, &into] { begun.push_back(treeOf(into)); };
         InterpretedScriptService service({shell, prompt, fileManager, folders});
         return service.create(script)->execute().result.value().text.value();
     }
@@ -191,6 +192,8 @@ protected:
     ScratchFolder scratch;
     PosixShell shell{realUser()};
     FailingPrompt prompt;
+    /// What each command found.
+    std::vector<std::vector<std::string>> begun;
     NoFileManager fileManager;
     FakeFolders folders;
 };
@@ -198,13 +201,14 @@ protected:
 TEST_F(FailureTest, stopsAtAnyFailingCommandAndIsHealedByASecondRun)
 {
     ASSERT_EQ(run("whole", -1), "Ok");
-    const int commands = prompt.ran;
-    EXPECT_EQ(commands, 19);
+    const auto steps = begun;
+    EXPECT_EQ(steps.size(), 19);
     const auto whole = treeOf("whole");
-    for (int failing = 0; failing < commands; ++failing) {
+    for (std::size_t failing = 0; failing < steps.size(); ++failing) {
         const std::string into = "run " + std::to_string(failing);
-        EXPECT_EQ(run(into, failing), "made to fail");
-        EXPECT_EQ(prompt.ran, failing + 1) << "nothing runs after the command that failed";
+        EXPECT_THAT(run(into, static_cast<int>(failing)), HasSubstr("open"));
+        EXPECT_EQ(begun.size(), failing + 1) << "nothing runs after the command that failed";
+        EXPECT_EQ(treeOf(into), steps[failing]) << "what was done before stays";
         EXPECT_EQ(run(into, -1), "Ok");
         EXPECT_EQ(treeOf(into), whole) << failing;
     }
