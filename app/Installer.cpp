@@ -17,7 +17,7 @@ std::unique_ptr<AdministratorPrompt> makePrompt(const ExecutableBundle& bundle)
     if (geteuid() == 0) {
         return std::make_unique<DirectPrompt>(realUser());
     }
-    return std::make_unique<PkexecPrompt>(bundle.program("corvellane-command-runner"));
+    return std::make_unique<PkexecPrompt>(bundle.program("corvellane-command-runner"), bundle.folder("Products"));
 }
 
 } // namespace

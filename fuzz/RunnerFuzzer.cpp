@@ -4,16 +4,13 @@
 #include "helper/CommandRunner.cpp"
 #undef main
 
-#include <sys/mman.h>
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const int file = memfd_create("requests", MFD_CLOEXEC);
-    if (write(file, data, size) != static_cast<ssize_t>(size) || lseek(file, 0, SEEK_SET) != 0) {
+    FILE* const input = fmemopen(const_cast<std::uint8_t*>(data), size, "r");
+    if (input == nullptr) {
         std::abort();
     }
-    dup2(file, STDIN_FILENO);
-    close(file);
+    stdin = input;
     std::size_t taken = 0;
     for (auto command = readCommand(); command; command = readCommand()) {
         taken += command->size() + 4;
@@ -21,6 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             std::abort();
         }
     }
+    std::fclose(input);
     if (taken > size) {
         std::abort();
     }

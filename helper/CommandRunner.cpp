@@ -5,14 +5,17 @@
 // the highest first, then the command, at most 1 MiB without NUL. A reply is the exit status (four bytes), then what
 // the command wrote to standard output and to standard error, each as length and bytes, at most 1 MiB. A command is
 // over when its shell has ended, whatever that left in the background. A request that breaks these rules ends the
-// program; nothing is read from anywhere else and no file is written.
+// program; nothing is read from anywhere else and no file is written. In the home of the user who was asked, no command
+// follows a link: what is meant for a folder there cannot be led to another.
 //
 // This file stands alone, so that everything that runs as root can be read in one sitting.
 
+#include <arpa/inet.h>
 #include <fcntl.h>
 #include <poll.h>
 #include <pwd.h>
-#include <spawn.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -29,210 +32,172 @@
 #include <cstring>
 #include <optional>
 #include <string>
-#include <string_view>
-#include <vector>
+#include <utility>
 
 namespace {
 
-constexpr std::string_view upMessage = "corvellane-command-runner 1\n";
+constexpr const char* upMessage = "corvellane-command-runner 1\n";
 constexpr std::size_t longestCommand = std::size_t{1} << 20U;
 constexpr std::size_t mostKept = std::size_t{1} << 20U;
 constexpr int couldNotRun = 127;
 
-bool writeAll(std::string_view bytes)
+struct Reply {
+    int status = couldNotRun;
+    std::string output;
+    std::string errors;
+};
+
+bool readAll(void* bytes, std::size_t size)
 {
-    while (!bytes.empty()) {
-        const ssize_t count = write(STDOUT_FILENO, bytes.data(), bytes.size());
-        if (count < 0 && errno != EINTR) {
-            return false;
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-    }
-    return true;
+    return std::fread(bytes, 1, size, stdin) == size;
 }
 
-bool readAll(char* bytes, std::size_t size)
+void writeNumber(std::uint32_t number)
 {
-    while (size > 0) {
-        const ssize_t count = read(STDIN_FILENO, bytes, size);
-        if (count == 0 || (count < 0 && errno != EINTR)) {
-            return false;
-        }
-        const auto taken = static_cast<std::size_t>(std::max<ssize_t>(count, 0));
-        bytes += taken;
-        size -= taken;
-    }
-    return true;
+    number = htonl(number);
+    std::fwrite(&number, sizeof number, 1, stdout);
 }
 
-std::string asFourBytes(std::uint32_t number)
+void writeText(const std::string& text)
 {
-    return {static_cast<char>(number >> 24U), static_cast<char>(number >> 16U), static_cast<char>(number >> 8U),
-        static_cast<char>(number)};
+    writeNumber(static_cast<std::uint32_t>(text.size()));
+    std::fwrite(text.data(), 1, text.size(), stdout);
 }
 
-bool writeText(const std::string& text)
+bool sendReply(const Reply& reply)
 {
-    return writeAll(asFourBytes(static_cast<std::uint32_t>(text.size()))) && writeAll(text);
+    writeNumber(static_cast<std::uint32_t>(reply.status));
+    writeText(reply.output);
+    writeText(reply.errors);
+    return std::fflush(stdout) == 0;
 }
 
 /// Absent at the end of the input and for a request that breaks the rules.
 std::optional<std::string> readCommand()
 {
-    std::array<unsigned char, 4> header{};
-    if (!readAll(reinterpret_cast<char*>(header.data()), header.size())) {
+    std::uint32_t length = 0;
+    if (!readAll(&length, sizeof length) || ntohl(length) > longestCommand) {
         return std::nullopt;
     }
-    std::size_t length = 0;
-    for (const unsigned char byte : header) {
-        length = length << 8U | byte;
-    }
-    if (length > longestCommand) {
-        return std::nullopt;
-    }
-    std::string command(length, '\0');
-    if (!readAll(command.data(), length) || command.find('\0') != std::string::npos) {
+    std::string command(ntohl(length), '\0');
+    if (!readAll(command.data(), command.size()) || command.find('\0') != std::string::npos) {
         return std::nullopt;
     }
     return command;
 }
 
-struct Stream {
-    int readEnd = -1;
-    int writeEnd = -1;
-    std::string kept;
-
-    bool open()
-    {
-        std::array<int, 2> ends{};
-        if (pipe2(ends.data(), O_CLOEXEC) != 0) {
-            return false;
-        }
-        readEnd = ends[0];
-        writeEnd = ends[1];
-        // Only what is written to becomes memory; growing step by step would copy.
-        kept.reserve(mostKept);
-        return fcntl(readEnd, F_SETFL, O_NONBLOCK) == 0;
-    }
-
-    void closeEnd(int& end)
-    {
-        if (end >= 0) {
-            close(end);
-        }
-        end = -1;
-    }
-
-    void closeBoth()
-    {
-        closeEnd(readEnd);
-        closeEnd(writeEnd);
-    }
-
-    /// Reads what is there, a few pipefuls at most.
-    void drain()
-    {
-        static std::array<char, 65536> buffer;
-        for (int reads = 0; readEnd >= 0 && reads < 16; ++reads) {
-            const ssize_t count = read(readEnd, buffer.data(), buffer.size());
-            if (count > 0) {
-                kept.append(buffer.data(), std::min(static_cast<std::size_t>(count), mostKept - kept.size()));
-            } else if (count < 0 && errno == EAGAIN) {
-                return;
-            } else if (count == 0 || errno != EINTR) {
-                closeEnd(readEnd);
-            }
-        }
-    }
-};
-
-/// Starts the shell with default signals and an empty standard input; an error number when that fails.
-int startShell(std::string& command, const Stream& output, const Stream& errors, pid_t& process)
+/// Becomes the shell, with default signals and an empty standard input.
+[[noreturn]] void becomeShell(const std::string& command, int output, int errors)
 {
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_adddup2(&actions, output.writeEnd, STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, errors.writeEnd, STDERR_FILENO);
-    posix_spawnattr_t attributes;
-    posix_spawnattr_init(&attributes);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
-    sigset_t signals;
-    sigemptyset(&signals);
-    posix_spawnattr_setsigmask(&attributes, &signals);
-    sigfillset(&signals);
-    posix_spawnattr_setsigdefault(&attributes, &signals);
-    std::array<char, 8> shell{"/bin/sh"};
-    std::array<char, 3> option{"-c"};
-    std::array<char*, 4> arguments{shell.data(), option.data(), command.data(), nullptr};
-    const int error = posix_spawn(&process, shell.data(), &actions, &attributes, arguments.data(), environ);
-    posix_spawnattr_destroy(&attributes);
-    posix_spawn_file_actions_destroy(&actions);
-    return error;
+    for (int number = 1; number < NSIG; ++number) {
+        std::signal(number, SIG_DFL);
+    }
+    sigset_t none;
+    sigemptyset(&none);
+    sigprocmask(SIG_SETMASK, &none, nullptr);
+    const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    if (dup2(nothing, STDIN_FILENO) >= 0 && dup2(output, STDOUT_FILENO) >= 0 && dup2(errors, STDERR_FILENO) >= 0) {
+        execl("/bin/sh", "/bin/sh", "-c", command.c_str(), nullptr);
+    }
+    dprintf(errors, "The command could not be run: %s.\n", std::strerror(errno));
+    _exit(couldNotRun);
 }
 
-int waitFor(pid_t process, Stream& output, Stream& errors)
+/// Keeps what is there, a pipeful at most; closes the stream at its end.
+void drain(pollfd& stream, std::string& kept)
 {
-    const auto ended = static_cast<int>(syscall(SYS_pidfd_open, process, 0));
-    bool running = true;
-    while (running && (ended >= 0 || output.readEnd >= 0 || errors.readEnd >= 0)) {
-        std::array<pollfd, 3> events{{{output.readEnd, POLLIN, 0}, {errors.readEnd, POLLIN, 0}, {ended, POLLIN, 0}}};
-        poll(events.data(), events.size(), -1);
-        running = (events[2].revents & POLLIN) == 0;
-        output.drain();
-        errors.drain();
+    static std::array<char, 65536> buffer;
+    if (stream.revents == 0) {
+        return;
     }
-    if (ended >= 0) {
-        close(ended);
+    const ssize_t count = read(stream.fd, buffer.data(), buffer.size());
+    if (count > 0) {
+        kept.append(buffer.data(), std::min(static_cast<std::size_t>(count), mostKept - kept.size()));
+    } else {
+        close(std::exchange(stream.fd, -1));
+    }
+}
+
+/// Reads both streams until the shell has ended; what that leaves in the background is not waited for.
+void collect(pid_t shell, int output, int errors, Reply& reply)
+{
+    const auto ended = static_cast<int>(syscall(SYS_pidfd_open, shell, 0));
+    std::array<pollfd, 3> events{{{output, POLLIN, 0}, {errors, POLLIN, 0}, {ended, POLLIN, 0}}};
+    const auto isOpen = [](const pollfd& event) { return event.fd >= 0; };
+    // Once more after the end, for what was written just before it.
+    for (bool running = true; running && std::any_of(events.begin(), events.end(), isOpen);) {
+        running = events[2].revents == 0;
+        poll(events.data(), events.size(), running ? -1 : 0);
+        drain(events[0], reply.output);
+        drain(events[1], reply.errors);
+    }
+    for (const pollfd& event : events) {
+        close(event.fd);
     }
     int status = 0;
-    while (waitpid(process, &status, 0) < 0 && errno == EINTR) { }
-    return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
+    if (waitpid(shell, &status, 0) == shell) {
+        reply.status = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
+    }
 }
 
-bool answer(std::string& command)
+Reply run(const std::string& command)
 {
-    Stream output;
-    Stream errors;
-    int status = couldNotRun;
-    pid_t process = -1;
-    const int error = output.open() && errors.open() ? startShell(command, output, errors, process) : errno;
-    output.closeEnd(output.writeEnd);
-    errors.closeEnd(errors.writeEnd);
-    if (error == 0) {
-        status = waitFor(process, output, errors);
-    } else {
-        errors.kept = std::string("The command could not be run: ") + std::strerror(error) + ".\n";
+    Reply reply;
+    // Only what is written to becomes memory; growing step by step would copy.
+    reply.output.reserve(mostKept);
+    reply.errors.reserve(mostKept);
+    std::array<int, 2> output{-1, -1};
+    std::array<int, 2> errors{-1, -1};
+    const bool isPiped = pipe2(output.data(), O_CLOEXEC) == 0 && pipe2(errors.data(), O_CLOEXEC) == 0;
+    const pid_t shell = isPiped ? fork() : -1;
+    if (shell == 0) {
+        becomeShell(command, output[1], errors[1]);
     }
-    output.closeBoth();
-    errors.closeBoth();
-    return writeAll(asFourBytes(static_cast<std::uint32_t>(status))) && writeText(output.kept)
-        && writeText(errors.kept);
+    if (shell < 0) {
+        reply.errors = std::string("The command could not be run: ") + std::strerror(errno) + ".\n";
+    }
+    close(output[1]);
+    close(errors[1]);
+    collect(shell, output[0], errors[0], reply);
+    return reply;
 }
 
 /// The user who was asked, by the number that pkexec passes on.
 const passwd* askingUser()
 {
-    const char* text = std::getenv("PKEXEC_UID");
-    uid_t number = 0;
-    const char* end = text == nullptr ? nullptr : text + std::strlen(text);
-    if (text == nullptr || text == end || std::from_chars(text, end, number).ptr != end) {
-        return nullptr;
-    }
-    return getpwuid(number);
+    const char* number = std::getenv("PKEXEC_UID");
+    const char* end = number + (number == nullptr ? 0 : std::strlen(number));
+    uid_t user = 0;
+    const auto [stop, error] = std::from_chars(number, end, user);
+    return number != end && stop == end && error == std::errc() ? getpwuid(user) : nullptr;
 }
 
 /// pkexec says that the user is root; the commands are to know who the person is.
 void rebuildEnvironment(const passwd& user)
 {
-    const std::string name = user.pw_name;
-    const std::string home = user.pw_dir;
     clearenv();
     setenv("PATH", "/usr/bin:/bin:/usr/sbin:/sbin", 1);
     setenv("LC_ALL", "C.UTF-8", 1);
-    setenv("USER", name.c_str(), 1);
-    setenv("LOGNAME", name.c_str(), 1);
-    setenv("HOME", home.c_str(), 1);
+    setenv("USER", user.pw_name, 1);
+    setenv("LOGNAME", user.pw_name, 1);
+    setenv("HOME", user.pw_dir, 1);
+}
+
+/// Has this process and its children follow no link below the user's home: what root writes into a folder there, or
+/// hands to the user, must not be what a link in its place points to. Without support by the kernel (before Linux
+/// 5.14) the links are followed.
+void followNoLinksInTheHomeOf(const passwd& user)
+{
+    struct stat home { };
+    if (user.pw_uid == 0 || stat(user.pw_dir, &home) != 0 || home.st_uid != user.pw_uid) {
+        return;
+    }
+    mount_attr attributes{};
+    attributes.attr_set = MOUNT_ATTR_NOSYMFOLLOW;
+    if (unshare(CLONE_NEWNS) == 0 && mount(nullptr, "/", nullptr, MS_REC | MS_SLAVE, nullptr) == 0
+        && mount(user.pw_dir, user.pw_dir, nullptr, MS_REC | MS_BIND, nullptr) == 0) {
+        mount_setattr(AT_FDCWD, user.pw_dir, AT_RECURSIVE, &attributes, sizeof attributes);
+    }
 }
 
 /// Nothing of the installer's is left to this process but its standard streams; signals of a terminal or of a session
@@ -245,6 +210,7 @@ void standAlone()
     if (chdir("/") != 0) {
         std::abort();
     }
+    std::signal(SIGCHLD, SIG_DFL);
     for (const int number : {SIGPIPE, SIGHUP, SIGINT, SIGTERM, SIGQUIT, SIGTSTP}) {
         std::signal(number, SIG_IGN);
     }
@@ -261,13 +227,14 @@ int main()
         return 2;
     }
     rebuildEnvironment(*user);
-    if (!writeAll(upMessage)) {
-        return 1;
-    }
-    for (auto command = readCommand(); command; command = readCommand()) {
-        if (!answer(*command)) {
-            return 1;
+    followNoLinksInTheHomeOf(*user);
+    bool isHeard = std::fputs(upMessage, stdout) >= 0 && std::fflush(stdout) == 0;
+    while (isHeard) {
+        const auto command = readCommand();
+        if (!command) {
+            return 0;
         }
+        isHeard = sendReply(run(*command));
     }
-    return 0;
+    return 1;
 }

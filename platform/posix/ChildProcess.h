@@ -40,7 +40,9 @@ struct StartFailure {
 };
 std::variant<pid_t, StartFailure> startChild(const Invocation& invocation, const StandardStreams& streams);
 
-/// Waits for the child's end: its exit status, or 128 and the number of the signal that ended it.
+/// Waits for the child's end: its exit status, or 128 and the number of the signal that ended it; `statusUnknown` when
+/// nobody can tell.
+constexpr int statusUnknown = 255;
 int exitStatusOf(pid_t child);
 
 /// Of each stream of a child at most this many bytes are kept.

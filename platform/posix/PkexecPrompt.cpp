@@ -1,10 +1,11 @@
 #include "platform/posix/PkexecPrompt.h"
 
 #include "platform/posix/ChildProcess.h"
+#include "platform/posix/RootOnly.h"
 #include "platform/posix/RunnerShell.h"
 
+#include <sys/prctl.h>
 #include <sys/socket.h>
-#include <sys/stat.h>
 #include <sys/un.h>
 
 #include <array>
@@ -16,8 +17,6 @@
 namespace corvellane {
 namespace {
 
-namespace fs = std::filesystem;
-
 /// What pkexec exits with when it has started nothing.
 constexpr int declined = 126;
 constexpr int notAuthorized = 127;
@@ -27,17 +26,18 @@ ScriptError refusal(std::string message)
     return {std::move(message), script_error::notPermitted};
 }
 
-/// Whether only root can change what the path names: neither the file nor any folder above it is anybody else's,
-/// and nobody else may write to them. In a folder with the sticky bit nobody can replace what is root's.
-bool isRootsAlone(const fs::path& path)
+ScriptError cannotStart(const std::string& reason)
 {
-    struct stat status { };
-    if (stat(path.c_str(), &status) != 0 || status.st_uid != 0) {
-        return false;
+    return refusal("The program that runs commands with administrator rights could not be started. " + reason);
+}
+
+ScriptError cannotAsk(const StartFailure& failure)
+{
+    if (failure.error != ENOENT) {
+        return cannotStart(std::strerror(failure.error));
     }
-    const bool othersMayWrite = (status.st_mode & (S_IWGRP | S_IWOTH)) != 0;
-    const bool isSticky = S_ISDIR(status.st_mode) && (status.st_mode & S_ISVTX) != 0;
-    return (!othersMayWrite || isSticky) && (path == path.root_path() || isRootsAlone(path.parent_path()));
+    return refusal("There is no way to ask for an administrator’s password, because the program pkexec is missing. "
+                   "Install it, or start the installer as root.");
 }
 
 bool isSystemBusRunning()
@@ -50,24 +50,26 @@ bool isSystemBusRunning()
     return connect(connection.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 
-/// `complaint` only chooses the words: pkexec gives a refused password and a missing agent the same status.
+/// `complaint` only chooses the words: pkexec gives a refused password, a missing agent and a fault of its own the same
+/// status. Its words are English, because it gets no environment.
 ScriptError explainRefusal(int status, const std::string& complaint)
 {
+    const auto isSaid = [&complaint](const char* words) { return complaint.find(words) != std::string::npos; };
     if (status == declined) {
         return {"User canceled.", script_error::userCanceled};
     }
-    if (status != notAuthorized) {
-        return refusal("The program that runs commands with administrator rights could not be started. " + complaint);
-    }
-    if (!isSystemBusRunning()) {
+    if (status == notAuthorized && !isSystemBusRunning()) {
         return refusal("There is no way to ask for an administrator’s password, because the system’s message bus is "
                        "not running. Restart the computer, or start the installer as root.");
     }
-    if (complaint.find("No authentication agent found") != std::string::npos) {
+    if (status == notAuthorized && isSaid("No authentication agent found")) {
         return refusal("There is no way to ask for an administrator’s password, because no authentication agent is "
                        "running on this desktop. Start one, or start the installer as root.");
     }
-    return refusal("The administrator user name or password was incorrect.");
+    if (status == notAuthorized && isSaid("Not authorized")) {
+        return refusal("The administrator user name or password was incorrect.");
+    }
+    return cannotStart(complaint);
 }
 
 struct Channel {
@@ -87,19 +89,24 @@ Channel makeChannel()
 std::variant<std::unique_ptr<Shell>, ScriptError> PkexecPrompt::authorize()
 {
     std::error_code error;
-    const fs::path runner = fs::canonical(runner_, error);
-    if (error || !isRootsAlone(runner)) {
-        return refusal("The installer lies in a folder that others than the system’s administrator can change, and so "
-                       "must not ask for administrator rights. Move it to such a folder, for example below /opt.");
+    const std::string runner = std::filesystem::canonical(runner_, error);
+    if (error || !onlyRootCanChange(runner) || (products_ && !onlyRootCanChangeTree(*products_))) {
+        return refusal("The installer can be changed by others than the system’s administrator, and so must not ask "
+                       "for administrator rights. Have it unpacked by root with “tar --no-same-owner”, below /opt for "
+                       "example.");
     }
+    // From here on other programs of the user cannot reach into this process for the channel.
+    prctl(PR_SET_DUMPABLE, 0);
     Channel channel = makeChannel();
     Pipe complaints = makePipe();
+    if (!channel.ours.isOpen() || !complaints.readEnd.isOpen()) {
+        return cannotStart(std::strerror(errno));
+    }
     // pkexec passes parts of its environment on and refuses to start for the sake of others, so it gets none.
-    const auto started = startChild({{pkexec_, "--disable-internal-agent", runner.native()}, {}},
+    const auto started = startChild({{pkexec_, "--disable-internal-agent", runner}, {}},
         {channel.theirs.get(), channel.theirs.get(), complaints.writeEnd.get()});
-    if (std::holds_alternative<StartFailure>(started)) {
-        return refusal("There is no way to ask for an administrator’s password, because the program pkexec is missing. "
-                       "Install it, or start the installer as root.");
+    if (const auto* failure = std::get_if<StartFailure>(&started)) {
+        return cannotAsk(*failure);
     }
     channel.theirs.close();
     complaints.writeEnd.close();

@@ -2,6 +2,7 @@
 
 #include "platform/script/Shell.h"
 
+#include <optional>
 #include <string>
 
 namespace corvellane {
@@ -13,10 +14,12 @@ namespace corvellane {
 /// the runner from starting is `script_error::notPermitted`, with a message that tells a person what to do.
 class PkexecPrompt : public AdministratorPrompt {
 public:
-    /// `runner` is the path of the command runner. Nothing is started that anybody but root could have changed, or
-    /// could still change while the window waits.
-    explicit PkexecPrompt(std::string runner, std::string pkexec = "/usr/bin/pkexec")
+    /// `runner` is the path of the command runner, `products` the folder that its commands copy from. Nothing is asked
+    /// when anybody but root could have changed them, or could still change them while the window waits.
+    explicit PkexecPrompt(
+        std::string runner, std::optional<std::string> products = {}, std::string pkexec = "/usr/bin/pkexec")
         : runner_(std::move(runner))
+        , products_(std::move(products))
         , pkexec_(std::move(pkexec))
     {
     }
@@ -25,6 +28,7 @@ public:
 
 private:
     std::string runner_;
+    std::optional<std::string> products_;
     std::string pkexec_;
 };
 

@@ -1,5 +1,6 @@
-// prompt-try RUNNER SCRIPT: runs the script in the file SCRIPT with administrator rights asked for through polkit, and
-// prints "result: TEXT" or "error: DESCRIPTION". RUNNER is the path of the command runner.
+// prompt-try RUNNER SCRIPT [PRODUCTS]: runs the script in the file SCRIPT with administrator rights asked for through
+// polkit, and prints "result: TEXT" or "error: DESCRIPTION". RUNNER is the path of the command runner, PRODUCTS the
+// folder that the script copies from.
 
 #include "platform/posix/PkexecPrompt.h"
 #include "platform/posix/PosixShell.h"
@@ -21,11 +22,13 @@ struct NoFileManager : corvellane::FileManager {
 
 } // namespace
 
-int main(int, char** arguments)
+int main(int count, char** arguments)
 {
     using namespace corvellane;
     PosixShell shell(realUser());
-    PkexecPrompt prompt(arguments[1], std::getenv("PKEXEC") == nullptr ? "/usr/bin/pkexec" : std::getenv("PKEXEC"));
+    const auto products = count > 3 ? std::optional<std::string>(arguments[3]) : std::nullopt;
+    PkexecPrompt prompt(
+        arguments[1], products, std::getenv("PKEXEC") == nullptr ? "/usr/bin/pkexec" : std::getenv("PKEXEC"));
     NoFileManager fileManager;
     const PosixStandardFolders folders;
     InterpretedScriptService service({shell, prompt, fileManager, folders});

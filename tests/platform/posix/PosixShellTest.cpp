@@ -1,9 +1,11 @@
 #include "platform/posix/PosixShell.h"
 
+#include "platform/posix/ChildProcess.h"
 #include "tests/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <csignal>
 
 namespace corvellane {
@@ -48,6 +50,20 @@ TEST_F(PosixShellTest, givesCommandsDefaultSignals)
     sigprocmask(SIG_SETMASK, &unblocked, nullptr);
     sigaction(SIGPIPE, &before, nullptr);
     EXPECT_EQ(masks.output, "SigBlk 0000000\nSigIgn 0000000\n");
+}
+
+TEST_F(PosixShellTest, learnsHowCommandsEndWhoeverStartedThisProcess)
+{
+    const auto before = std::signal(SIGCHLD, SIG_IGN);
+    EXPECT_EQ(run("exit 3").status, 3);
+    std::signal(SIGCHLD, before);
+}
+
+TEST(StartChild, passesNoStreamOfThisProcessOnForOneThatIsMissing)
+{
+    for (const StandardStreams& streams : {StandardStreams{-1, 1, 2}, {0, -1, 2}, {0, 1, -1}}) {
+        EXPECT_EQ(std::get<StartFailure>(startChild({{"/bin/true"}, {}}, streams)).error, EBADF);
+    }
 }
 
 TEST_F(PosixShellTest, drainsBothStreamsTogetherAndKeepsAMebibyteOfEach)
