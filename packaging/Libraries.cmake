@@ -1,0 +1,29 @@
+# Beside the executable, what it needs beyond a desktop's own libraries: Qt, its platform plugins and what these bring
+# along, each with its licence. Run at installation, for the folder to unpack only: a Debian package names what it
+# depends on instead.
+
+set(bundle "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
+set(plugins ${qtPlugins}/platforms/libqoffscreen.so ${qtPlugins}/platforms/libqxcb.so)
+
+# The C and C++ libraries, fonts, D-Bus, and what talks to the display and its drivers are the machine's own.
+file(GET_RUNTIME_DEPENDENCIES
+    EXECUTABLES ${bundle}/bin/corvellane-installer
+    MODULES ${plugins}
+    RESOLVED_DEPENDENCIES_VAR libraries
+    PRE_INCLUDE_REGEXES ^libQt6 ^libicu ^libxcb- ^libxkbcommon
+        "^lib(b2|double-conversion|gomp|md4c|OpenGL|pcre2-16|png16|utf8proc)[.]"
+    PRE_EXCLUDE_REGEXES .)
+
+file(INSTALL ${libraries} DESTINATION ${bundle}/lib FOLLOW_SYMLINK_CHAIN)
+file(INSTALL ${plugins} DESTINATION ${bundle}/plugins/platforms)
+file(WRITE ${bundle}/bin/qt.conf "[Paths]\nPrefix = ..\nPlugins = plugins\n")
+
+foreach(library ${libraries})
+    get_filename_component(name ${library} NAME)
+    execute_process(COMMAND dpkg-query --search */${name}
+        OUTPUT_VARIABLE owner
+        COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX REPLACE ":.*" "" package ${owner})
+    file(REAL_PATH /usr/share/doc/${package}/copyright license)
+    file(INSTALL ${license} DESTINATION ${bundle}/licenses RENAME ${package})
+endforeach()
