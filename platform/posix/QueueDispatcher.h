@@ -1,22 +1,19 @@
 #pragma once
 
+#include "base/WorkerThread.h"
 #include "platform/Dispatcher.h"
 
 #include <condition_variable>
 #include <deque>
 #include <mutex>
-#include <thread>
 
 namespace corvellane {
 
 /// A dispatcher for programs without an event loop: one worker thread is the background, and the main queue is run
-/// by whoever calls `runMainQueue`.
+/// by whoever calls `runMainQueue`. At its end it runs what is still in the background queue, and drops what is left
+/// for the main thread.
 class QueueDispatcher : public Dispatcher {
 public:
-    QueueDispatcher() = default;
-    /// Runs what is still in the background queue, then ends the worker; drops what is left for the main thread.
-    ~QueueDispatcher() override;
-
     void submitToBackground(Task task) override;
     void submitToMain(Task task) override;
 
@@ -24,15 +21,12 @@ public:
     void runMainQueue();
 
 private:
-    void work();
-
     std::mutex mutex_;
     std::condition_variable changed_;
-    std::deque<Task> background_;
     std::deque<Task> main_;
-    bool working_ = false;
-    bool ending_ = false;
-    std::thread worker_{[this] { work(); }};
+    /// Tasks of the background that have not ended.
+    int unfinished_ = 0;
+    WorkerThread background_;
 };
 
 } // namespace corvellane

@@ -7,26 +7,9 @@
 
 namespace corvellane {
 
-QtDispatcher::~QtDispatcher()
-{
-    {
-        const std::lock_guard lock(mutex_);
-        ending_ = true;
-    }
-    changed_.notify_all();
-    if (worker_.joinable()) {
-        worker_.join();
-    }
-}
-
 void QtDispatcher::submitToBackground(Task task)
 {
-    const std::lock_guard lock(mutex_);
-    background_.push_back(std::move(task));
-    if (!worker_.joinable()) {
-        worker_ = std::thread([this] { work(); });
-    }
-    changed_.notify_all();
+    background_.submit(std::move(task));
 }
 
 void QtDispatcher::submitToMain(Task task)
@@ -64,23 +47,6 @@ void QtDispatcher::runNextOfMain()
     lock.lock();
     if (!main_.empty()) {
         QCoreApplication::postEvent(this, new QEvent(QEvent::User));
-    }
-}
-
-void QtDispatcher::work()
-{
-    std::unique_lock lock(mutex_);
-    while (true) {
-        changed_.wait(lock, [&] { return !background_.empty() || ending_; });
-        if (background_.empty()) {
-            return;
-        }
-        Task task = std::move(background_.front());
-        background_.pop_front();
-        lock.unlock();
-        task();
-        task = nullptr;
-        lock.lock();
     }
 }
 
