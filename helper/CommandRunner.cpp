@@ -32,7 +32,6 @@
 #include <cstring>
 #include <optional>
 #include <string>
-#include <utility>
 
 namespace {
 
@@ -103,7 +102,7 @@ std::optional<std::string> readCommand()
     _exit(couldNotRun);
 }
 
-/// Keeps what is there, a pipeful at most; closes the stream at its end.
+/// Keeps what is there, a pipeful at most; at the stream's end there is nothing more to look for.
 void drain(pollfd& stream, std::string& kept)
 {
     static std::array<char, 65536> buffer;
@@ -114,7 +113,7 @@ void drain(pollfd& stream, std::string& kept)
     if (count > 0) {
         kept.append(buffer.data(), std::min(static_cast<std::size_t>(count), mostKept - kept.size()));
     } else {
-        close(std::exchange(stream.fd, -1));
+        stream.fd = -1;
     }
 }
 
@@ -131,9 +130,7 @@ void collect(pid_t shell, int output, int errors, Reply& reply)
         drain(events[0], reply.output);
         drain(events[1], reply.errors);
     }
-    for (const pollfd& event : events) {
-        close(event.fd);
-    }
+    close(ended);
     int status = 0;
     if (waitpid(shell, &status, 0) == shell) {
         reply.status = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
@@ -158,7 +155,11 @@ Reply run(const std::string& command)
     }
     close(output[1]);
     close(errors[1]);
-    collect(shell, output[0], errors[0], reply);
+    if (shell > 0) {
+        collect(shell, output[0], errors[0], reply);
+    }
+    close(output[0]);
+    close(errors[0]);
     return reply;
 }
 
