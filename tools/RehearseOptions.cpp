@@ -59,6 +59,8 @@ private:
             readAgreement(Subject::agreement, argument);
         } else if (argument == "--agreement-text") {
             readAgreement(Subject::agreementText, argument);
+        } else if (argument == "--help") {
+            options_.subject = Subject::usage;
         } else if (argument == "--" && next_ != end_) {
             readProductsFolder(*next_++);
         } else if (argument.starts_with('-')) {
@@ -94,14 +96,15 @@ private:
     void check()
     {
         std::error_code error;
+        if (options_.subject == Subject::usage) {
+            return;
+        }
         if (options_.subject != Subject::products) {
-            if (!options_.productsFolder.empty()) {
-                error_ = "an agreement is shown without a products folder: " + quotedPrintable(options_.productsFolder);
+            if (!options_.productsFolder.empty() || options_.script || options_.into || !options_.select.empty()) {
+                error_ = "an agreement is shown by itself, without products and what is done with them";
             }
         } else if (options_.productsFolder.empty()) {
-            error_ = "the products folder is missing; usage: rehearse [--script] [--into FOLDER] [--select NAME]... "
-                     "PRODUCTS, "
-                     "or rehearse --agreement FILE, or rehearse --agreement-text FILE";
+            error_ = std::string("the products folder is missing; ") + rehearseUsage;
         } else if (!fs::is_directory(options_.productsFolder, error)) {
             error_ = quotedPrintable(options_.productsFolder) + " is no folder";
         }

@@ -7,9 +7,13 @@
 
 namespace corvellane {
 
+constexpr const char* rehearseUsage
+    = "usage: rehearse [--script] [--into FOLDER] [--select NAME]... PRODUCTS, or rehearse "
+      "--agreement FILE, or rehearse --agreement-text FILE";
+
 /// What the command line asks of a rehearsal.
 struct RehearseOptions {
-    enum class Subject { products, agreement, agreementText };
+    enum class Subject { products, agreement, agreementText, usage };
 
     Subject subject = Subject::products;
     /// The file of the two subjects that are an agreement.

@@ -19,8 +19,8 @@ const std::string agreementQuestion
 const std::string permissionQuestion = "To make changes with Installer please allow Finder access from Settings";
 const std::string confirmation = "Click \"Install\" button to complete the installation.";
 
-/// A point on a row's name, and one to the right of every name.
-constexpr int onName = 50;
+/// A point on a row's symbol, and one to the right of every name.
+constexpr int onSymbol = 17;
 constexpr int besideName = 420;
 
 /// What the host applications have made where they are installed.
@@ -113,8 +113,8 @@ void Tour::seeProducts(Visit& visit)
     expect(rows > 0 && isTicked(visit.user, 0), "the products are listed and ticked");
     picture(visit, "products");
     for (int row = 0; row < rows; ++row) {
-        visit.user.clickRow(row, onName);
-        expect(!isTicked(visit.user, row), "a click on a name unticks it");
+        visit.user.clickRow(row, onSymbol);
+        expect(!isTicked(visit.user, row), "a click on a symbol unticks its row");
     }
     visit.user.clickRow(0, besideName);
     expect(!isTicked(visit.user, 0), "a click beside the name does nothing");

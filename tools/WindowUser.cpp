@@ -81,6 +81,7 @@ QListView* WindowUser::list() const
 void WindowUser::clickRow(int row, int x) const
 {
     if (QListView* const view = list()) {
+        view->scrollTo(view->model()->index(row, 0));
         const QRect area = view->visualRect(view->model()->index(row, 0));
         clickAt(view->viewport()->mapTo(&window_, QPoint(area.left() + x, area.center().y())));
     }

@@ -1,4 +1,5 @@
 #include "app/AppDelegate.h"
+#include "platform/posix/ProcessSetup.h"
 #include "platform/posix/StreamConsole.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/Translations.h"
@@ -91,6 +92,10 @@ int rehearse()
         std::fputs("rehearse-window: usage: rehearse-window --into FOLDER [--tour FOLDER] PRODUCTS\n", stderr);
         return wrongUsage;
     }
+    if (!QDir(options.products).exists()) {
+        std::fprintf(stderr, "rehearse-window: %s is no folder\n", qPrintable(options.products));
+        return wrongUsage;
+    }
     QDir().mkpath(options.into);
     imitateDesktop(options);
     ViewHost::prepareApplication();
@@ -104,6 +109,7 @@ int rehearse()
 
 int main(int count, char** arguments)
 {
+    corvellane::setUpProcess();
     const QApplication platform(count, arguments);
     return corvellane::rehearse();
 }

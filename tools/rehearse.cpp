@@ -1,3 +1,4 @@
+#include "platform/posix/ProcessSetup.h"
 #include "platform/posix/StreamConsole.h"
 #include "products/DisplayOrder.h"
 #include "tools/AgreementReport.h"
@@ -112,6 +113,10 @@ int rehearse(const std::vector<std::string>& arguments)
         return complain(error->message);
     }
     const auto& options = std::get<RehearseOptions>(parsed);
+    if (options.subject == RehearseOptions::Subject::usage) {
+        std::puts(rehearseUsage);
+        return allWell;
+    }
     if (options.subject == RehearseOptions::Subject::products) {
         return rehearseProducts(options);
     }
@@ -125,5 +130,6 @@ int rehearse(const std::vector<std::string>& arguments)
 
 int main(int count, char** arguments)
 {
+    corvellane::setUpProcess();
     return corvellane::rehearse({arguments + 1, arguments + count});
 }

@@ -58,6 +58,9 @@ struct Run {
 
 bool start(const std::string& command, Run& run, pid_t& process)
 {
+    if (std::min({run.input.readEnd(), run.output.readEnd(), run.errors.readEnd()}) < 0) {
+        return false;
+    }
     posix_spawn_file_actions_t actions{};
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, run.input.readEnd(), STDIN_FILENO);
@@ -114,8 +117,11 @@ void converse(Run& run, std::string_view source)
 bool succeeded(pid_t process)
 {
     int status = 0;
-    while (waitpid(process, &status, 0) < 0 && errno == EINTR) { }
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    pid_t ended = -1;
+    do {
+        ended = waitpid(process, &status, 0);
+    } while (ended < 0 && errno == EINTR);
+    return ended == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 std::string withoutLastLineFeed(std::string text)

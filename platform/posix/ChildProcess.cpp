@@ -58,16 +58,6 @@ std::vector<char*> asPointers(const std::vector<std::string>& texts)
     return pointers;
 }
 
-/// Who started this process may have it ignore the ends of children, and then nobody learns how they ended.
-void keepChildrenForTheirStatus()
-{
-    struct sigaction present { };
-    sigaction(SIGCHLD, nullptr, &present);
-    if (present.sa_handler == SIG_IGN) {
-        std::signal(SIGCHLD, SIG_DFL);
-    }
-}
-
 } // namespace
 
 Pipe makePipe()
@@ -84,7 +74,6 @@ std::variant<pid_t, StartFailure> startChild(const Invocation& invocation, const
     if (std::min({streams.input, streams.output, streams.errors}) < 0) {
         return StartFailure{EBADF};
     }
-    keepChildrenForTheirStatus();
     const SpawnSettings settings(streams);
     pid_t child = -1;
     const int error = posix_spawn(&child, invocation.words.front().c_str(), settings.actions(), settings.attributes(),

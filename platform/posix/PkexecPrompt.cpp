@@ -26,9 +26,12 @@ ScriptError refusal(std::string message)
     return {std::move(message), script_error::notPermitted};
 }
 
-ScriptError cannotStart(const std::string& reason)
+/// `reason` may be empty, and may end as programs end what they print.
+ScriptError cannotStart(std::string reason)
 {
-    return refusal("The program that runs commands with administrator rights could not be started. " + reason);
+    reason.erase(reason.find_last_not_of(" \n") + 1);
+    return refusal("The program that runs commands with administrator rights could not be started."
+        + (reason.empty() ? reason : " " + reason));
 }
 
 ScriptError cannotAsk(const StartFailure& failure)

@@ -100,6 +100,8 @@ TEST(RehearseOptions, areReadOrRefusedWithOneLine)
     EXPECT_EQ(errorOf({"/", "--into"}), "--into needs a value");
     EXPECT_EQ(errorOf({"/", "/usr"}), "one products folder is enough: “/usr”");
     EXPECT_EQ(errorOf({scratch.path() + "/gone/"}), "“" + scratch.path() + "/gone” is no folder");
+    EXPECT_EQ(errorOf({"--agreement", "/a", "--into", "/b"}),
+        "an agreement is shown by itself, without products and what is done with them");
     EXPECT_THAT(errorOf({}), testing::StartsWith("the products folder is missing; usage: rehearse "));
 }
 

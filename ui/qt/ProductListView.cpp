@@ -1,5 +1,6 @@
 #include "ui/qt/ProductListView.h"
 
+#include "ui/qt/TextScale.h"
 #include "ui/qt/TintedPicture.h"
 #include "ui/qt/Tones.h"
 #include "ui/qt/Words.h"
@@ -9,6 +10,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace corvellane {
 namespace {
@@ -21,9 +23,16 @@ ListRow rowOf(const QModelIndex& index)
     return static_cast<const ProductModel*>(index.model())->rowAt(index.row());
 }
 
+/// A symbol grows with the text beside it.
+int sizeOf(const Symbol& symbol)
+{
+    return qRound(symbol.size * textScale());
+}
+
 QRect symbolArea(const QRect& row, const Symbol& symbol)
 {
-    return {row.left() + inset, row.top() + (row.height() - symbol.size) / 2, symbol.size, symbol.size};
+    const int size = sizeOf(symbol);
+    return {row.left() + inset, row.top() + (row.height() - size) / 2, size, size};
 }
 
 /// The name's own area; a name longer than the row ends at the row's end.
@@ -75,7 +84,7 @@ void ProductRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 QSize ProductRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const
 {
     const ListRow shown = rowOf(index);
-    const int height = std::max(shown.symbol.size, QFontMetrics(fontOf(shown.name.font)).height());
+    const int height = std::max(sizeOf(shown.symbol), QFontMetrics(fontOf(shown.name.font)).height());
     return {inset, height + 2 * aboveName};
 }
 
@@ -89,7 +98,6 @@ bool ProductRowDelegate::editorEvent(
     };
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
         pressedInside_ = isInside();
         return false;
     case QEvent::MouseButtonRelease:

@@ -28,6 +28,10 @@ public:
 
     void present(const List& list);
 
+protected:
+    /// The second of two quick clicks is a click like the first.
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+
 private:
     ProductModel model_;
     ProductRowDelegate delegate_;

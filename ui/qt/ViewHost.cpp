@@ -6,8 +6,10 @@
 #include <QApplication>
 #include <QEvent>
 #include <QLayout>
+#include <QResizeEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace corvellane {
 
@@ -62,8 +64,11 @@ void ViewHost::layOut()
     }
 }
 
-void ViewHost::resizeEvent(QResizeEvent*)
+void ViewHost::resizeEvent(QResizeEvent* event)
 {
+    if (event->size().width() != event->oldSize().width()) {
+        setLeastSize();
+    }
     layOut();
 }
 

@@ -104,6 +104,9 @@ TEST_F(WindowWorld, togglesARowWhereItIs)
     EXPECT_EQ(list->verticalScrollBar()->value(), 200);
     EXPECT_EQ(click(60), Qt::Checked) << "on the name";
     EXPECT_EQ(click(list->width() - 30), Qt::Checked) << "beside the name";
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, QPoint(60, list->visualRect(row).center().y()));
+    settle();
+    EXPECT_EQ(row.data(Qt::CheckStateRole).toInt(), Qt::Checked) << "two quick clicks";
     list->setFocus();
     list->setCurrentIndex(row);
     QTest::keyClick(list, Qt::Key_Space);
