@@ -1,9 +1,9 @@
 #include "install/InstallScript.h"
 
+#include "base/PathNames.h"
 #include "install/ElementKind.h"
 #include "install/ScriptEscapes.h"
 #include "install/ScriptTemplate.h"
-#include "products/DisplayOrder.h"
 
 namespace corvellane {
 namespace {

@@ -1,5 +1,7 @@
 #include "products/DisplayOrder.h"
 
+#include "base/PathNames.h"
+
 #include <utf8proc.h>
 
 #include <algorithm>
@@ -37,14 +39,6 @@ std::string sortKey(std::string_view name)
 }
 
 } // namespace
-
-std::string_view lastPathComponent(std::string_view path)
-{
-    while (path.size() > 1 && path.ends_with('/')) {
-        path.remove_suffix(1);
-    }
-    return path.substr(path.rfind('/') + 1);
-}
 
 std::vector<std::string> inDisplayOrder(const ProductSelection& selection)
 {

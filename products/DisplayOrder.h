@@ -3,13 +3,9 @@
 #include "products/ProductSelection.h"
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace corvellane {
-
-/// The last component of a path, unchanged; a trailing "/" does not count as one.
-std::string_view lastPathComponent(std::string_view path);
 
 /// The locations of all products, ticked or not, ascending by their folders' names. Names are compared by their
 /// Unicode scalar values in canonical composed form (Unicode Standard Annex 15, form C); one that is not valid UTF-8

@@ -1,6 +1,7 @@
 #include "products/ProductSelection.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace corvellane {
 

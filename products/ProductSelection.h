@@ -2,7 +2,6 @@
 
 #include <map>
 #include <string>
-#include <vector>
 
 namespace corvellane {
 

@@ -1,7 +1,6 @@
 # Checks who includes whom: cmake -D ROOT=<source folder> -P IncludeWalls.cmake
 #
-# A folder may include itself, the folders listed for it, and headers of libraries. Libraries stay where they belong:
-# Qt at the edges, utf8proc with the names.
+# A folder may include itself, the folders listed for it, and headers of libraries. Qt stays at the edges.
 
 cmake_minimum_required(VERSION 3.25)
 

@@ -5,7 +5,6 @@
 #include "tools/JsonObject.h"
 
 #include <array>
-#include <span>
 #include <string_view>
 
 namespace corvellane {

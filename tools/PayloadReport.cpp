@@ -1,5 +1,6 @@
 #include "tools/PayloadReport.h"
 
+#include "base/PathNames.h"
 #include "install/ElementKind.h"
 #include "products/Discovery.h"
 #include "products/DisplayOrder.h"

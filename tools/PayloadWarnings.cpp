@@ -1,13 +1,14 @@
 #include "tools/PayloadWarnings.h"
 
+#include "base/PathNames.h"
 #include "install/ElementKind.h"
 #include "install/ScriptEscapes.h"
-#include "products/DisplayOrder.h"
 #include "tools/AgreementReport.h"
 #include "tools/PrintableText.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 
 namespace corvellane {
 namespace {

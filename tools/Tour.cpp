@@ -4,7 +4,6 @@
 #include <QClipboard>
 #include <QListView>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <utility>

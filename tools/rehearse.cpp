@@ -1,6 +1,6 @@
+#include "base/PathNames.h"
 #include "platform/posix/ProcessSetup.h"
 #include "platform/posix/StreamConsole.h"
-#include "products/DisplayOrder.h"
 #include "tools/AgreementReport.h"
 #include "tools/FolderTree.h"
 #include "tools/PayloadReport.h"

@@ -1,6 +1,6 @@
 #include "ui/ProductsPage.h"
 
-#include "products/DisplayOrder.h"
+#include "base/PathNames.h"
 #include "state/AppSettings.h"
 #include "ui/Build.h"
 #include "ui/PageTexts.h"

@@ -2,6 +2,7 @@
 
 #include "state/AppSettings.h"
 #include "ui/Build.h"
+#include "ui/ContentView.h"
 #include "ui/PageTexts.h"
 
 namespace corvellane {
@@ -10,7 +11,8 @@ namespace {
 View pageRow(Page page, Page currentPage)
 {
     const Tint dot = page == currentPage ? Tint::blue : Tint::gray;
-    return row(standardSpacing, symbol("circle.fill", dot, 8), verbatim(sideBarLabel(page), Tint::black), gap())
+    return row(
+        standardSpacing, symbol("circle.fill", dot, 8), verbatim(sideBarLabel(page), ContentView::textColor), gap())
         .withFrame({{}, {}, 20, 20});
 }
 
@@ -25,7 +27,7 @@ View pageList(Page currentPage)
 
 View logo()
 {
-    return holding(Image{"Logo", Tint::black}).withFrame({180, 180, 38, 40});
+    return holding(Image{"Logo", ContentView::textColor}).withFrame({180, 180, 38, 40});
 }
 
 } // namespace

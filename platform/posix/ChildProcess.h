@@ -4,7 +4,6 @@
 
 #include <sys/types.h>
 
-#include <optional>
 #include <string>
 #include <variant>
 #include <vector>

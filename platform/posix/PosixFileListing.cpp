@@ -1,5 +1,7 @@
 #include "platform/posix/PosixFileListing.h"
 
+#include "base/PathNames.h"
+
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -16,17 +18,9 @@ struct CloseFolder {
     void operator()(DIR* folder) const { closedir(folder); }
 };
 
-std::string_view lastComponent(std::string_view path)
-{
-    while (path.size() > 1 && path.ends_with('/')) {
-        path.remove_suffix(1);
-    }
-    return path.substr(path.rfind('/') + 1);
-}
-
 ListingFailure describe(const std::string& folder, int error)
 {
-    const std::string name = "“" + std::string(lastComponent(folder)) + "”";
+    const std::string name = "“" + std::string(lastPathComponent(folder)) + "”";
     switch (error) {
     case ENOENT:
         return {"The folder " + name + " doesn’t exist."};

@@ -4,9 +4,7 @@
 
 #include <sys/socket.h>
 
-#include <array>
 #include <cerrno>
-#include <cstdint>
 #include <optional>
 #include <string_view>
 

@@ -1,7 +1,6 @@
 #include "platform/script/Lexer.h"
 
 #include <algorithm>
-#include <array>
 
 namespace corvellane {
 namespace {

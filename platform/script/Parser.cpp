@@ -1,5 +1,6 @@
 #include "platform/script/Parser.h"
 
+#include <algorithm>
 #include <charconv>
 #include <utility>
 

@@ -1,4 +1,6 @@
 #include "products/Discovery.h"
+
+#include "base/PathNames.h"
 #include "products/DisplayOrder.h"
 #include "products/Product.h"
 

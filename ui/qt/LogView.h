@@ -16,8 +16,8 @@ public:
 
     void present(const LogArea& log);
 
-    /// As it was given, for those who do not see it.
-    QString wholeText() const { return QString::fromStdString(shown_); }
+    /// The whole of it, for those who do not see it.
+    QString wholeText() const { return lines_ == nullptr ? QString() : lines_->text(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
