@@ -105,7 +105,8 @@ TEST(RtfText, joinsTheBytesOfMultiByteCharactersHoweverTheyAreWritten)
         {"\x95\\\\!", "\u8868!\n"},
         {"{\x95\x5C}\x95\x5C\\par x", "\u8868\u8868\nx\n"},
         {"\x95\x5C\\'82\\'a0", "\u8868\u3042\n"},
-        {"\\'82\\b\\'a0", "\uFFFD\uFFFD\n"},
+        {"\\'82\\b\\'a0\\'82\\unknown\\'a0", "\uFFFD\uFFFD\uFFFD\uFFFD\n"},
+        {"\\'82{\\'a0}{\\'82}\\'a0", "\uFFFD\uFFFD\uFFFD\uFFFD\n"},
         {"\\'82\\par x\\'82", "\uFFFD\nx\uFFFD\n"},
         {"{\\info{\\title \x95\x5C\x83\x7D}}a", "a\n"},
     };
