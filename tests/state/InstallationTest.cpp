@@ -156,7 +156,7 @@ TEST_F(InstallationTest, leavesTheAlertAloneWhenTheProbeItselfFails)
     EXPECT_EQ(platform.scripts.sources.size(), 2U);
 }
 
-/// Takes a moment for every script and notes the thread that it ran on.
+/// Takes a moment for every script and then notes the thread that it ran on.
 struct SlowScripts : ScriptService {
     struct Slow : Script {
         explicit Slow(SlowScripts& owner)
@@ -165,16 +165,14 @@ struct SlowScripts : ScriptService {
         }
         ScriptExecution execute() override
         {
-            scripts.executedOn = std::this_thread::get_id();
             std::this_thread::sleep_for(std::chrono::milliseconds(50));
-            scripts.executed = true;
+            scripts.executedOn = std::this_thread::get_id();
             return answer("Ok");
         }
         SlowScripts& scripts;
     };
     std::unique_ptr<Script> create(std::string) override { return std::make_unique<Slow>(*this); }
-    std::thread::id executedOn;
-    std::atomic<bool> executed = false;
+    std::atomic<std::thread::id> executedOn;
 };
 
 TEST_F(InstallationTest, blocksTheMainThreadAndOutlivesItsOwner)
@@ -187,8 +185,8 @@ TEST_F(InstallationTest, blocksTheMainThreadAndOutlivesItsOwner)
     auto owned = std::make_shared<AppSettings>(threaded);
     const std::weak_ptr<AppSettings> observed = owned;
     owned->performScript("script");
-    EXPECT_TRUE(scripts.executed) << "the call returns once the script has ended";
-    EXPECT_NE(scripts.executedOn, std::this_thread::get_id());
+    EXPECT_NE(scripts.executedOn.load(), std::thread::id()) << "the call returns once the script has ended";
+    EXPECT_NE(scripts.executedOn.load(), std::this_thread::get_id());
     EXPECT_EQ(owned->currentPage.get(), Page::intro);
     owned.reset();
     EXPECT_FALSE(observed.expired()) << "the completion still needs it";
