@@ -56,6 +56,7 @@ TEST_F(WizardWorld, framesThePagesAsDrawn)
     EXPECT_THAT(priorities, ElementsAre(0.1, 0, 0, 0, 0, 0.5));
     EXPECT_EQ(sideBar.children.at(1).frame, (Frame{180, 180, 38, 40}));
     const View& mainColumn = mainRow.children.at(1);
+    EXPECT_EQ(std::get<Gap>(mainColumn.children.at(0).element), (Gap{20, unbounded}));
     EXPECT_EQ(mainColumn.children.at(1).padding, below);
     EXPECT_EQ(mainColumn.children.at(2).children.at(0).backdrop, (Backdrop{Tint::white, 0, Tint::separator}));
     EXPECT_TRUE(std::holds_alternative<Nothing>(root.children.at(1).element)) << "no alert, no layer";
