@@ -113,27 +113,22 @@ TEST_F(InstallationTest, composesPrintsAndRunsTheScriptOfTheTickedProductsInDisp
 
 TEST_F(InstallationTest, probesAndThenInstallsOrAsks)
 {
-    struct Row {
-        ScriptExecution execution;
-        FinderAccess access;
-        bool asks;
-        std::size_t scripts;
+    const std::vector<std::pair<std::string, FinderAccess>> rows{
+        {"0", FinderAccess::denied},
+        {"2", FinderAccess::unknown},
+        {"", FinderAccess::unknown},
+        {"1", FinderAccess::allowed},
     };
-    const std::vector<Row> rows{
-        {answer("0"), FinderAccess::denied, true, 1},
-        {answer("2"), FinderAccess::unknown, true, 1},
-        {answer(""), FinderAccess::unknown, true, 1},
-        {answer("1"), FinderAccess::allowed, false, 2},
-    };
-    for (const Row& row : rows) {
+    for (const auto& [text, access] : rows) {
+        const bool asks = access != FinderAccess::allowed;
         platform.scripts.sources.clear();
-        platform.scripts.executions.push_back(row.execution);
-        settings->showFinderAlert.set(!row.asks);
+        platform.scripts.answerText(text);
+        settings->showFinderAlert.set(!asks);
         settings->checkAccess();
         platform.dispatcher.runMainQueue();
-        EXPECT_EQ(settings->accessType.get(), row.access);
-        EXPECT_EQ(settings->showFinderAlert.get(), row.asks);
-        EXPECT_EQ(platform.scripts.sources.size(), row.scripts);
+        EXPECT_EQ(settings->accessType.get(), access);
+        EXPECT_EQ(settings->showFinderAlert.get(), asks);
+        EXPECT_EQ(platform.scripts.sources.size(), asks ? 1U : 2U);
         EXPECT_EQ(platform.scripts.sources.front(), accessProbeScript);
     }
     EXPECT_EQ(accessProbeScript.size(), 223U);
