@@ -105,6 +105,8 @@ TEST(RtfFormat, hasNoColorWhereTheTableHasNone)
         EXPECT_EQ(look(cocoa + none + " x").background, std::nullopt) << none;
     }
     EXPECT_EQ(look(cocoa + "\\cf1\\cb2 x").color, (Color{255, 255, 255}));
+    EXPECT_NE(look(cocoa + "\\highlight1 x").background, std::nullopt);
+    EXPECT_NE(look(cocoa + "\\chcbpat1 x").background, std::nullopt);
 }
 
 TEST(RtfFormat, readsLineHeights)
