@@ -22,10 +22,6 @@
 namespace corvellane {
 
 struct FakeMenu : Menu {
-    explicit FakeMenu(std::vector<std::string> items)
-        : titles(std::move(items))
-    {
-    }
     std::vector<std::string> itemTitles() const override { return titles; }
     void removeItem(std::size_t index) override { titles.erase(titles.begin() + static_cast<std::ptrdiff_t>(index)); }
     std::vector<std::string> titles;

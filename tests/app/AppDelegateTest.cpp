@@ -25,7 +25,7 @@ TEST(AppDelegate, takesTheFirstOfEachUnusedTitleOutOfTheMainMenu)
     };
     for (const Row& row : rows) {
         FakeApplication application;
-        application.menu = FakeMenu(row.before);
+        application.menu.emplace().titles = row.before;
         AppDelegate::applicationDidFinishLaunching(application);
         EXPECT_EQ(application.menu->titles, row.after) << testing::PrintToString(row.before);
     }

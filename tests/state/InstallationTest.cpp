@@ -113,27 +113,22 @@ TEST_F(InstallationTest, composesPrintsAndRunsTheScriptOfTheTickedProductsInDisp
 
 TEST_F(InstallationTest, probesAndThenInstallsOrAsks)
 {
-    struct Row {
-        ScriptExecution execution;
-        FinderAccess access;
-        bool asks;
-        std::size_t scripts;
+    const std::vector<std::pair<std::string, FinderAccess>> rows{
+        {"0", FinderAccess::denied},
+        {"2", FinderAccess::unknown},
+        {"", FinderAccess::unknown},
+        {"1", FinderAccess::allowed},
     };
-    const std::vector<Row> rows{
-        {answer("0"), FinderAccess::denied, true, 1},
-        {answer("2"), FinderAccess::unknown, true, 1},
-        {answer(""), FinderAccess::unknown, true, 1},
-        {answer("1"), FinderAccess::allowed, false, 2},
-    };
-    for (const Row& row : rows) {
+    for (const auto& [text, access] : rows) {
+        const bool asks = access != FinderAccess::allowed;
         platform.scripts.sources.clear();
-        platform.scripts.executions.push_back(row.execution);
-        settings->showFinderAlert.set(!row.asks);
+        platform.scripts.answerText(text);
+        settings->showFinderAlert.set(!asks);
         settings->checkAccess();
         platform.dispatcher.runMainQueue();
-        EXPECT_EQ(settings->accessType.get(), row.access);
-        EXPECT_EQ(settings->showFinderAlert.get(), row.asks);
-        EXPECT_EQ(platform.scripts.sources.size(), row.scripts);
+        EXPECT_EQ(settings->accessType.get(), access);
+        EXPECT_EQ(settings->showFinderAlert.get(), asks);
+        EXPECT_EQ(platform.scripts.sources.size(), asks ? 1U : 2U);
         EXPECT_EQ(platform.scripts.sources.front(), accessProbeScript);
     }
     EXPECT_EQ(accessProbeScript.size(), 223U);
@@ -156,7 +151,7 @@ TEST_F(InstallationTest, leavesTheAlertAloneWhenTheProbeItselfFails)
     EXPECT_EQ(platform.scripts.sources.size(), 2U);
 }
 
-/// Takes a moment for every script and notes the thread that it ran on.
+/// Takes a moment for every script and then notes the thread that it ran on.
 struct SlowScripts : ScriptService {
     struct Slow : Script {
         explicit Slow(SlowScripts& owner)
@@ -165,16 +160,14 @@ struct SlowScripts : ScriptService {
         }
         ScriptExecution execute() override
         {
-            scripts.executedOn = std::this_thread::get_id();
             std::this_thread::sleep_for(std::chrono::milliseconds(50));
-            scripts.executed = true;
+            scripts.executedOn = std::this_thread::get_id();
             return answer("Ok");
         }
         SlowScripts& scripts;
     };
     std::unique_ptr<Script> create(std::string) override { return std::make_unique<Slow>(*this); }
-    std::thread::id executedOn;
-    std::atomic<bool> executed = false;
+    std::atomic<std::thread::id> executedOn;
 };
 
 TEST_F(InstallationTest, blocksTheMainThreadAndOutlivesItsOwner)
@@ -187,8 +180,8 @@ TEST_F(InstallationTest, blocksTheMainThreadAndOutlivesItsOwner)
     auto owned = std::make_shared<AppSettings>(threaded);
     const std::weak_ptr<AppSettings> observed = owned;
     owned->performScript("script");
-    EXPECT_TRUE(scripts.executed) << "the call returns once the script has ended";
-    EXPECT_NE(scripts.executedOn, std::this_thread::get_id());
+    EXPECT_NE(scripts.executedOn.load(), std::thread::id()) << "the call returns once the script has ended";
+    EXPECT_NE(scripts.executedOn.load(), std::this_thread::get_id());
     EXPECT_EQ(owned->currentPage.get(), Page::intro);
     owned.reset();
     EXPECT_FALSE(observed.expired()) << "the completion still needs it";

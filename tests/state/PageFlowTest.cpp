@@ -8,11 +8,8 @@ namespace {
 
 TEST(Page, comesFromItsNumberAndFromNoOther)
 {
-    EXPECT_EQ(allPages.size(), 5U);
-    for (const Page page : allPages) {
-        EXPECT_EQ(pageFromRawValue(rawValue(page)), page);
-    }
-    EXPECT_EQ(pageFromRawValue(3), Page::install);
+    EXPECT_EQ(pageFromRawValue(0), Page::intro);
+    EXPECT_EQ(pageFromRawValue(4), Page::summary);
     EXPECT_EQ(pageFromRawValue(5), std::nullopt);
     EXPECT_EQ(pageFromRawValue(-1), std::nullopt);
 }

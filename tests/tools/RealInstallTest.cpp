@@ -5,8 +5,6 @@
 
 #include <gmock/gmock.h>
 
-#include <functional>
-
 namespace corvellane {
 namespace {
 
@@ -115,37 +113,8 @@ TEST(RealInstall, installsLightroomElementsOfAnyName)
     EXPECT_FALSE(fs::exists("/pwned"));
 }
 
-/// Runs one command without the means to open a file, so that it fails, and the others as they are.
-class FailingShell : public Shell {
-public:
-    FailingShell(int failing, const std::function<void()>& beforeCommand)
-        : failing_(failing)
-        , beforeCommand_(beforeCommand)
-    {
-    }
-    std::variant<CommandResult, ScriptError> run(const std::string& command) override
-    {
-        beforeCommand_();
-        return shell_.run(failing_-- == 0 ? "ulimit -n 3; " + command : command);
-    }
-
-private:
-    int failing_;
-    const std::function<void()>& beforeCommand_;
-    PosixShell shell_{realUser()};
-};
-
-struct FailingPrompt : AdministratorPrompt {
-    std::variant<std::unique_ptr<Shell>, ScriptError> authorize() override
-    {
-        return std::make_unique<FailingShell>(failing, beforeCommand);
-    }
-    int failing = -1;
-    std::function<void()> beforeCommand;
-};
-
-/// Scripts of three elements, one of each kind, and what runs them.
-class FailureTest : public testing::Test {
+/// Scripts of three elements, one of each kind, and what runs them with one command failing.
+class FailureTest : public testing::Test, AdministratorPrompt, FileManager {
 protected:
     FailureTest()
     {
@@ -164,10 +133,10 @@ protected:
         const std::string from = scratch.path() + "/from/";
         const std::string script = composeInstallScript(
             hosts, {from + "Tessellane 2.plugin", from + "A.plugin", from + "Velvetgrain 3 Lightroom"});
-        prompt.failing = failing;
+        commandsUntilFailure = failing;
         begun.clear();
-        prompt.beforeCommand = [this, &into] { begun.push_back(treeOf(into)); };
-        InterpretedScriptService service({shell, prompt, fileManager, folders});
+        target = into;
+        InterpretedScriptService service({shell, *this, *this, folders});
         return service.create(script)->execute().result.value().text.value();
     }
 
@@ -185,16 +154,33 @@ protected:
         return lines;
     }
 
-    struct NoFileManager : FileManager {
-        bool acceptsRequests() override { return false; }
+    /// Runs one command without the means to open a file, so that it fails, and the others as they are.
+    struct FailingShell : Shell {
+        explicit FailingShell(FailureTest& owner)
+            : test(owner)
+        {
+        }
+        std::variant<CommandResult, ScriptError> run(const std::string& command) override
+        {
+            test.begun.push_back(test.treeOf(test.target));
+            return test.shell.run(test.commandsUntilFailure-- == 0 ? "ulimit -n 3; " + command : command);
+        }
+        FailureTest& test;
     };
+
+    std::variant<std::unique_ptr<Shell>, ScriptError> authorize() override
+    {
+        return std::make_unique<FailingShell>(*this);
+    }
+
+    bool acceptsRequests() override { return false; }
 
     ScratchFolder scratch;
     PosixShell shell{realUser()};
-    FailingPrompt prompt;
+    int commandsUntilFailure = -1;
+    std::string target;
     /// What each command found.
     std::vector<std::vector<std::string>> begun;
-    NoFileManager fileManager;
     FakeFolders folders;
 };
 

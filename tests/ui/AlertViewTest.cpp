@@ -5,14 +5,16 @@ namespace corvellane {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 class AlertViewTest : public WizardWorld {
 protected:
     View alert() { return AlertView{*settings}.body(); }
 
-    void expectCard(Frame frame, Tint fill)
+    void expectCard(const std::string& identity, Frame frame, Tint fill)
     {
         const View layer = alert();
+        EXPECT_EQ(layer.identity, identity);
         ASSERT_EQ(layer.children.size(), 2U);
         EXPECT_EQ(std::get<Fill>(layer.children[0].element), (Fill{Tint::gray, 0.65}));
         EXPECT_TRUE(std::get<Layers>(layer.element).modal);
@@ -22,30 +24,11 @@ protected:
     }
 };
 
-TEST_F(AlertViewTest, isNothingUnlessTheStateAsksForIt)
-{
-    EXPECT_EQ(alert(), View{});
-    settings->showPermanentlyAlert.set(true);
-    settings->showFinderAlert.set(true);
-    settings->showLogDetailsWindow.set(true);
-    EXPECT_EQ(alert(), View{}) << "flags of other pages";
-    settings->showLicenseAlert.set(true);
-    EXPECT_EQ(alert().identity, "agreement");
-    settings->currentPage.set(Page::install);
-    EXPECT_EQ(alert().identity, "agreement") << "comes before every other";
-    settings->agreeWithTerms.set(true);
-    EXPECT_EQ(alert().identity, "installConfirmation");
-    EXPECT_TRUE(press(alert(), "Cancel"));
-    EXPECT_EQ(alert().identity, "automationPermission");
-    settings->currentPage.set(Page::summary);
-    EXPECT_EQ(alert().identity, "logDetails");
-}
-
 TEST_F(AlertViewTest, asksForTheAgreement)
 {
     settings->currentPage.set(Page::license);
     settings->nextAction();
-    expectCard({{}, 500, {}, 180}, Tint::white);
+    expectCard("agreement", {{}, 500, {}, 180}, Tint::white);
     EXPECT_THAT(wordsOf(alert()),
         ElementsAre("To continue using the software you must agree to the terms of the software license agreement.",
             "Click Agree to continue or click Disagree to cancel and quit the Installer.", "[Read License]",
@@ -59,19 +42,27 @@ TEST_F(AlertViewTest, asksForTheAgreement)
     EXPECT_TRUE(press(alert(), "Disagree"));
     EXPECT_EQ(platform.application.terminations, 1);
     EXPECT_TRUE(press(alert(), "Agree"));
+    EXPECT_TRUE(settings->showLicenseAlert.get());
     EXPECT_EQ(alert(), View{});
     EXPECT_EQ(settings->currentPage.get(), Page::products);
+    settings->goBack();
+    settings->nextAction();
+    EXPECT_EQ(settings->currentPage.get(), Page::products) << "agreed once and for all";
 }
 
 TEST_F(AlertViewTest, confirmsTheInstallation)
 {
     settings->currentPage.set(Page::install);
     settings->nextAction();
-    expectCard({{}, 280, {}, 110}, Tint::white);
+    expectCard("installConfirmation", {{}, 280, {}, 110}, Tint::white);
     EXPECT_THAT(wordsOf(alert()),
         ElementsAre("Click \"Install\" button to complete the installation.", "[Cancel]", "[Install]"));
     EXPECT_EQ(allOf<Button>(alert())[0].style, Button::Style::push);
     EXPECT_EQ(allOf<Button>(alert())[1].style, Button::Style::emphasised);
+    EXPECT_TRUE(press(alert(), "Cancel"));
+    EXPECT_EQ(alert(), View{});
+    EXPECT_THAT(platform.scripts.sources, IsEmpty());
+    settings->nextAction();
     platform.scripts.answerText("User canceled.");
     EXPECT_TRUE(press(alert(), "Install"));
     platform.dispatcher.runMainQueue();
@@ -83,7 +74,7 @@ TEST_F(AlertViewTest, waitsForTheAutomationPermission)
 {
     settings->currentPage.set(Page::install);
     settings->showFinderAlert.set(true);
-    expectCard({{}, 500, {}, 150}, Tint::white);
+    expectCard("automationPermission", {{}, 500, {}, 150}, Tint::white);
     EXPECT_THAT(wordsOf(alert()),
         ElementsAre(
             "To make changes with Installer please allow Finder access from Settings", "[Close]", "[Open settings]"));
@@ -114,12 +105,13 @@ TEST_F(AlertViewTest, showsAndCopiesTheLog)
     settings->logDetailsStr = "cp: <b>no</b> & such\nfile";
     settings->currentPage.set(Page::summary);
     settings->showLogDetailsWindow.set(true);
-    expectCard({{}, 500, {}, 400}, Tint::windowBackground);
+    expectCard("logDetails", {{}, 500, {}, 400}, Tint::windowBackground);
     EXPECT_THAT(wordsOf(alert()), ElementsAre("[Copy to Clipboard]", "[Close]"));
     const View log = viewsOf<LogArea>(alert()).at(0);
     EXPECT_EQ(log.frame, (Frame{500, 500, 300, 300}));
     EXPECT_EQ(*std::get<LogArea>(log.element).text, settings->logDetailsStr);
     EXPECT_TRUE(press(alert(), "Copy to Clipboard"));
+    EXPECT_EQ(platform.pasteboard.clearings, 1);
     EXPECT_EQ(platform.pasteboard.contents, settings->logDetailsStr);
     EXPECT_EQ(alert().identity, "logDetails") << "stays open";
     EXPECT_TRUE(press(alert(), "Close"));

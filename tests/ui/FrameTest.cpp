@@ -8,15 +8,10 @@ using testing::IsEmpty;
 
 const std::vector<std::string> sideBarLabels{"Introduction", "License", "Products", "Selected Products", "Summary"};
 
-struct PageCase {
-    Page page;
-    std::vector<std::string> afterSideBar;
-};
-
 TEST_F(WizardWorld, saysOnEveryPageWhatItIsAbout)
 {
     addProducts({"Suite"});
-    const std::vector<PageCase> cases{
+    const std::vector<std::pair<Page, std::vector<std::string>>> cases{
         {Page::intro,
             {"Welcome to the Corvellane Plugin Installer",
                 "You will be guided through the steps necessary to use this software.", "(Go Back)", "[Next]"}},
@@ -25,11 +20,11 @@ TEST_F(WizardWorld, saysOnEveryPageWhatItIsAbout)
         {Page::install, {"The following Products will be installed", "[Go Back]", "[Next]"}},
         {Page::summary, {"", "You have been successfully installed selected products.", "(Go Back)", "[Close]"}},
     };
-    for (const PageCase& each : cases) {
-        settings->currentPage.set(each.page);
+    for (const auto& [page, afterSideBar] : cases) {
+        settings->currentPage.set(page);
         std::vector<std::string> expected = sideBarLabels;
-        expected.insert(expected.end(), each.afterSideBar.begin(), each.afterSideBar.end());
-        EXPECT_EQ(words(), expected) << nameOf(each.page);
+        expected.insert(expected.end(), afterSideBar.begin(), afterSideBar.end());
+        EXPECT_EQ(words(), expected) << nameOf(page);
     }
 }
 
@@ -50,10 +45,8 @@ TEST_F(WizardWorld, marksExactlyTheCurrentPage)
 TEST_F(WizardWorld, framesThePagesAsDrawn)
 {
     const View root = body();
-    ASSERT_TRUE(std::holds_alternative<Layers>(root.element));
     const View& mainRow = root.children.at(0);
     EXPECT_EQ(mainRow.backdrop.fill, Tint::windowBackground);
-    EXPECT_EQ(std::get<Stack>(mainRow.element), (Stack{Axis::horizontal, 0, Placement::centre}));
     const View& sideBar = mainRow.children.at(0);
     EXPECT_EQ(sideBar.frame, (Frame{180, 195, {}, {}}));
     std::vector<double> priorities;
@@ -65,9 +58,7 @@ TEST_F(WizardWorld, framesThePagesAsDrawn)
     const View& mainColumn = mainRow.children.at(1);
     EXPECT_EQ(std::get<Gap>(mainColumn.children.at(0).element), (Gap{20, unbounded}));
     EXPECT_EQ(mainColumn.children.at(1).padding, below);
-    const View& contentRow = mainColumn.children.at(2);
-    EXPECT_EQ(contentRow.children.at(0).backdrop, (Backdrop{Tint::white, 0, Tint::separator}));
-    EXPECT_EQ(std::get<Gap>(contentRow.children.at(1).element), (Gap{20, 20}));
+    EXPECT_EQ(mainColumn.children.at(2).children.at(0).backdrop, (Backdrop{Tint::white, 0, Tint::separator}));
     EXPECT_TRUE(std::holds_alternative<Nothing>(root.children.at(1).element)) << "no alert, no layer";
 }
 
@@ -104,24 +95,6 @@ TEST_F(WizardWorld, offersOnlyWhatTheSelectionAllows)
     EXPECT_TRUE(pressed("Select All"));
     EXPECT_THAT(words(), testing::IsSupersetOf({"[Select All]", "[Next]"}));
     EXPECT_TRUE(pressed("Select All")) << "also with everything ticked";
-}
-
-TEST_F(WizardWorld, isComparedWithoutItsActions)
-{
-    EXPECT_EQ(body(), body());
-    const View before = body();
-    settings->currentPage.set(Page::license);
-    EXPECT_NE(body(), before);
-}
-
-TEST_F(WizardWorld, announcesChangesOfItsState)
-{
-    int changes = 0;
-    contentView.observe(*settings, [&] { ++changes; });
-    settings->goBack();
-    EXPECT_EQ(changes, 0);
-    settings->agreeWithLicense();
-    EXPECT_EQ(changes, 2);
 }
 
 TEST_F(WizardWorld, loadsTheAgreementWhenItIsMade)

@@ -1,14 +1,12 @@
 #include "ui/StackLayout.h"
 #include "ui/Metrics.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <vector>
 
 namespace corvellane {
 namespace {
-
-using testing::ElementsAre;
 
 struct Case {
     const char* what;
@@ -48,34 +46,6 @@ TEST(Distribution, givesEveryChildItsLength)
     for (const Case& each : cases) {
         EXPECT_EQ(distribute(each.total, each.items), each.lengths) << each.what;
     }
-}
-
-TEST(Distribution, laysOutTheWindow)
-{
-    const StackItem sideBar{{180, 195}, 0};
-    const StackItem mainColumn = stretching(150);
-    const std::vector<StackItem> window{sideBar, mainColumn};
-    EXPECT_THAT(distribute(648, window), ElementsAre(195, 453));
-    EXPECT_THAT(distribute(1296, window), ElementsAre(195, 1101));
-    EXPECT_THAT(distribute(400, window), ElementsAre(195, 205));
-    EXPECT_THAT(distribute(335, window), ElementsAre(185, 150));
-    EXPECT_THAT(distribute(300, window), ElementsAre(180, 150));
-}
-
-TEST(Distribution, laysOutTheSideBar)
-{
-    const std::vector<StackItem> sideBar{
-        stretching(8, 0.1), {{38, 40}, 0}, stretching(8), stretching(8), fixed(100), stretching(8, 0.5)};
-    EXPECT_THAT(distribute(405, sideBar), ElementsAre(8, 38, 8, 8, 100, 243));
-    EXPECT_THAT(distribute(810, sideBar), ElementsAre(8, 38, 8, 8, 100, 648));
-}
-
-TEST(Distribution, laysOutTheMainColumn)
-{
-    const std::vector<StackItem> column{stretching(20), fixed(32), stretching(40), stretching(8), fixed(56)};
-    EXPECT_THAT(distribute(405 - 32, column), ElementsAre(95, 32, 95, 95, 56));
-    EXPECT_THAT(distribute(810 - 32, column), ElementsAre(230, 32, 230, 230, 56));
-    EXPECT_THAT(distribute(170, column), ElementsAre(21, 32, 40, 21, 56)) << "a small window keeps the minimums";
 }
 
 } // namespace

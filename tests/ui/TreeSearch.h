@@ -17,20 +17,7 @@ void forEachView(const View& view, const Visit& visit)
     }
 }
 
-/// All elements of a kind, in reading order.
-template <typename Kind>
-std::vector<Kind> allOf(const View& view)
-{
-    std::vector<Kind> found;
-    forEachView(view, [&](const View& each) {
-        if (const auto* element = std::get_if<Kind>(&each.element)) {
-            found.push_back(*element);
-        }
-    });
-    return found;
-}
-
-/// The views of a kind, with everything around the element.
+/// The views of a kind, with everything around the element, in reading order.
 template <typename Kind>
 std::vector<View> viewsOf(const View& view)
 {
@@ -40,6 +27,17 @@ std::vector<View> viewsOf(const View& view)
             found.push_back(each);
         }
     });
+    return found;
+}
+
+/// The elements of a kind, in reading order.
+template <typename Kind>
+std::vector<Kind> allOf(const View& view)
+{
+    std::vector<Kind> found;
+    for (const View& each : viewsOf<Kind>(view)) {
+        found.push_back(std::get<Kind>(each.element));
+    }
     return found;
 }
 

@@ -11,11 +11,11 @@
 
 namespace corvellane {
 
-/// What scripts run against in tests: commands are recorded, not run. A command is found in `results` by its last
-/// part, behind whatever the service puts in front of it; one that is not there succeeds and prints nothing.
-class RecordingHost {
+/// What scripts run against in tests: commands are recorded, without what the service puts in front of them, and not
+/// run. One that is not in `results` succeeds and prints nothing.
+class RecordingHost : AdministratorPrompt, FileManager {
 public:
-    ScriptHost host() { return {shell_, prompt_, fileManager_, folders_}; }
+    ScriptHost host() { return {shell_, *this, *this, folders_}; }
 
     std::map<std::string, CommandResult> results;
     /// Commands with administrator rights begin with "sudo ".
@@ -33,47 +33,26 @@ private:
         }
         std::variant<CommandResult, ScriptError> run(const std::string& command) override
         {
-            for (const auto& [ending, result] : recorder.results) {
-                if (command.ends_with("; " + ending)) {
-                    recorder.commands.push_back(prefix + ending);
-                    return result;
-                }
-            }
-            recorder.commands.push_back(prefix + command.substr(command.rfind("}; ") + 3));
-            return CommandResult{};
+            const std::string bare = command.substr(command.rfind("}; ") + 3);
+            recorder.commands.push_back(prefix + bare);
+            return recorder.results[bare];
         }
         RecordingHost& recorder;
         std::string prefix;
     };
 
-    struct RecordingPrompt : AdministratorPrompt {
-        explicit RecordingPrompt(RecordingHost& owner)
-            : recorder(owner)
-        {
+    std::variant<std::unique_ptr<Shell>, ScriptError> authorize() override
+    {
+        ++prompts;
+        if (declines) {
+            return ScriptError{"User canceled.", script_error::userCanceled};
         }
-        std::variant<std::unique_ptr<Shell>, ScriptError> authorize() override
-        {
-            ++recorder.prompts;
-            if (recorder.declines) {
-                return ScriptError{"User canceled.", script_error::userCanceled};
-            }
-            return std::make_unique<RecordingShell>(recorder, "sudo ");
-        }
-        RecordingHost& recorder;
-    };
+        return std::make_unique<RecordingShell>(*this, "sudo ");
+    }
 
-    struct SettableFileManager : FileManager {
-        explicit SettableFileManager(RecordingHost& owner)
-            : recorder(owner)
-        {
-        }
-        bool acceptsRequests() override { return recorder.fileManagerAnswers; }
-        RecordingHost& recorder;
-    };
+    bool acceptsRequests() override { return fileManagerAnswers; }
 
     RecordingShell shell_{*this, ""};
-    RecordingPrompt prompt_{*this};
-    SettableFileManager fileManager_{*this};
     FakeFolders folders_;
 };
 

@@ -109,12 +109,5 @@ TEST_F(ScriptServiceTest, answersTheProbeByWhatTheFileManagerSays)
     EXPECT_THAT(*execute("tell application \"Other\"\nend").errorDescription, HasSubstr("\"-1728\""));
 }
 
-TEST_F(ScriptServiceTest, recordsWhatItIsToRunAndNothingElse)
-{
-    const std::string script = "do shell script \"rm -R -f \\\"/a b\\\"\" with administrator privileges";
-    execute(script);
-    EXPECT_THAT(recorder.commands, ElementsAre("sudo rm -R -f \"/a b\""));
-}
-
 } // namespace
 } // namespace corvellane

