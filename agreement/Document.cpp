@@ -1,15 +1,35 @@
 #include "agreement/Document.h"
 
-#include "agreement/AgreementFile.h"
+#include "base/PathNames.h"
 #include "platform/Console.h"
+#include "platform/Files.h"
 #include "platform/Resources.h"
+#include "rtf/RtfReader.h"
 
 #include <utility>
 
 namespace corvellane {
+namespace {
 
-Document::Document(const Resources& resources, Console& console)
+/// What is no rich text at all is no more than a file that does not open.
+Failure asFailure(const std::string& path, rtf::RtfFailure reason)
+{
+    const char* const why = reason == rtf::RtfFailure::incomplete ? " because it isn’t in the correct format" : "";
+    return {"The file “" + std::string(lastPathComponent(path)) + "” couldn’t be opened" + why + ".", 0};
+}
+
+} // namespace
+
+Expected<rtf::AttributedText> readAgreement(const Files& files, const std::string& path)
+{
+    return files.read(path, rtf::largestRtf).and_then([&](const std::string& bytes) {
+        return rtf::readRtf(bytes).map_error([&](rtf::RtfFailure reason) { return asFailure(path, reason); });
+    });
+}
+
+Document::Document(const Resources& resources, const Files& files, Console& console)
     : resources_(resources)
+    , files_(files)
     , console_(console)
 {
 }
@@ -18,15 +38,13 @@ void Document::load(const std::string& file)
 {
     const auto path = resources_.file(file, "rtf");
     if (!path) {
-        console_.print("File not found");
-        return;
+        return console_.print("File not found");
     }
-    auto text = readAgreement(*path);
-    if (const auto* const failure = std::get_if<AgreementFailure>(&text)) {
-        console_.print(failure->description);
-        return;
+    auto text = readAgreement(files_, *path);
+    if (!text) {
+        return console_.print(text.error().message);
     }
-    data.set(std::move(std::get<AttributedText>(text)));
+    data.set(*std::move(text));
 }
 
 } // namespace corvellane

@@ -1,20 +1,27 @@
 #pragma once
 
-#include "agreement/AttributedText.h"
+#include "base/Expected.h"
 #include "base/Observable.h"
 #include "base/Signal.h"
+#include "base/Snapshot.h"
+#include "rtf/AttributedText.h"
 
 #include <string>
 
 namespace corvellane {
 
 class Console;
+class Files;
 class Resources;
+
+/// Reads the rich-text file at that path, which is held in memory whole while it is read. A failure's message is one
+/// line with the file's own name in it. Any thread.
+Expected<rtf::AttributedText> readAgreement(const Files& files, const std::string& path);
 
 /// The licence agreement that the installer shows. Main thread; the platform's services outlive it.
 class Document {
 public:
-    Document(const Resources& resources, Console& console);
+    Document(const Resources& resources, const Files& files, Console& console);
 
     /// Fills `data` from the resource `file`.rtf. Where there is none, or it cannot be read, one line on the console
     /// says so and `data` stays as it is.
@@ -22,10 +29,11 @@ public:
 
     /// Emitted before every write of `data`.
     Signal objectWillChange;
-    Observable<AttributedText> data{objectWillChange, {}};
+    Observable<Snapshot<rtf::AttributedText>> data{objectWillChange, {}};
 
 private:
     const Resources& resources_;
+    const Files& files_;
     Console& console_;
 };
 

@@ -1,6 +1,6 @@
 #include "app/CorvellaneInstallerApp.h"
 
-#include "ui/Build.h"
+#include "view/Build.h"
 
 namespace corvellane {
 namespace {

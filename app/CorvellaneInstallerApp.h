@@ -3,7 +3,7 @@
 #include "platform/Platform.h"
 #include "state/AppSettings.h"
 #include "ui/ContentView.h"
-#include "ui/qt/ViewHost.h"
+#include "view/qt/ViewHost.h"
 
 #include <memory>
 

@@ -2,7 +2,7 @@
 
 #include "app/CorvellaneInstallerApp.h"
 #include "platform/posix/ExecutableBundle.h"
-#include "platform/posix/PosixFileListing.h"
+#include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixShell.h"
 #include "platform/posix/PosixStandardFolders.h"
 #include "platform/posix/StreamConsole.h"
@@ -33,7 +33,7 @@ private:
     QtApplication application_;
     StreamConsole console_{stdout};
     QtDispatcher dispatcher_;
-    PosixFileListing files_;
+    PosixFiles files_;
     QtPasteboard pasteboard_;
     ExecutableBundle bundle_;
     PosixStandardFolders folders_;

@@ -1,5 +1,5 @@
-#include "agreement/RtfReader.h"
 #include "bench/RtfSamples.h"
+#include "rtf/RtfReader.h"
 
 #include <benchmark/benchmark.h>
 
@@ -27,24 +27,24 @@ std::size_t bytesOf(const benchmark::State& state)
 
 void readWhole(benchmark::State& state, Sample sample)
 {
-    const std::string rtf = sample(bytesOf(state));
+    const std::string bytes = sample(bytesOf(state));
     for ([[maybe_unused]] auto _ : state) {
-        auto result = readRtf(rtf);
-        if (std::holds_alternative<RtfFailure>(result)) {
+        auto result = rtf::readRtf(bytes);
+        if (!result) {
             state.SkipWithError("not read");
         }
         benchmark::DoNotOptimize(result);
     }
-    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(rtf.size()));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
 
 void scan(benchmark::State& state, Sample sample)
 {
-    const std::string rtf = sample(bytesOf(state));
+    const std::string bytes = sample(bytesOf(state));
     for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(scanForControls(rtf));
     }
-    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(rtf.size()));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
 
 double seconds(const timeval& time)

@@ -27,7 +27,7 @@ long peakMemory(const std::filesystem::path& path)
     const pid_t child = fork();
     if (child == 0) {
         const auto result = readAgreement(path.string());
-        _exit(std::holds_alternative<AttributedText>(result) ? 0 : 1);
+        _exit(std::holds_alternative<rtf::AttributedText>(result) ? 0 : 1);
     }
     int status = 0;
     rusage usage{};

@@ -2,7 +2,7 @@
 
 #include "base/Observable.h"
 #include "install/InstallScript.h"
-#include "platform/posix/PosixFileListing.h"
+#include "platform/posix/PosixFiles.h"
 #include "state/AppSettings.h"
 #include "tests/FakePlatform.h"
 
@@ -52,7 +52,7 @@ void bareList(const std::string& folder, std::vector<std::string>& paths)
     DIR* handle = opendir(folder.c_str());
     const std::size_t first = paths.size();
     while (const dirent* entry = readdir(handle)) {
-        struct stat status { };
+        struct stat status{};
         if (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0
             && fstatat(dirfd(handle), entry->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(status.st_mode)) {
             paths.push_back(folder + "/" + entry->d_name);
@@ -80,7 +80,7 @@ struct RealProducts : FakePlatform {
         std::string path;
     };
 
-    PosixFileListing listing;
+    PosixFiles listing;
     Located located;
     std::shared_ptr<AppSettings> settings;
 };

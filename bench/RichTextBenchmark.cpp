@@ -1,7 +1,7 @@
-#include "agreement/RtfReader.h"
 #include "bench/RtfSamples.h"
-#include "ui/qt/RichTextDocument.h"
-#include "ui/qt/RichTextViewer.h"
+#include "rtf/RtfReader.h"
+#include "view/qt/RichTextDocument.h"
+#include "view/qt/RichTextViewer.h"
 
 #include <QApplication>
 #include <QTextDocument>
@@ -20,9 +20,9 @@ namespace {
 constexpr std::size_t agreementSize = 50'000;
 constexpr QSize pageSize(448, 290);
 
-const AttributedText& agreement()
+const rtf::AttributedText& agreement()
 {
-    static const AttributedText text = std::get<AttributedText>(readRtf(agreementSample(agreementSize)));
+    static const rtf::AttributedText text = rtf::readRtf(agreementSample(agreementSize)).value();
     return text;
 }
 

@@ -1,4 +1,4 @@
-#include "agreement/RtfReader.h"
+#include "rtf/RtfReader.h"
 #include "tools/AgreementReport.h"
 
 #include <cstdint>
@@ -43,24 +43,24 @@ void requireText(std::string_view text)
     }
 }
 
-void requireRun(const AttributedText& text, const Run& run, std::uint32_t begin)
+void requireRun(const rtf::AttributedText& text, const rtf::Run& run, std::uint32_t begin)
 {
     require(run.begin == begin && run.end > run.begin && run.end <= text.text.size());
     requireText(text.textOf(run));
-    const TextAttributes& attributes = text.attributes.at(run.attributes);
+    const rtf::TextAttributes& attributes = text.attributes.at(run.attributes);
     require(attributes.family < text.families.size() && attributes.size > 0);
     require(!attributes.link || *attributes.link < text.links.size());
 }
 
-void requireWhole(const AttributedText& text)
+void requireWhole(const rtf::AttributedText& text)
 {
     std::uint32_t nextRun = 0;
     std::uint32_t nextByte = 0;
-    for (const Paragraph& paragraph : text.paragraphs) {
+    for (const rtf::Paragraph& paragraph : text.paragraphs) {
         require(paragraph.firstRun == nextRun && paragraph.endRun >= nextRun && paragraph.endRun <= text.runs.size());
         require(paragraph.endAttributes < text.attributes.size());
         require(text.tabsOf(text.formats.at(paragraph.format)).size() <= 64);
-        for (const Run& run : text.runsOf(paragraph)) {
+        for (const rtf::Run& run : text.runsOf(paragraph)) {
             requireRun(text, run, nextByte);
             nextByte = run.end;
         }
@@ -69,7 +69,7 @@ void requireWhole(const AttributedText& text)
     require(nextRun == text.runs.size() && nextByte == text.text.size());
 }
 
-void requireBounded(const AttributedText& text, std::size_t size)
+void requireBounded(const rtf::AttributedText& text, std::size_t size)
 {
     require(text.text.size() <= 3 * size);
     require(text.runs.size() <= size && text.paragraphs.size() <= size && text.attributes.size() <= size);
@@ -89,8 +89,7 @@ void requireBounded(const AttributedText& text, std::size_t size)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    const auto result = corvellane::readRtf(bytes);
-    if (const auto* const text = std::get_if<corvellane::AttributedText>(&result)) {
+    if (const auto text = corvellane::rtf::readRtf(bytes)) {
         corvellane::requireWhole(*text);
         corvellane::requireBounded(*text, size);
         corvellane::agreementJson(*text);

@@ -189,7 +189,7 @@ void rebuildEnvironment(const passwd& user)
 /// 5.14) the links are followed.
 void followNoLinksInTheHomeOf(const passwd& user)
 {
-    struct stat home { };
+    struct stat home{};
     if (user.pw_uid == 0 || stat(user.pw_dir, &home) != 0 || home.st_uid != user.pw_uid) {
         return;
     }

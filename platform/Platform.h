@@ -5,7 +5,7 @@ namespace corvellane {
 class Application;
 class Console;
 class Dispatcher;
-class FileListing;
+class Files;
 class Pasteboard;
 class Resources;
 class ScriptService;
@@ -17,7 +17,7 @@ struct Platform {
     Application& application;
     Console& console;
     Dispatcher& dispatcher;
-    FileListing& files;
+    Files& files;
     Pasteboard& pasteboard;
     Resources& resources;
     ScriptService& scripts;

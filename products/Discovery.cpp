@@ -6,27 +6,24 @@
 
 namespace corvellane {
 
-std::variant<std::vector<std::string>, ListingFailure> foldersIn(const FileListing& files, const std::string& folder)
+Expected<std::vector<std::string>> foldersIn(const Files& files, const std::string& folder)
 {
-    FolderListing listing = files.list(folder);
-    if (auto* failure = std::get_if<ListingFailure>(&listing)) {
-        return std::move(*failure);
-    }
-    std::vector<std::string> folders;
-    for (FolderEntry& entry : std::get<std::vector<FolderEntry>>(listing)) {
-        if (entry.isFolder.value_or(false)) {
-            folders.push_back(std::move(entry.path));
+    return files.list(folder).map([](std::vector<FolderEntry> entries) {
+        std::vector<std::string> folders;
+        for (FolderEntry& entry : entries) {
+            if (entry.isFolder.value_or(false)) {
+                folders.push_back(std::move(entry.path));
+            }
         }
-    }
-    return folders;
+        return folders;
+    });
 }
 
-std::variant<std::vector<std::string>, ListingFailure> discoverProducts(
-    const Resources& resources, const FileListing& files)
+Expected<std::vector<std::string>> discoverProducts(const Resources& resources, const Files& files)
 {
     const auto productsFolder = resources.folder("Products");
     if (!productsFolder) {
-        return ListingFailure{"The folder “Products” doesn’t exist."};
+        return Unexpected({"The folder “Products” doesn’t exist.", 0});
     }
     return foldersIn(files, *productsFolder);
 }

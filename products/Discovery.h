@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/FileListing.h"
+#include "platform/Files.h"
 
 #include <string>
 #include <vector>
@@ -11,10 +11,9 @@ class Resources;
 
 /// The folders directly in `folder`, files and links left out, in the listing's order: the products of the products
 /// folder, the elements of a product. Their paths have no trailing "/".
-std::variant<std::vector<std::string>, ListingFailure> foldersIn(const FileListing& files, const std::string& folder);
+Expected<std::vector<std::string>> foldersIn(const Files& files, const std::string& folder);
 
 /// The folders of the resource folder's "Products" folder.
-std::variant<std::vector<std::string>, ListingFailure> discoverProducts(
-    const Resources& resources, const FileListing& files);
+Expected<std::vector<std::string>> discoverProducts(const Resources& resources, const Files& files);
 
 } // namespace corvellane

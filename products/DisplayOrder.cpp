@@ -5,15 +5,19 @@
 #include <utf8proc.h>
 
 #include <algorithm>
+#include <compare>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 
 namespace corvellane {
 namespace {
 
 struct Entry {
     std::string key;
-    const std::string* location;
+    std::string location;
+
+    auto operator<=>(const Entry&) const = default;
 };
 
 bool isAscii(std::string_view text)
@@ -40,20 +44,17 @@ std::string sortKey(std::string_view name)
 
 } // namespace
 
-std::vector<std::string> inDisplayOrder(const ProductSelection& selection)
+std::vector<std::string> inDisplayOrder(std::vector<std::string> locations)
 {
     std::vector<Entry> entries;
-    entries.reserve(selection.size());
-    for (const auto& product : selection) {
-        entries.push_back({sortKey(lastPathComponent(product.first)), &product.first});
+    entries.reserve(locations.size());
+    for (std::string& location : locations) {
+        std::string key = sortKey(lastPathComponent(location));
+        entries.push_back({std::move(key), std::move(location)});
     }
-    std::stable_sort(
-        entries.begin(), entries.end(), [](const Entry& left, const Entry& right) { return left.key < right.key; });
-    std::vector<std::string> locations;
-    locations.reserve(entries.size());
-    for (const Entry& entry : entries) {
-        locations.push_back(*entry.location);
-    }
+    std::sort(entries.begin(), entries.end());
+    std::transform(
+        entries.begin(), entries.end(), locations.begin(), [](Entry& entry) { return std::move(entry.location); });
     return locations;
 }
 

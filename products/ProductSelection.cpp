@@ -1,37 +1,65 @@
 #include "products/ProductSelection.h"
 
+#include "products/DisplayOrder.h"
+
 #include <algorithm>
-#include <iterator>
+#include <utility>
 
 namespace corvellane {
 
-void toggleProduct(ProductSelection& selection, const std::string& location)
+ProductSelection::ProductSelection(std::vector<std::string> locations)
+    : locations_(inDisplayOrder(std::move(locations)))
+    , ticks_(locations_->size(), true)
 {
-    const auto [product, isNew] = selection.try_emplace(location, true);
-    if (!isNew) {
-        product->second = !product->second;
+}
+
+bool ProductSelection::isTicked(const std::string& location) const
+{
+    const auto found = std::find(locations_->begin(), locations_->end(), location);
+    return found != locations_->end() && ticks_[static_cast<std::size_t>(found - locations_->begin())];
+}
+
+bool ProductSelection::anyTicked() const
+{
+    return std::find(ticks_.begin(), ticks_.end(), true) != ticks_.end();
+}
+
+std::vector<std::string> ProductSelection::ticked() const
+{
+    std::vector<std::string> locations;
+    for (std::size_t index = 0; index < ticks_.size(); ++index) {
+        if (ticks_[index]) {
+            locations.push_back((*locations_)[index]);
+        }
     }
+    return locations;
 }
 
-ProductSelection allSelected(ProductSelection selection)
+void ProductSelection::toggle(const std::string& location)
 {
-    for (auto& [location, selected] : selection) {
-        selected = true;
+    const auto found = std::find(locations_->begin(), locations_->end(), location);
+    if (found == locations_->end()) {
+        return add(location);
     }
-    return selection;
+    ticks_[static_cast<std::size_t>(found - locations_->begin())].flip();
 }
 
-bool anySelected(const ProductSelection& selection)
+void ProductSelection::add(const std::string& location)
 {
-    return std::any_of(selection.begin(), selection.end(), [](const auto& product) { return product.second; });
+    std::vector<std::string> locations = *locations_;
+    locations.push_back(location);
+    ProductSelection whole(std::move(locations));
+    for (std::size_t index = 0; index < ticks_.size(); ++index) {
+        if (!ticks_[index]) {
+            whole.toggle((*locations_)[index]);
+        }
+    }
+    *this = std::move(whole);
 }
 
-ProductSelection onlySelected(const ProductSelection& selection)
+void ProductSelection::tickAll()
 {
-    ProductSelection selected;
-    std::copy_if(selection.begin(), selection.end(), std::inserter(selected, selected.end()),
-        [](const auto& product) { return product.second; });
-    return selected;
+    ticks_.assign(ticks_.size(), true);
 }
 
 } // namespace corvellane

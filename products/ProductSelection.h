@@ -1,22 +1,48 @@
 #pragma once
 
-#include <map>
+#include "base/Snapshot.h"
+
+#include <cstddef>
 #include <string>
+#include <vector>
 
 namespace corvellane {
 
-/// The products on offer: the path of each product's folder, and whether it is ticked.
-using ProductSelection = std::map<std::string, bool>;
+/// The products on offer, and which of them are ticked: the path of each product's folder without a trailing "/", and
+/// a flag, in display order. A value; copies share the paths, so that what changes when a product is ticked is small.
+class ProductSelection {
+public:
+    ProductSelection() = default;
 
-/// Turns the product's tick to its opposite; a product that is absent is added ticked.
-void toggleProduct(ProductSelection& selection, const std::string& location);
+    /// All of them ticked; the paths differ, and come in any order.
+    explicit ProductSelection(std::vector<std::string> locations);
 
-/// The same products, all of them ticked.
-ProductSelection allSelected(ProductSelection selection);
+    bool empty() const { return locations_->empty(); }
 
-bool anySelected(const ProductSelection& selection);
+    /// The paths of all products, ticked or not.
+    const Snapshot<std::vector<std::string>>& locations() const { return locations_; }
 
-/// The products that are ticked, and no others.
-ProductSelection onlySelected(const ProductSelection& selection);
+    /// For each of the paths, whether it is ticked.
+    const std::vector<bool>& ticks() const { return ticks_; }
+
+    bool isTicked(const std::string& location) const;
+    bool anyTicked() const;
+
+    /// The paths of those that are ticked.
+    std::vector<std::string> ticked() const;
+
+    /// Turns the product's tick to its opposite; a product that is absent is added ticked.
+    void toggle(const std::string& location);
+
+    void tickAll();
+
+    bool operator==(const ProductSelection&) const = default;
+
+private:
+    void add(const std::string& location);
+
+    Snapshot<std::vector<std::string>> locations_;
+    std::vector<bool> ticks_;
+};
 
 } // namespace corvellane

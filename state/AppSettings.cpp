@@ -8,8 +8,8 @@
 #include "platform/Pasteboard.h"
 #include "platform/Workspace.h"
 #include "products/Discovery.h"
-#include "products/DisplayOrder.h"
 
+#include <algorithm>
 #include <iterator>
 #include <latch>
 #include <utility>
@@ -87,7 +87,7 @@ void AppSettings::toggleLogDetails()
 void AppSettings::copyLogDetails()
 {
     pasteboard.clearContents();
-    pasteboard.setString(logDetailsStr);
+    pasteboard.setString(*logDetailsStr);
 }
 
 void AppSettings::openAutomationSettings()
@@ -104,58 +104,52 @@ void AppSettings::terminateApp()
 
 void AppSettings::refreshProducts()
 {
-    products.modify([](ProductSelection& selection) { selection.clear(); });
+    products.set({});
     products.set(productsToInstall());
 }
 
 ProductSelection AppSettings::productsToInstall()
 {
     auto discovered = discoverProducts(platform_.resources, platform_.files);
-    ProductSelection selection;
-    if (const auto* failure = std::get_if<ListingFailure>(&discovered)) {
-        printFailure(failure->description);
-        return selection;
+    if (!discovered) {
+        printFailure(discovered.error());
+        return {};
     }
-    for (std::string& location : std::get<std::vector<std::string>>(discovered)) {
-        selection.emplace_hint(selection.end(), std::move(location), true);
-    }
-    return selection;
+    return ProductSelection(*std::move(discovered));
 }
 
 bool AppSettings::selectedExist() const
 {
-    return anySelected(products.get());
+    return products.get().anyTicked();
 }
 
 void AppSettings::selectAll()
 {
-    products.set(allSelected(products.get()));
+    products.modify([](ProductSelection& selection) { selection.tickAll(); });
 }
 
 void AppSettings::toggleProduct(const std::string& location)
 {
-    products.modify([&](ProductSelection& selection) { corvellane::toggleProduct(selection, location); });
+    products.modify([&](ProductSelection& selection) { selection.toggle(location); });
 }
 
 std::vector<std::string> AppSettings::elementsToCopy()
 {
     std::vector<std::string> elements;
-    for (const std::string& location : inDisplayOrder(onlySelected(products.get()))) {
+    for (const std::string& location : products.get().ticked()) {
         auto found = foldersIn(platform_.files, location);
-        if (const auto* failure = std::get_if<ListingFailure>(&found)) {
-            printFailure(failure->description);
+        if (!found) {
+            printFailure(found.error());
             continue;
         }
-        auto& folders = std::get<std::vector<std::string>>(found);
-        elements.insert(
-            elements.end(), std::make_move_iterator(folders.begin()), std::make_move_iterator(folders.end()));
+        std::move(found->begin(), found->end(), std::back_inserter(elements));
     }
     return elements;
 }
 
-void AppSettings::printFailure(const std::string& description)
+void AppSettings::printFailure(const Failure& failure)
 {
-    platform_.console.print("Fail__ " + description);
+    platform_.console.print("Fail__ " + failure.message);
 }
 
 // Installation

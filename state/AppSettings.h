@@ -1,7 +1,9 @@
 #pragma once
 
+#include "base/Expected.h"
 #include "base/Observable.h"
 #include "base/Signal.h"
+#include "base/Snapshot.h"
 #include "install/InstallScript.h"
 #include "platform/Platform.h"
 #include "platform/ScriptService.h"
@@ -47,7 +49,7 @@ public:
     Observable<bool> showLogDetailsWindow{objectWillChange, false};
     Pasteboard& pasteboard;
     /// The failed installation's message. Storing it announces nothing.
-    std::string logDetailsStr;
+    Snapshot<std::string> logDetailsStr;
 
     Alert visibleAlert() const;
 
@@ -94,7 +96,7 @@ private:
     void runInBackground(std::string source, std::function<void(ScriptExecution)> completion);
     void applyOutcome(const ScriptOutcome& outcome);
     void applyProbe(const ScriptExecution& execution);
-    void printFailure(const std::string& description);
+    void printFailure(const Failure& failure);
 
     Platform platform_;
     Product product_;

@@ -36,7 +36,7 @@ bool isGoBackEnabled(Page page)
 
 bool isForwardEnabled(Page page, const ProductSelection& products)
 {
-    return page != Page::products || anySelected(products);
+    return page != Page::products || products.anyTicked();
 }
 
 bool isSelectAllVisible(Page page)

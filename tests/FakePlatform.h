@@ -3,7 +3,7 @@
 #include "platform/Application.h"
 #include "platform/Console.h"
 #include "platform/Dispatcher.h"
-#include "platform/FileListing.h"
+#include "platform/Files.h"
 #include "platform/Menu.h"
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
@@ -56,13 +56,13 @@ struct FakeDispatcher : Dispatcher {
     std::deque<Task> mainQueue;
 };
 
-/// Folders by their paths; everything else fails to be listed.
-struct FakeFiles : FileListing {
-    FolderListing list(const std::string& folder) const override
+/// Folders and files by their paths; nothing else can be listed or read.
+struct FakeFiles : Files {
+    Expected<std::vector<FolderEntry>> list(const std::string& folder) const override
     {
         const auto found = folders.find(folder);
         if (found == folders.end()) {
-            return ListingFailure{"no folder " + folder};
+            return Unexpected({"no folder " + folder, 0});
         }
         std::vector<FolderEntry> entries;
         for (const auto& [name, isFolder] : found->second) {
@@ -71,7 +71,17 @@ struct FakeFiles : FileListing {
         return entries;
     }
 
+    Expected<std::string> read(const std::string& path, std::size_t largest) const override
+    {
+        const auto found = contents.find(path);
+        if (found == contents.end() || found->second.size() > largest) {
+            return Unexpected({"no file " + path, 0});
+        }
+        return found->second;
+    }
+
     std::map<std::string, std::map<std::string, std::optional<bool>>> folders;
+    std::map<std::string, std::string> contents;
 };
 
 struct FakePasteboard : Pasteboard {

@@ -4,33 +4,37 @@
 
 cmake_minimum_required(VERSION 3.25)
 
-set(folders base platform platform/script platform/posix platform/qt platform/osascript products install agreement
-    state ui ui/qt app helper tools)
+set(folders base platform platform/script platform/posix platform/linux platform/qt platform/osascript products install
+    rtf agreement state view view/qt ui app helper tools)
 
 set(may_include_base "")
 set(may_include_platform base)
 set(may_include_platform/script base platform)
-set(may_include_platform/posix base platform platform/script)
+set(may_include_platform/posix base platform)
+set(may_include_platform/linux base platform platform/script platform/posix helper)
 set(may_include_platform/qt base platform platform/script)
-set(may_include_platform/osascript base platform)
+set(may_include_platform/osascript base platform platform/posix)
 set(may_include_products base platform)
 set(may_include_install base platform products)
-set(may_include_agreement base platform)
+set(may_include_rtf base)
+set(may_include_agreement base platform rtf)
 set(may_include_state base platform products install)
-set(may_include_ui base platform products agreement state)
-set(may_include_ui/qt base platform products agreement state ui)
+set(may_include_view base rtf/AttributedText.h)
+set(may_include_view/qt base view rtf/AttributedText.h)
+set(may_include_ui base products agreement state view)
 set(may_include_app ${folders})
 set(may_include_helper "")
 set(may_include_tools ${folders})
 
-set(may_use_qt platform/qt ui/qt app tools)
+set(may_use_qt platform/qt view/qt app tools)
 
 function(check file folder)
     file(STRINGS ${ROOT}/${file} lines REGEX "^#include")
     foreach(line IN LISTS lines)
-        if(line MATCHES "^#include \"(.*)/[^/]*\"")
-            if(NOT CMAKE_MATCH_1 STREQUAL folder AND NOT CMAKE_MATCH_1 IN_LIST may_include_${folder})
-                message(SEND_ERROR "${file} must not include from ${CMAKE_MATCH_1}/")
+        if(line MATCHES "^#include \"((.*)/[^/]*)\"")
+            if(NOT CMAKE_MATCH_2 STREQUAL folder AND NOT CMAKE_MATCH_1 IN_LIST may_include_${folder}
+                AND NOT CMAKE_MATCH_2 IN_LIST may_include_${folder})
+                message(SEND_ERROR "${file} must not include ${CMAKE_MATCH_1}")
             endif()
         elseif(line MATCHES "^#include \"")
             message(SEND_ERROR "${file}: write includes from the source folder on: ${line}")

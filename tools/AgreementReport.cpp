@@ -1,6 +1,6 @@
 #include "tools/AgreementReport.h"
 
-#include "agreement/AgreementFile.h"
+#include "agreement/Document.h"
 #include "platform/Console.h"
 #include "tools/JsonObject.h"
 
@@ -22,7 +22,7 @@ std::string_view nameOf(Kind kind, const std::array<const char*, Count>& names)
     return names[static_cast<std::size_t>(kind)];
 }
 
-std::string colorName(const std::optional<Color>& color)
+std::string colorName(const std::optional<rtf::Color>& color)
 {
     if (!color) {
         return {};
@@ -35,9 +35,9 @@ std::string colorName(const std::optional<Color>& color)
     return name;
 }
 
-void addAttributes(JsonObject& object, const AttributedText& text, std::uint32_t index)
+void addAttributes(JsonObject& object, const rtf::AttributedText& text, std::uint32_t index)
 {
-    const TextAttributes& attributes = text.attributes[index];
+    const rtf::TextAttributes& attributes = text.attributes[index];
     object.addText("font", text.families[attributes.family]);
     object.addNumber("size", attributes.size);
     object.addFlag("bold", attributes.bold);
@@ -52,7 +52,7 @@ void addAttributes(JsonObject& object, const AttributedText& text, std::uint32_t
     object.addName("link", attributes.link ? std::string_view(text.links[*attributes.link]) : "");
 }
 
-std::string runJson(const AttributedText& text, const Run& run)
+std::string runJson(const rtf::AttributedText& text, const rtf::Run& run)
 {
     JsonObject object;
     object.addText("text", text.textOf(run));
@@ -60,19 +60,19 @@ std::string runJson(const AttributedText& text, const Run& run)
     return object.text();
 }
 
-std::string runsJson(const AttributedText& text, const Paragraph& paragraph)
+std::string runsJson(const rtf::AttributedText& text, const rtf::Paragraph& paragraph)
 {
     std::string json;
-    for (const Run& run : text.runsOf(paragraph)) {
+    for (const rtf::Run& run : text.runsOf(paragraph)) {
         json += (json.empty() ? "\n      " : ",\n      ") + runJson(text, run);
     }
     return "[" + json + (json.empty() ? "]" : "\n    ]");
 }
 
-std::string tabsJson(const std::vector<TabStop>& stops)
+std::string tabsJson(const std::vector<rtf::TabStop>& stops)
 {
     std::string json;
-    for (const TabStop& stop : stops) {
+    for (const rtf::TabStop& stop : stops) {
         JsonObject object;
         object.addText("kind", nameOf(stop.kind, tabNames));
         object.addNumber("at", stop.position);
@@ -81,16 +81,16 @@ std::string tabsJson(const std::vector<TabStop>& stops)
     return json.empty() ? json : json + "]";
 }
 
-std::string lineHeightJson(const LineHeight& height)
+std::string lineHeightJson(const rtf::LineHeight& height)
 {
     JsonObject object;
     object.addNumber(nameOf(height.kind, lineHeightNames), height.value);
-    return height.kind == LineHeight::Kind::natural ? "" : object.text();
+    return height.kind == rtf::LineHeight::Kind::natural ? "" : object.text();
 }
 
-std::string paragraphJson(const AttributedText& text, const Paragraph& paragraph)
+std::string paragraphJson(const rtf::AttributedText& text, const rtf::Paragraph& paragraph)
 {
-    const ParagraphFormat& format = text.formats[paragraph.format];
+    const rtf::ParagraphFormat& format = text.formats[paragraph.format];
     JsonObject object;
     object.addName("alignment", nameOf(format.alignment, alignmentNames));
     object.addNumber("left", format.leftIndent);
@@ -112,20 +112,20 @@ std::string paragraphJson(const AttributedText& text, const Paragraph& paragraph
 
 } // namespace
 
-std::string agreementJson(const AttributedText& text)
+std::string agreementJson(const rtf::AttributedText& text)
 {
     std::string json;
-    for (const Paragraph& paragraph : text.paragraphs) {
+    for (const rtf::Paragraph& paragraph : text.paragraphs) {
         json += (json.empty() ? "\n    " : ",\n    ") + paragraphJson(text, paragraph);
     }
     return "{\"paragraphs\": [" + json + (json.empty() ? "]}\n" : "\n]}\n");
 }
 
-std::string agreementPlainText(const AttributedText& text)
+std::string agreementPlainText(const rtf::AttributedText& text)
 {
     std::string plain;
-    for (const Paragraph& paragraph : text.paragraphs) {
-        for (const Run& run : text.runsOf(paragraph)) {
+    for (const rtf::Paragraph& paragraph : text.paragraphs) {
+        for (const rtf::Run& run : text.runsOf(paragraph)) {
             plain += text.textOf(run);
         }
         plain += '\n';
@@ -133,15 +133,14 @@ std::string agreementPlainText(const AttributedText& text)
     return plain;
 }
 
-int reportAgreement(const std::string& path, AgreementForm form, Console& console)
+int reportAgreement(const Files& files, const std::string& path, AgreementForm form, Console& console)
 {
-    const auto text = readAgreement(path);
-    if (const auto* const failure = std::get_if<AgreementFailure>(&text)) {
-        console.print(failure->description);
+    const auto agreement = readAgreement(files, path);
+    if (!agreement) {
+        console.print(agreement.error().message);
         return 1;
     }
-    const auto& agreement = std::get<AttributedText>(text);
-    std::string report = form == AgreementForm::json ? agreementJson(agreement) : agreementPlainText(agreement);
+    std::string report = form == AgreementForm::json ? agreementJson(*agreement) : agreementPlainText(*agreement);
     if (!report.empty()) {
         report.pop_back();
         console.print(report);
@@ -149,11 +148,10 @@ int reportAgreement(const std::string& path, AgreementForm form, Console& consol
     return 0;
 }
 
-std::optional<std::string> agreementProblem(const std::string& path)
+std::optional<std::string> agreementProblem(const Files& files, const std::string& path)
 {
-    const auto text = readAgreement(path);
-    const auto* const failure = std::get_if<AgreementFailure>(&text);
-    return failure == nullptr ? std::nullopt : std::optional(failure->description);
+    const auto agreement = readAgreement(files, path);
+    return agreement ? std::nullopt : std::optional(agreement.error().message);
 }
 
 } // namespace corvellane

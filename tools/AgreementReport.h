@@ -1,6 +1,6 @@
 #pragma once
 
-#include "agreement/AttributedText.h"
+#include "rtf/AttributedText.h"
 
 #include <optional>
 #include <string>
@@ -8,6 +8,7 @@
 namespace corvellane {
 
 class Console;
+class Files;
 
 /// The attributed text as JSON: one object whose only key `paragraphs` holds an array, one paragraph after the other.
 /// UTF-8, a run a line, ended by a line feed. Lengths are in points. A key is left out where its value says nothing:
@@ -22,17 +23,17 @@ class Console;
 /// A run: `text`, `font` (the family) and `size`, always there; `bold`, `italic`, `underline`, `strike` (true),
 /// `colour` and `background` ("#rrggbb"), `script` ("super", "sub"), `offset` (upwards), `capitals` ("small", "all"),
 /// `link` (the target).
-std::string agreementJson(const AttributedText& text);
+std::string agreementJson(const rtf::AttributedText& text);
 
 /// The text alone, every paragraph ended by a line feed; U+2028 stays as it is.
-std::string agreementPlainText(const AttributedText& text);
+std::string agreementPlainText(const rtf::AttributedText& text);
 
 enum class AgreementForm { json, plainText };
 
 /// Prints the agreement in the file in that form, or the reader's message when there is none. The exit code: 0 or 1.
-int reportAgreement(const std::string& path, AgreementForm form, Console& console);
+int reportAgreement(const Files& files, const std::string& path, AgreementForm form, Console& console);
 
 /// The reader's message when the file is missing, unreadable or malformed.
-std::optional<std::string> agreementProblem(const std::string& path);
+std::optional<std::string> agreementProblem(const Files& files, const std::string& path);
 
 } // namespace corvellane

@@ -3,7 +3,6 @@
 #include "base/PathNames.h"
 #include "install/ElementKind.h"
 #include "products/Discovery.h"
-#include "products/DisplayOrder.h"
 #include "tools/PrintableText.h"
 
 #include <iterator>
@@ -33,7 +32,7 @@ std::vector<std::string> describeElement(const std::string& path, const HostPath
 
 class Reporter {
 public:
-    Reporter(const FileListing& files, const HostPaths& hosts)
+    Reporter(const Files& files, const HostPaths& hosts)
         : files_(files)
         , hosts_(hosts)
     {
@@ -43,7 +42,7 @@ public:
     {
         warn(warnAboutName(folder));
         warn(warnAboutEntries(files_, folder));
-        warn(warnAboutAgreement(folder));
+        warn(warnAboutAgreement(files_, folder));
     }
 
     void reportProduct(const std::string& location)
@@ -52,9 +51,9 @@ public:
         warn(warnAboutName(location));
         warn(warnAboutEntries(files_, location));
         const auto found = foldersIn(files_, location);
-        if (const auto* elements = std::get_if<std::vector<std::string>>(&found)) {
-            warn(warnAboutMissingElements(location, *elements));
-            for (const std::string& element : *elements) {
+        if (found) {
+            warn(warnAboutMissingElements(location, *found));
+            for (const std::string& element : *found) {
                 reportElement(element);
             }
         }
@@ -83,7 +82,7 @@ private:
         std::move(warnings.begin(), warnings.end(), std::back_inserter(report_.warnings));
     }
 
-    const FileListing& files_;
+    const Files& files_;
     const HostPaths& hosts_;
     std::vector<std::string> elements_;
     PayloadReport report_;
@@ -91,12 +90,12 @@ private:
 
 } // namespace
 
-PayloadReport reportPayload(const FileListing& files, const std::string& productsFolder,
-    const ProductSelection& selection, const HostPaths& hosts)
+PayloadReport reportPayload(
+    const Files& files, const std::string& productsFolder, const ProductSelection& selection, const HostPaths& hosts)
 {
     Reporter reporter(files, hosts);
     reporter.reportProductsFolder(productsFolder);
-    for (const std::string& location : inDisplayOrder(onlySelected(selection))) {
+    for (const std::string& location : selection.ticked()) {
         reporter.reportProduct(location);
     }
     return reporter.finish();

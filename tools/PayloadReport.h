@@ -1,7 +1,7 @@
 #pragma once
 
 #include "install/InstallScript.h"
-#include "platform/FileListing.h"
+#include "platform/Files.h"
 #include "products/ProductSelection.h"
 #include "tools/PayloadWarnings.h"
 
@@ -18,7 +18,7 @@ struct PayloadReport {
 };
 
 /// Reads the whole payload of the ticked products, and changes nothing.
-PayloadReport reportPayload(const FileListing& files, const std::string& productsFolder,
-    const ProductSelection& selection, const HostPaths& hosts);
+PayloadReport reportPayload(
+    const Files& files, const std::string& productsFolder, const ProductSelection& selection, const HostPaths& hosts);
 
 } // namespace corvellane

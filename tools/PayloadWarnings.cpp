@@ -102,7 +102,7 @@ PayloadWarnings warnAboutTree(const fs::path& element)
         folders.pop_back();
         std::error_code error;
         for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
-             entry.increment(error)) {
+            entry.increment(error)) {
             std::error_code unknown;
             if (entry->is_symlink(unknown)) {
                 append(warnings, warnAboutLink(entry->path(), element));
@@ -119,14 +119,14 @@ PayloadWarnings warnAboutTree(const fs::path& element)
 
 } // namespace
 
-PayloadWarnings warnAboutEntries(const FileListing& files, const std::string& folder)
+PayloadWarnings warnAboutEntries(const Files& files, const std::string& folder)
 {
-    const FolderListing listing = files.list(folder);
-    if (const auto* failure = std::get_if<ListingFailure>(&listing)) {
-        return {{folder, "cannot be read: " + failure->description}};
+    const auto entries = files.list(folder);
+    if (!entries) {
+        return {{folder, "cannot be read: " + entries.error().message}};
     }
     PayloadWarnings warnings;
-    for (const FolderEntry& entry : std::get<std::vector<FolderEntry>>(listing)) {
+    for (const FolderEntry& entry : *entries) {
         if (!entry.isFolder.value_or(false)) {
             warnings.push_back({entry.path, "is no folder and will be ignored"});
         }
@@ -134,7 +134,7 @@ PayloadWarnings warnAboutEntries(const FileListing& files, const std::string& fo
     return warnings;
 }
 
-PayloadWarnings warnAboutAgreement(const std::string& productsFolder)
+PayloadWarnings warnAboutAgreement(const Files& files, const std::string& productsFolder)
 {
     const fs::path folder = fs::path(productsFolder).parent_path();
     const std::string name = folder.filename();
@@ -142,7 +142,7 @@ PayloadWarnings warnAboutAgreement(const std::string& productsFolder)
         return {};
     }
     const fs::path agreement = folder / "CorvellaneEULA.rtf";
-    if (const auto problem = agreementProblem(agreement)) {
+    if (const auto problem = agreementProblem(files, agreement)) {
         return {{agreement, "is no agreement to show: " + *problem}};
     }
     return {};

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "install/InstallScript.h"
-#include "platform/FileListing.h"
+#include "platform/Files.h"
 
 #include <string>
 #include <vector>
@@ -17,10 +17,10 @@ struct PayloadWarning {
 using PayloadWarnings = std::vector<PayloadWarning>;
 
 /// Entries of a folder that are no folders, and so are neither products nor elements; or that it cannot be listed.
-PayloadWarnings warnAboutEntries(const FileListing& files, const std::string& folder);
+PayloadWarnings warnAboutEntries(const Files& files, const std::string& folder);
 
 /// The agreement of the resource folder that the products folder lies in; nothing when it lies in another folder.
-PayloadWarnings warnAboutAgreement(const std::string& productsFolder);
+PayloadWarnings warnAboutAgreement(const Files& files, const std::string& productsFolder);
 
 /// A product that installs nothing.
 PayloadWarnings warnAboutMissingElements(const std::string& product, const std::vector<std::string>& elements);

@@ -5,7 +5,7 @@
 #include "platform/Resources.h"
 #include "platform/Workspace.h"
 #include "platform/posix/DirectPrompt.h"
-#include "platform/posix/PosixFileListing.h"
+#include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixShell.h"
 #include "platform/posix/PosixStandardFolders.h"
 #include "platform/posix/QueueDispatcher.h"
@@ -67,7 +67,7 @@ private:
     NoWorkspace workspace_;
     NoFileManager fileManager_;
     QueueDispatcher dispatcher_;
-    PosixFileListing files_;
+    PosixFiles files_;
     RehearsalResources resources_;
     PosixStandardFolders folders_;
     PosixShell shell_{realUser()};

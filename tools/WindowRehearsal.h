@@ -4,7 +4,7 @@
 #include "platform/Application.h"
 #include "platform/Workspace.h"
 #include "platform/posix/DirectPrompt.h"
-#include "platform/posix/PosixFileListing.h"
+#include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixShell.h"
 #include "platform/posix/PosixStandardFolders.h"
 #include "platform/qt/QtDispatcher.h"
@@ -51,7 +51,7 @@ private:
     ToldFileManager fileManager_;
     QtDispatcher dispatcher_;
     QtPasteboard pasteboard_;
-    PosixFileListing files_;
+    PosixFiles files_;
     RehearsalResources resources_;
     PosixStandardFolders folders_;
     PosixShell shell_{realUser()};

@@ -1,6 +1,6 @@
 #include "tools/WindowUser.h"
 
-#include "ui/qt/Words.h"
+#include "view/qt/Words.h"
 
 #include <QAbstractButton>
 #include <QLabel>

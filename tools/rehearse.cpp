@@ -27,19 +27,19 @@ int complain(const std::string& message)
 /// Ticks the named products and no others; gives a name that no product has.
 std::optional<std::string> select(AppSettings& settings, const std::vector<std::string>& names)
 {
-    const ProductSelection products = settings.products.get();
+    const std::vector<std::string> locations = *settings.products.get().locations();
     const auto hasName = [](const std::string& name) {
-        return [&name](const auto& product) { return lastPathComponent(product.first) == name; };
+        return [&name](const std::string& location) { return lastPathComponent(location) == name; };
     };
     for (const std::string& name : names) {
-        if (std::none_of(products.begin(), products.end(), hasName(name))) {
+        if (std::none_of(locations.begin(), locations.end(), hasName(name))) {
             return name;
         }
     }
-    for (const auto& product : products) {
-        const auto isProduct = [&](const std::string& name) { return hasName(name)(product); };
+    for (const std::string& location : locations) {
+        const auto isProduct = [&](const std::string& name) { return hasName(name)(location); };
         if (!names.empty() && std::none_of(names.begin(), names.end(), isProduct)) {
-            settings.toggleProduct(product.first);
+            settings.toggleProduct(location);
         }
     }
     return std::nullopt;
@@ -54,8 +54,7 @@ int showScript(AppSettings& settings)
 
 int showPayload(AppSettings& settings, const std::string& productsFolder, Console& console)
 {
-    const auto report
-        = reportPayload(PosixFileListing(), productsFolder, settings.products.get(), settings.hostPaths());
+    const auto report = reportPayload(PosixFiles(), productsFolder, settings.products.get(), settings.hostPaths());
     for (const std::string& line : report.lines) {
         console.print(line);
     }
@@ -82,7 +81,7 @@ int install(Rehearsal& rehearsal, const std::string& into, Console& console)
     const bool withErrors = settings.completedWithErrors.get();
     console.print("page: " + std::string(nameOf(settings.currentPage.get())));
     console.print(std::string("completedWithErrors: ") + (withErrors ? "true" : "false"));
-    console.print("log: " + settings.logDetailsStr);
+    console.print("log: " + *settings.logDetailsStr);
     for (const std::string& line : describeHostFolders(settings.hostPaths(), into)) {
         console.print(line);
     }

@@ -1,7 +1,7 @@
 #include "ui/AlertCards.h"
 
 #include "state/AppSettings.h"
-#include "ui/Build.h"
+#include "view/Build.h"
 
 namespace corvellane {
 namespace {

@@ -2,8 +2,8 @@
 
 #include "state/AppSettings.h"
 #include "ui/AlertCards.h"
-#include "ui/Build.h"
 #include "ui/LogDetails.h"
+#include "view/Build.h"
 
 namespace corvellane {
 namespace {

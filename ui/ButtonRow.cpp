@@ -1,7 +1,7 @@
 #include "ui/ButtonRow.h"
 
 #include "state/AppSettings.h"
-#include "ui/Build.h"
+#include "view/Build.h"
 
 namespace corvellane {
 namespace {
@@ -11,14 +11,12 @@ View extraButton(AppSettings& settings)
     if (!isSelectAllVisible(settings.currentPage.get())) {
         return nothing();
     }
-    return button(
-        "Select All", [&settings] { settings.selectAll(); }, isSelectAllEnabled(settings.products.get()));
+    return button("Select All", [&settings] { settings.selectAll(); }, isSelectAllEnabled(settings.products.get()));
 }
 
 View goBackButton(AppSettings& settings)
 {
-    return button(
-        "Go Back", [&settings] { settings.goBack(); }, isGoBackEnabled(settings.currentPage.get()));
+    return button("Go Back", [&settings] { settings.goBack(); }, isGoBackEnabled(settings.currentPage.get()));
 }
 
 View forwardButton(AppSettings& settings)

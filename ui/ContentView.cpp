@@ -2,7 +2,6 @@
 
 #include "state/AppSettings.h"
 #include "ui/AlertView.h"
-#include "ui/Build.h"
 #include "ui/ButtonRow.h"
 #include "ui/IntroPage.h"
 #include "ui/LicensePage.h"
@@ -11,6 +10,7 @@
 #include "ui/SelectedProductsPage.h"
 #include "ui/SideBar.h"
 #include "ui/SummaryPage.h"
+#include "view/Build.h"
 
 namespace corvellane {
 

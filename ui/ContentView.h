@@ -2,7 +2,7 @@
 
 #include "agreement/Document.h"
 #include "base/Signal.h"
-#include "ui/View.h"
+#include "view/View.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #include "ui/IntroPage.h"
 
-#include "ui/Build.h"
+#include "view/Build.h"
 
 namespace corvellane {
 

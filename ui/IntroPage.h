@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/View.h"
+#include "view/View.h"
 
 namespace corvellane {
 

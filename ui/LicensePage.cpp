@@ -1,11 +1,11 @@
 #include "ui/LicensePage.h"
 
-#include "ui/Build.h"
 #include "ui/PageTexts.h"
+#include "view/Build.h"
 
 namespace corvellane {
 
-View licenseView(const AttributedText& agreement)
+View licenseView(const rtf::AttributedText& agreement)
 {
     return holding(RichText{pageTitle(Page::license), &agreement});
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "ui/View.h"
+#include "view/View.h"
 
 namespace corvellane {
 
 /// The agreement, with its formatting, in the panel's full size.
-View licenseView(const AttributedText& agreement);
+View licenseView(const rtf::AttributedText& agreement);
 
 } // namespace corvellane

@@ -2,7 +2,7 @@
 
 #include "state/AppSettings.h"
 #include "ui/AlertCards.h"
-#include "ui/Build.h"
+#include "view/Build.h"
 
 namespace corvellane {
 

@@ -2,8 +2,8 @@
 
 #include "base/PathNames.h"
 #include "state/AppSettings.h"
-#include "ui/Build.h"
 #include "ui/PageTexts.h"
+#include "view/Build.h"
 
 namespace corvellane {
 namespace {

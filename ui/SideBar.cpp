@@ -1,9 +1,9 @@
 #include "ui/SideBar.h"
 
 #include "state/AppSettings.h"
-#include "ui/Build.h"
 #include "ui/ContentView.h"
 #include "ui/PageTexts.h"
+#include "view/Build.h"
 
 namespace corvellane {
 namespace {

@@ -37,7 +37,7 @@ ScriptError cannotRun(int error)
 
 PosixShell::PosixShell(const UserAccount& user)
     : environment_{"PATH=/usr/bin:/bin:/usr/sbin:/sbin", "LC_ALL=C.UTF-8", "USER=" + user.name, "LOGNAME=" + user.name,
-        "HOME=" + user.home}
+          "HOME=" + user.home}
 {
 }
 

@@ -14,7 +14,7 @@ enum class Sticky { refused, accepted };
 
 bool isRootsAlone(const fs::path& path, Sticky sticky)
 {
-    struct stat status { };
+    struct stat status{};
     if (lstat(path.c_str(), &status) != 0 || status.st_uid != 0) {
         return false;
     }

@@ -11,8 +11,7 @@ namespace {
 
 void requestEnd()
 {
-    QMetaObject::invokeMethod(
-        QCoreApplication::instance(), [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(QCoreApplication::instance(), [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
 }
 
 void zoom(QWidget& window)
@@ -24,12 +23,12 @@ void zoom(QWidget& window)
 
 QtApplication::QtApplication()
     : menu_({
-        {"Corvellane Plugin Installer", {{"Quit", [](QWidget&) { requestEnd(); }}}},
-        {"File", {}},
-        {"Edit", {}},
-        {"View", {}},
-        {"Window", {{"Minimize", [](QWidget& window) { window.showMinimized(); }}, {"Zoom", zoom}}},
-    })
+          {"Corvellane Plugin Installer", {{"Quit", [](QWidget&) { requestEnd(); }}}},
+          {"File", {}},
+          {"Edit", {}},
+          {"View", {}},
+          {"Window", {{"Minimize", [](QWidget& window) { window.showMinimized(); }}, {"Zoom", zoom}}},
+      })
 {
 }
 

@@ -1,5 +1,6 @@
 #include "agreement/Document.h"
-#include "agreement/RtfReader.h"
+#include "platform/posix/PosixFiles.h"
+#include "rtf/RtfReader.h"
 #include "tests/FakePlatform.h"
 #include "tests/ScratchFolder.h"
 #include "tools/AgreementReport.h"
@@ -24,17 +25,18 @@ protected:
     /// What loading the resource prints, if it leaves the data empty and announces nothing.
     std::vector<std::string> linesOfFailure(const std::string& name)
     {
-        Document document(resources, console);
+        Document document(resources, files, console);
         int writes = 0;
         const auto subscription = document.objectWillChange.subscribe([&] { ++writes; });
         console.lines.clear();
         document.load(name);
         EXPECT_EQ(writes, 0);
-        EXPECT_TRUE(document.data.get().paragraphs.empty());
+        EXPECT_TRUE(document.data.get()->paragraphs.empty());
         return console.lines;
     }
 
     ScratchFolder scratch;
+    PosixFiles files;
     FakeResources resources;
     FakeConsole console;
 };
@@ -45,14 +47,14 @@ TEST_F(DocumentTest, holdsTheResourceAfterOneAnnouncement)
 {
     write("Terms.rtf", "{\\rtf1\\ansi Read {\\b this}\\par}");
     write("Terms.txt", "not this");
-    Document document(resources, console);
+    Document document(resources, files, console);
     Lines seen;
     const auto subscription
-        = document.objectWillChange.subscribe([&] { seen.push_back(agreementPlainText(document.data.get())); });
-    EXPECT_TRUE(document.data.get().paragraphs.empty());
+        = document.objectWillChange.subscribe([&] { seen.push_back(agreementPlainText(*document.data.get())); });
+    EXPECT_TRUE(document.data.get()->paragraphs.empty());
     document.load("Terms");
     EXPECT_EQ(seen, Lines{""});
-    EXPECT_EQ(agreementPlainText(document.data.get()), "Read this\n");
+    EXPECT_EQ(agreementPlainText(*document.data.get()), "Read this\n");
     EXPECT_EQ(console.lines, Lines{});
 }
 
@@ -89,29 +91,30 @@ TEST_F(DocumentTest, forgivesWhatStandsAroundTheOuterGroup)
     for (const std::string& before : Lines{"", " \r\n\t", "\xEF\xBB\xBF", "\xEF\xBB\xBF\n", " \xEF\xBB\xBF "}) {
         for (const std::string& after : Lines{"", "\n", "}", "{\\b", std::string(3, '\0')}) {
             write("Terms.rtf", std::string(before).append("{\\rtf1 a}").append(after));
-            Document document(resources, console);
+            Document document(resources, files, console);
             document.load("Terms");
-            EXPECT_EQ(agreementPlainText(document.data.get()), "a\n") << before << after;
+            EXPECT_EQ(agreementPlainText(*document.data.get()), "a\n") << before << after;
         }
     }
     for (const std::string_view wrong : {"\\rtf1 a", "{rtf1 a}", "{ \\rtf1 a}", "{\\rt", "x{\\rtf1 a}"}) {
-        EXPECT_EQ(std::get<RtfFailure>(readRtf(wrong)), RtfFailure::notRtf) << wrong;
+        EXPECT_EQ(rtf::readRtf(wrong).error(), rtf::RtfFailure::notRtf) << wrong;
     }
     for (const std::string_view open : {"{\\rtf", "{\\rtf1 a\\", "{\\rtf1 a\\'", "{\\rtf1\\bin5 }}", "{\\rtf1 a\\}"}) {
-        EXPECT_EQ(std::get<RtfFailure>(readRtf(open)), RtfFailure::incomplete) << open;
+        EXPECT_EQ(rtf::readRtf(open).error(), rtf::RtfFailure::incomplete) << open;
     }
 }
 
 TEST_F(DocumentTest, isReportedAsJsonOrTextOrByItsProblem)
 {
     const std::string good = write("Good.rtf", "{\\rtf1 \\u34\\'22\\\\ a\tb\\par\\par\\cell c\\line d}");
-    EXPECT_EQ(reportAgreement(good, AgreementForm::plainText, console), 0);
-    EXPECT_EQ(reportAgreement(good, AgreementForm::json, console), 0);
-    EXPECT_EQ(agreementProblem(good), std::nullopt);
+    EXPECT_EQ(reportAgreement(files, good, AgreementForm::plainText, console), 0);
+    EXPECT_EQ(reportAgreement(files, good, AgreementForm::json, console), 0);
+    EXPECT_EQ(agreementProblem(files, good), std::nullopt);
     const std::string bad = write("Bad.rtf", "{\\rtf1");
-    EXPECT_EQ(reportAgreement(bad, AgreementForm::json, console), 1);
-    EXPECT_EQ(agreementProblem(bad), console.lines.back());
-    EXPECT_EQ(agreementProblem(bad + "x"), "The file “Bad.rtfx” couldn’t be opened because there is no such file.");
+    EXPECT_EQ(reportAgreement(files, bad, AgreementForm::json, console), 1);
+    EXPECT_EQ(agreementProblem(files, bad), console.lines.back());
+    EXPECT_EQ(
+        agreementProblem(files, bad + "x"), "The file “Bad.rtfx” couldn’t be opened because there is no such file.");
     const std::string json = R"({"paragraphs": [
     {"runs": [
       {"text": "\"\\ a\tb", "font": "Helvetica", "size": 12}

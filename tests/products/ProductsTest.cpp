@@ -4,7 +4,7 @@
 #include "products/DisplayOrder.h"
 #include "products/Product.h"
 
-#include "platform/posix/PosixFileListing.h"
+#include "platform/posix/PosixFiles.h"
 #include "tests/FakePlatform.h"
 #include "tests/ScratchFolder.h"
 
@@ -61,9 +61,7 @@ TEST(DisplayOrder, comparesComposedNamesAndLeavesThemAsTheyAre)
     const std::string decomposed = "/p/Cafe\xCC\x81";
     const std::string composed = "/p/Caf\xC3\xA9";
     const std::string notUtf8 = "/p/\xFFx";
-    const ProductSelection products{{"/p/b", true}, {"/p/A", false}, {"/p/a", true}, {"/p/Suite/", true},
-        {"/p/Cafz", true}, {decomposed, true}, {composed, true}, {notUtf8, true}, {"/o/a", true}};
-    EXPECT_THAT(inDisplayOrder(products),
+    EXPECT_THAT(inDisplayOrder({"/p/b", "/p/A", "/p/a", "/p/Suite/", "/p/Cafz", decomposed, composed, notUtf8, "/o/a"}),
         ElementsAre("/p/A", "/p/Cafz", decomposed, composed, "/p/Suite/", "/o/a", "/p/a", "/p/b", notUtf8));
     EXPECT_EQ(lastPathComponent("/p/Suite/"), "Suite");
     EXPECT_EQ(lastPathComponent("name"), "name");
@@ -80,8 +78,8 @@ TEST(Discovery, findsRealFoldersByTheBytesOfTheirNames)
     scratch.write("file.plugin", "");
     std::filesystem::create_directory_symlink("Z", scratch.path() + "/link");
     std::vector<std::string> names;
-    const auto found = foldersIn(PosixFileListing(), scratch.path());
-    for (const std::string& path : std::get<std::vector<std::string>>(found)) {
+    const auto found = foldersIn(PosixFiles(), scratch.path());
+    for (const std::string& path : *found) {
         EXPECT_EQ(path, scratch.path() + "/" + std::string(lastPathComponent(path)));
         names.emplace_back(lastPathComponent(path));
     }
@@ -93,8 +91,8 @@ TEST(Discovery, saysWhyAFolderCannotBeListed)
     const ScratchFolder scratch;
     scratch.write("Products", "a file");
     const auto failureOf = [&](const std::string& name) {
-        const auto found = foldersIn(PosixFileListing(), scratch.path() + "/" + name);
-        return std::get<ListingFailure>(found).description;
+        const auto found = foldersIn(PosixFiles(), scratch.path() + "/" + name);
+        return found.error().message;
     };
     EXPECT_EQ(failureOf("Gone"), "The folder “Gone” doesn’t exist.");
     EXPECT_EQ(failureOf("Products"), "The file “Products” couldn’t be opened.");

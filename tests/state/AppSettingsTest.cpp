@@ -27,7 +27,7 @@ TEST_F(AppSettingsTest, announcesEveryWriteOnceAndTheLogNever)
 {
     EXPECT_EQ(signalsOf([&] { settings->showLicenseAlert.set(false); }), 1);
     EXPECT_EQ(signalsOf([&] { settings->toggleLogDetails(); }), 1);
-    EXPECT_EQ(signalsOf([&] { settings->logDetailsStr = "text"; }), 0);
+    EXPECT_EQ(signalsOf([&] { settings->logDetailsStr = std::string("text"); }), 0);
     EXPECT_EQ(signalsOf([&] { settings->refreshProducts(); }), 2);
     EXPECT_EQ(signalsOf([&] { settings->selectAll(); }), 1);
     EXPECT_EQ(signalsOf([&] { settings->toggleProduct("/a"); }), 1);
@@ -43,8 +43,7 @@ TEST_F(AppSettingsTest, findsTheFoldersOfTheProductsFolderAndTicksThem)
     platform.files.folders["/Resources/Products"]["unknown"] = std::nullopt;
     platform.files.folders["/Resources/Products/b"]["notes.txt"] = false;
     settings->refreshProducts();
-    EXPECT_EQ(
-        settings->products.get(), (ProductSelection{{"/Resources/Products/A", true}, {"/Resources/Products/b", true}}));
+    EXPECT_EQ(settings->products.get(), ProductSelection({"/Resources/Products/b", "/Resources/Products/A"}));
     EXPECT_EQ(settings->elementsToCopy(), std::vector<std::string>{"/Resources/Products/b/b.plugin"});
     settings->toggleProduct("/Resources/Products/b");
     EXPECT_TRUE(settings->selectedExist());
@@ -52,7 +51,7 @@ TEST_F(AppSettingsTest, findsTheFoldersOfTheProductsFolderAndTicksThem)
     settings->toggleProduct("/Resources/Products/A");
     EXPECT_FALSE(settings->selectedExist());
     settings->selectAll();
-    EXPECT_EQ(settings->products.get().at("/Resources/Products/b"), true);
+    EXPECT_TRUE(settings->products.get().isTicked("/Resources/Products/b"));
     EXPECT_TRUE(platform.console.lines.empty());
 }
 

@@ -76,7 +76,7 @@ TEST_F(InstallationTest, writesTheOutcomeStepByStep)
         EXPECT_EQ(writesOf(row.execution), row.writes);
         EXPECT_EQ(settings->currentPage.get(), row.page);
         EXPECT_EQ(settings->completedWithErrors.get(), row.withErrors);
-        EXPECT_EQ(settings->logDetailsStr, row.log);
+        EXPECT_EQ(*settings->logDetailsStr, row.log);
         EXPECT_EQ(platform.console.lines, row.lines);
     }
 }
@@ -90,7 +90,7 @@ TEST_F(InstallationTest, changesNothingWhenNoScriptCanBeMadeAndForgetsNoEarlierF
     settings->currentPage.set(Page::install);
     writesOf(answer("Ok"));
     EXPECT_TRUE(settings->completedWithErrors.get());
-    EXPECT_EQ(settings->logDetailsStr, "broken");
+    EXPECT_EQ(*settings->logDetailsStr, "broken");
 }
 
 TEST_F(InstallationTest, composesPrintsAndRunsTheScriptOfTheTickedProductsInDisplayOrder)

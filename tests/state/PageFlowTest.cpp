@@ -27,8 +27,10 @@ TEST(FinderAccess, comesFromItsExactTextAndFromNoOther)
 TEST(PageFlow, enablesTheButtonsByPageAndSelection)
 {
     const ProductSelection none;
-    const ProductSelection unticked{{"/a", false}};
-    const ProductSelection ticked{{"/a", false}, {"/b", true}};
+    ProductSelection unticked({"/a"});
+    unticked.toggle("/a");
+    ProductSelection ticked({"/a", "/b"});
+    ticked.toggle("/a");
     for (const Page page : allPages) {
         EXPECT_EQ(isGoBackEnabled(page), page != Page::intro && page != Page::summary);
         EXPECT_EQ(isForwardEnabled(page, none), page != Page::products);

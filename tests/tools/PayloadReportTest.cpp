@@ -1,6 +1,6 @@
 #include "tools/PayloadReport.h"
 
-#include "platform/posix/PosixFileListing.h"
+#include "platform/posix/PosixFiles.h"
 #include "tests/ScratchFolder.h"
 #include "tools/PrintableText.h"
 #include "tools/RehearseOptions.h"
@@ -24,7 +24,7 @@ protected:
                 products[entry.path().native()] = true;
             }
         }
-        return reportPayload(PosixFileListing(), scratch.path(), products, {"app/", "video/", "photo/", "lr/"});
+        return reportPayload(PosixFiles(), scratch.path(), products, {"app/", "video/", "photo/", "lr/"});
     }
 
     /// "path: message" of each warning, the path from the scratch folder on.

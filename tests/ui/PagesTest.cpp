@@ -1,5 +1,5 @@
 #include "tests/ui/WizardWorld.h"
-#include "ui/ListRows.h"
+#include "view/ListRows.h"
 
 namespace corvellane {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "state/AppSettings.h"
 #include "tests/FakePlatform.h"
-#include "tests/ui/TreeSearch.h"
+#include "tests/view/TreeSearch.h"
 #include "ui/ContentView.h"
 
 #include <gmock/gmock.h>

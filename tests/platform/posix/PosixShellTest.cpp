@@ -37,8 +37,8 @@ TEST_F(PosixShellTest, runsCommandsInAWorldOfTheirOwn)
 
 TEST_F(PosixShellTest, givesCommandsDefaultSignals)
 {
-    struct sigaction ignoring { };
-    struct sigaction before { };
+    struct sigaction ignoring{};
+    struct sigaction before{};
     ignoring.sa_handler = SIG_IGN;
     sigaction(SIGPIPE, &ignoring, &before);
     sigset_t blocked;

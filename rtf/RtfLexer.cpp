@@ -1,0 +1,203 @@
+#include "rtf/RtfLexer.h"
+
+#include "rtf/ByteScan.h"
+#include "rtf/RtfControlWords.h"
+
+#include <algorithm>
+
+namespace corvellane::rtf {
+namespace {
+
+bool isLetter(char byte)
+{
+    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
+}
+
+bool isDigit(char byte)
+{
+    return byte >= '0' && byte <= '9';
+}
+
+constexpr std::array<std::int8_t, 256> hexDigits = [] {
+    std::array<std::int8_t, 256> values{};
+    values.fill(-1);
+    for (std::int8_t value = 0; value < 16; ++value) {
+        values[static_cast<unsigned char>("0123456789abcdef"[value])] = value;
+        values[static_cast<unsigned char>("0123456789ABCDEF"[value])] = value;
+    }
+    return values;
+}();
+
+int hexDigit(char byte)
+{
+    return hexDigits[static_cast<unsigned char>(byte)];
+}
+
+/// What could follow a backslash: a word that the reader knows, or a byte in hexadecimal.
+bool startsControl(std::string_view bytes)
+{
+    if (bytes.starts_with('\'')) {
+        return bytes.size() > 2 && hexDigit(bytes[1]) >= 0 && hexDigit(bytes[2]) >= 0;
+    }
+    std::size_t length = 0;
+    while (length < bytes.size() && isLetter(bytes[length])) {
+        ++length;
+    }
+    return findControlWord(bytes.substr(0, length)) != nullptr;
+}
+
+} // namespace
+
+bool RtfLexer::at(std::size_t offset, char wanted) const
+{
+    return offset < bytes_.size() - position_ && bytes_[position_ + offset] == wanted;
+}
+
+const RtfToken& RtfLexer::next()
+{
+    while (position_ < bytes_.size()) {
+        if (lexToken()) {
+            return token_;
+        }
+    }
+    token_.kind = RtfToken::Kind::end;
+    return token_;
+}
+
+/// False when what stood there means nothing.
+bool RtfLexer::lexToken()
+{
+    const char byte = bytes_[position_];
+    if (byte == '\\') {
+        return lexControl();
+    }
+    if (byte == '{' || byte == '}') {
+        token_.kind = byte == '{' ? RtfToken::Kind::open : RtfToken::Kind::close;
+        ++position_;
+        return true;
+    }
+    if (isRtfText(byte)) {
+        lexText();
+        return true;
+    }
+    ++position_;
+    return false;
+}
+
+void RtfLexer::lexText()
+{
+    const std::string_view rest = bytes_.substr(position_);
+    const std::size_t asciiLength = textLength<TextBytes::ascii>(rest);
+    const std::size_t length = asciiLength + textLength<TextBytes::all>(rest.substr(asciiLength));
+    position_ += length;
+    token_.kind = RtfToken::Kind::text;
+    token_.ascii = length == asciiLength;
+    token_.text = rest.substr(0, length);
+}
+
+bool RtfLexer::lexControl()
+{
+    ++position_;
+    if (position_ == bytes_.size()) {
+        return false;
+    }
+    if (bytes_[position_] == '\'') {
+        return lexBytes();
+    }
+    isLetter(bytes_[position_]) ? lexWord() : lexSymbol();
+    return true;
+}
+
+void RtfLexer::lexWord()
+{
+    const std::size_t begin = position_;
+    while (position_ < bytes_.size() && isLetter(bytes_[position_])) {
+        ++position_;
+    }
+    token_.kind = RtfToken::Kind::word;
+    token_.text = bytes_.substr(begin, position_ - begin);
+    lexParameter();
+    if (at(0, ' ')) {
+        ++position_;
+    }
+    if (token_.text == "bin") {
+        skipBinary();
+    }
+}
+
+/// A number wider than 32 bits keeps its low 32.
+void RtfLexer::lexParameter()
+{
+    const std::size_t sign = at(0, '-') ? 1 : 0;
+    token_.hasParameter = position_ + sign < bytes_.size() && isDigit(bytes_[position_ + sign]);
+    token_.parameter = 0;
+    if (!token_.hasParameter) {
+        return;
+    }
+    position_ += sign;
+    std::uint32_t number = 0;
+    for (; position_ < bytes_.size() && isDigit(bytes_[position_]); ++position_) {
+        number = number * 10 + static_cast<std::uint32_t>(bytes_[position_] - '0');
+    }
+    token_.parameter = static_cast<std::int32_t>(sign != 0 ? 0U - number : number);
+}
+
+void RtfLexer::skipBinary()
+{
+    const auto length = static_cast<std::size_t>(std::max(token_.parameter, 0));
+    position_ += std::min(length, bytes_.size() - position_);
+}
+
+void RtfLexer::lexSymbol()
+{
+    token_.kind = RtfToken::Kind::symbol;
+    token_.text = bytes_.substr(position_, 1);
+    if (at(0, '\r')) {
+        position_ += at(1, '\n') ? 1 : 0;
+        token_.text = "\n";
+    }
+    ++position_;
+}
+
+/// The byte written at the position of two digits; -1 where there are none.
+int RtfLexer::hexByteAt(std::size_t position) const
+{
+    if (bytes_.size() < 2 || position > bytes_.size() - 2) {
+        return -1;
+    }
+    const int high = hexDigit(bytes_[position]);
+    const int low = hexDigit(bytes_[position + 1]);
+    return high < 0 || low < 0 ? -1 : high * 16 + low;
+}
+
+/// Stands on the apostrophe. Of a byte without its digits nothing is left, not even a single digit.
+bool RtfLexer::lexBytes()
+{
+    std::size_t count = 0;
+    for (int value = hexByteAt(position_ + 1); value >= 0; value = hexByteAt(position_ + 1)) {
+        hexBytes_[count++] = static_cast<char>(value);
+        position_ += 3;
+        if (count == hexBytes_.size() || !at(0, '\\') || !at(1, '\'') || hexByteAt(position_ + 2) < 0) {
+            token_.kind = RtfToken::Kind::bytes;
+            token_.text = {hexBytes_.data(), count};
+            return true;
+        }
+        ++position_;
+    }
+    ++position_;
+    position_ += position_ < bytes_.size() && hexDigit(bytes_[position_]) >= 0 ? 1 : 0;
+    return false;
+}
+
+/// Writers that know the code page leave a trail byte bare; others put a backslash before it or write it in
+/// hexadecimal. After two backslashes only what follows can tell: a control, or text.
+int RtfLexer::peekTrailByte() const
+{
+    if (at(0, '{') || at(0, '}')) {
+        return bytes_[position_];
+    }
+    const bool written = at(1, '\'') || (at(1, '\\') && !startsControl(bytes_.substr(position_ + 2)));
+    return at(0, '\\') && !written ? '\\' : -1;
+}
+
+} // namespace corvellane::rtf

@@ -1,0 +1,124 @@
+#include "rtf/TextDecoder.h"
+
+#include "rtf/ByteScan.h"
+#include "rtf/Utf8.h"
+
+namespace corvellane::rtf {
+namespace {
+
+constexpr std::size_t replacementLength = 3;
+
+bool isText(char32_t code)
+{
+    return code >= 0x20 || code == '\t';
+}
+
+} // namespace
+
+void TextDecoder::appendBytes(std::string_view bytes, CodePage& page, std::string& out)
+{
+    while (!bytes.empty()) {
+        if (leadLength_ == 0) {
+            const std::size_t length = page.hasAscii() ? textLength<TextBytes::ascii>(bytes) : 0;
+            out.append(bytes.substr(0, length));
+            bytes.remove_prefix(length);
+            bytes.remove_prefix(appendCharacters(bytes, page, out));
+        }
+        if (!bytes.empty()) {
+            appendByte(bytes[0], page, out);
+            bytes.remove_prefix(1);
+        }
+    }
+}
+
+/// Appends what stands at the beginning and is whole and beyond doubt: characters of one and two bytes, above ASCII.
+/// Gives the number of bytes taken.
+std::size_t TextDecoder::appendCharacters(std::string_view bytes, CodePage& page, std::string& out)
+{
+    std::array<char, 512> buffer;
+    char* to = buffer.data();
+    const char* from = bytes.data();
+    const char* const end = from + bytes.size();
+    while (
+        from != end && to + longestUtf8 <= buffer.data() + buffer.size() && static_cast<unsigned char>(*from) >= 0x80) {
+        char32_t code = page.decode(*from);
+        if (code <= 0x10FFFF) {
+            from += 1;
+        } else if (code == CodePage::incomplete && end - from > 1
+            && (code = page.decode(from[0], from[1])) <= 0x10FFFF) {
+            from += 2;
+        } else {
+            break;
+        }
+        to += writeUtf8(to, code);
+    }
+    out.append(buffer.data(), static_cast<std::size_t>(to - buffer.data()));
+    return static_cast<std::size_t>(from - bytes.data());
+}
+
+void TextDecoder::appendByte(char byte, CodePage& page, std::string& out)
+{
+    if (leadLength_ != 0 && continueCharacter(byte, page, out)) {
+        return;
+    }
+    const char32_t code = page.decode(byte);
+    if (code == CodePage::incomplete) {
+        lead_[0] = byte;
+        leadLength_ = 1;
+        highSurrogate_ = 0;
+        appendPending(out);
+    } else if (isText(code)) {
+        appendUtf8(out, code);
+    }
+}
+
+/// False when the byte begins a character of its own.
+bool TextDecoder::continueCharacter(char byte, CodePage& page, std::string& out)
+{
+    lead_[leadLength_] = byte;
+    const char32_t code
+        = endsWithPending(out) ? page.decode(std::string_view(lead_.data(), leadLength_ + 1)) : CodePage::invalid;
+    if (code == CodePage::incomplete && leadLength_ + 1 < lead_.size()) {
+        ++leadLength_;
+        return true;
+    }
+    leadLength_ = 0;
+    if (code > 0x10FFFF) {
+        return false;
+    }
+    out.resize(out.size() - replacementLength);
+    appendUtf8(out, code);
+    return true;
+}
+
+bool TextDecoder::completesCharacter(char byte, CodePage& page, const std::string& out)
+{
+    lead_[leadLength_] = byte;
+    return awaitsTrail() && endsWithPending(out)
+        && page.decode(std::string_view(lead_.data(), leadLength_ + 1)) <= 0x10FFFF;
+}
+
+void TextDecoder::appendUnit(char32_t code, std::string& out)
+{
+    leadLength_ = 0;
+    const char32_t high = highSurrogate_;
+    highSurrogate_ = 0;
+    if (code >= 0xD800 && code <= 0xDBFF) {
+        highSurrogate_ = code;
+        appendPending(out);
+    } else if (code >= 0xDC00 && code <= 0xDFFF && high != 0 && endsWithPending(out)) {
+        out.resize(out.size() - replacementLength);
+        appendUtf8(out, 0x10000 + ((high - 0xD800) << 10U) + (code - 0xDC00));
+    } else if (isText(code)) {
+        appendUtf8(out, code);
+    }
+}
+
+void TextDecoder::appendPending(std::string& out)
+{
+    appendUtf8(out, replacementCharacter);
+    pendingIn_ = &out;
+    pendingEnd_ = out.size();
+}
+
+} // namespace corvellane::rtf

@@ -1,0 +1,153 @@
+#include "rtf/RtfLexer.h"
+#include "rtf/ByteScan.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace corvellane::rtf {
+namespace {
+
+std::string printed(const RtfToken& token)
+{
+    const auto with = [&](const char* before) { return std::string(before).append(token.text); };
+    switch (token.kind) {
+    case RtfToken::Kind::end:
+        return "end";
+    case RtfToken::Kind::open:
+        return "{";
+    case RtfToken::Kind::close:
+        return "}";
+    case RtfToken::Kind::word:
+        return token.hasParameter ? with("\\").append(1, '=').append(std::to_string(token.parameter)) : with("\\");
+    case RtfToken::Kind::symbol:
+        return token.text == "\n" ? "\\end-of-line" : with("\\");
+    case RtfToken::Kind::bytes:
+        return with("hex ");
+    case RtfToken::Kind::text:
+        return with(token.ascii ? "ascii " : "bytes ");
+    }
+    return "?";
+}
+
+std::string tokens(std::string_view rtf)
+{
+    RtfLexer lexer(rtf);
+    std::string all;
+    for (const RtfToken* token = &lexer.next(); token->kind != RtfToken::Kind::end; token = &lexer.next()) {
+        all.append(all.empty() ? "" : "|").append(printed(*token));
+    }
+    return all;
+}
+
+TEST(RtfLexer, cutsRtfIntoTokens)
+{
+    const std::vector<std::pair<std::string, std::string>> rows = {
+        {"", ""},
+        {"{a}", "{|ascii a|}"},
+        {"\\b", "\\b"},
+        {"\\b bold", "\\b|ascii bold"},
+        {"\\b  bold", "\\b|ascii  bold"},
+        {"\\b\nbold", "\\b|ascii bold"},
+        {"\\b0bold", "\\b=0|ascii bold"},
+        {"\\b-1 bold", "\\b=-1|ascii bold"},
+        {"\\b- x", "\\b|ascii - x"},
+        {"\\b--1", "\\b|ascii --1"},
+        {"\\fs24\\b", "\\fs=24|\\b"},
+        {"\\PAR", "\\PAR"},
+        {"\\fs", "\\fs"},
+        {"\\fs-", "\\fs|ascii -"},
+        {"\\'e9\\'E9", "hex \xE9\xE9"},
+        {"\\'e9\\'E\\'e9\\b", "hex \xE9|hex \xE9|\\b"},
+        {"\\'e9\\'", "hex \xE9"},
+        {"\\'", ""},
+        {"\\'4", ""},
+        {"\\'4g", "ascii g"},
+        {"\\'zz", "ascii zz"},
+        {"\\~\\*\\\\\\{", "\\~|\\*|\\\\|\\{"},
+        {"\\\n\\\r\\\r\n.", "\\end-of-line|\\end-of-line|\\end-of-line|ascii ."},
+        {"\\\r\r\n\\\n\n.", "\\end-of-line|\\end-of-line|ascii ."},
+        {"\\", ""},
+        {"a\tb\xE9 c", "bytes a\tb\xE9 c"},
+        {"a\nb\r\nc", "ascii a|ascii b|ascii c"},
+        {"\\bin3 {}\\x", "\\bin=3|ascii x"},
+        {"\\bin0 {", "\\bin=0|{"},
+        {"\\bin-3 {", "\\bin=-3|{"},
+        {"\\bin {", "\\bin|{"},
+        {"\\bin2147483647 {{{", "\\bin=2147483647"},
+        {"\\binary5 {", "\\binary=5|{"},
+    };
+    for (const auto& [rtf, expected] : rows) {
+        EXPECT_EQ(tokens(rtf), expected) << rtf;
+    }
+}
+
+TEST(RtfLexer, keepsTheLow32BitsOfANumber)
+{
+    const std::vector<std::pair<std::string, std::string>> rows = {
+        {"2147483647", "2147483647"},
+        {"2147483648", "-2147483648"},
+        {"-2147483648", "-2147483648"},
+        {"-2147483649", "2147483647"},
+        {"4294967295", "-1"},
+        {"4294967296", "0"},
+        {"-4294967297", "-1"},
+        {"18446744073709551617", "1"},
+        {"99999999999999999999999999999999999999", "-1"},
+        {"0000000000000000000000000000000000007", "7"},
+    };
+    for (const auto& [number, expected] : rows) {
+        EXPECT_EQ(tokens(std::string("\\li").append(number)), std::string("\\li=").append(expected)) << number;
+    }
+}
+
+TEST(RtfLexer, tellsATrailByteFromAControl)
+{
+    const std::vector<std::pair<std::string, int>> rows = {
+        {"", -1},
+        {"a", -1},
+        {"{b", '{'},
+        {"}", '}'},
+        {"\\par", '\\'},
+        {"\\", '\\'},
+        {"\\'a0", -1},
+        {"\\\\text", -1},
+        {"\\\\par", '\\'},
+        {"\\\\'a0", '\\'},
+        {"\\\\'no", -1},
+        {"\\\\", -1},
+        {"\\}", '\\'},
+    };
+    for (const auto& [rest, expected] : rows) {
+        EXPECT_EQ(RtfLexer(rest).peekTrailByte(), expected) << rest;
+    }
+}
+
+template <TextBytes Kind>
+std::size_t plainTextLength(std::string_view bytes)
+{
+    std::size_t length = 0;
+    while (length < bytes.size() && isTextByte<Kind>(bytes[length])) {
+        ++length;
+    }
+    return length;
+}
+
+TEST(ByteScan, stopsWhereALoopOverTheBytesStops)
+{
+    constexpr std::string_view alphabet = "abc ~\x7F\t\n\x1F\x00\\{}\x80\xFF[]|z";
+    std::mt19937 random(7);
+    for (int round = 0; round < 20000; ++round) {
+        std::string bytes(random() % 40, 'x');
+        for (unsigned change = random() % 4; change > 0 && !bytes.empty(); --change) {
+            bytes[random() % bytes.size()] = alphabet[random() % alphabet.size()];
+        }
+        ASSERT_EQ(textLength<TextBytes::ascii>(bytes), plainTextLength<TextBytes::ascii>(bytes)) << bytes;
+        ASSERT_EQ(textLength<TextBytes::all>(bytes), plainTextLength<TextBytes::all>(bytes)) << bytes;
+    }
+}
+
+} // namespace
+} // namespace corvellane::rtf

@@ -1,0 +1,96 @@
+#include "view/qt/RichTextViewer.h"
+
+#include "rtf/RtfReader.h"
+#include "tests/UrlOpener.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QTest>
+#include <QTextDocument>
+#include <QTextEdit>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace corvellane::view {
+namespace {
+
+rtf::AttributedText longAgreement()
+{
+    std::string body = R"({\rtf1 {\field{\*\fldinst HYPERLINK "https://x.example/"}{\fldrslt link to the shop}}\par )";
+    for (int count = 0; count < 40; ++count) {
+        body += R"(A sentence of an agreement that is wider than the viewer is when it is narrow.\par )";
+    }
+    return rtf::readRtf(body + std::string(300, 'w') + R"(\par})").value();
+}
+
+class RichTextViewer : public testing::Test {
+protected:
+    RichTextViewer()
+    {
+        window_.resize(300, 200);
+        viewer_->resize(window_.size());
+        window_.show();
+        QApplication::processEvents();
+    }
+
+    QWidget window_;
+    QTextEdit* viewer_ = static_cast<QTextEdit*>(makeRichTextViewer(longAgreement(), &window_));
+};
+
+TEST_F(RichTextViewer, wrapsAtItsOwnWidthAlsoAfterAResize)
+{
+    const QScrollBar& vertical = *viewer_->verticalScrollBar();
+    EXPECT_TRUE(vertical.isVisible());
+    EXPECT_EQ(vertical.value(), 0);
+    const double narrow = viewer_->document()->size().height();
+    viewer_->resize(600, 200);
+    QApplication::processEvents();
+    EXPECT_LT(viewer_->document()->size().height(), narrow);
+    EXPECT_LE(viewer_->document()->idealWidth(), viewer_->viewport()->width());
+    EXPECT_FALSE(viewer_->horizontalScrollBar()->isVisible());
+    EXPECT_EQ(viewer_->horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(RichTextViewer, isReadAndCopiedButNotChanged)
+{
+    const QString before = viewer_->toPlainText();
+    viewer_->setFocus();
+    QTest::keyClicks(viewer_, QStringLiteral("typed"));
+    QTest::keyClick(viewer_, Qt::Key_Delete);
+    QTest::keyClick(viewer_, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(viewer_, Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(viewer_->toPlainText(), before);
+    QTest::keyClick(viewer_, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(viewer_, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text().left(16), QStringLiteral("link to the shop"));
+    EXPECT_EQ(QGuiApplication::clipboard()->text().size(), before.size());
+}
+
+TEST_F(RichTextViewer, opensNoLinkWhateverIsPressed)
+{
+    const UrlOpener browser(QStringLiteral("https"));
+    viewer_->setFocus();
+    const QPoint link = viewer_->cursorRect().center() + QPoint(20, 0);
+    ASSERT_EQ(viewer_->anchorAt(link), QStringLiteral("https://x.example/"));
+    QTest::mouseClick(viewer_->viewport(), Qt::LeftButton, Qt::NoModifier, link);
+    QTest::mouseClick(viewer_->viewport(), Qt::LeftButton, Qt::ControlModifier, link);
+    QTest::keyClick(viewer_, Qt::Key_Return);
+    EXPECT_EQ(browser.opened, QStringList());
+}
+
+TEST_F(RichTextViewer, isDarkOnWhiteOnADarkDesktop)
+{
+    QApplication::setPalette(QPalette(Qt::darkGray, Qt::black));
+    QApplication::processEvents();
+    const QImage picture = viewer_->grab().toImage();
+    QApplication::setPalette(QPalette());
+    EXPECT_EQ(picture.pixelColor(4, 4), QColor(Qt::white));
+    EXPECT_EQ(viewer_->palette().color(QPalette::Inactive, QPalette::Text), QColor(Qt::black));
+}
+
+} // namespace
+} // namespace corvellane::view

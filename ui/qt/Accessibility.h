@@ -1,9 +1,0 @@
-#pragma once
-
-namespace corvellane {
-
-/// Tells assistive technology what the host's own widgets are: the log, the alerts, the pictures. Called once, after
-/// the QApplication was made.
-void installAccessibility();
-
-} // namespace corvellane

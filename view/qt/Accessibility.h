@@ -1,0 +1,9 @@
+#pragma once
+
+namespace corvellane::view {
+
+/// Tells assistive technology what the host's own widgets are: the log, the alerts, the pictures. Called once, after
+/// the QApplication was made.
+void installAccessibility();
+
+} // namespace corvellane::view

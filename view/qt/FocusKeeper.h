@@ -1,0 +1,37 @@
+#pragma once
+
+#include "view/qt/Mounted.h"
+
+#include <QPointer>
+
+namespace corvellane::view {
+
+/// Sees to the keyboard focus: the Tab key follows the reading order; while an alert is shown nothing behind it can be
+/// used, the alert has the focus, and the focus goes back afterwards; a text that is to be read out takes it.
+class FocusKeeper {
+public:
+    explicit FocusKeeper(QWidget& window)
+        : window_(window)
+    {
+    }
+
+    /// Called before a redraw.
+    void remember();
+
+    /// Called after a redraw that changed something.
+    void settle(const Mounted& root);
+
+private:
+    void setTabOrder(const Mounted& root) const;
+    void settleAlert(QWidget* alert, const Mounted& root);
+    void readOut(const Mounted& root);
+    void giveBack();
+
+    QWidget& window_;
+    QPointer<QWidget> before_;
+    QPointer<QWidget> behindAlert_;
+    QPointer<QWidget> alert_;
+    QPointer<QWidget> announced_;
+};
+
+} // namespace corvellane::view

@@ -1,0 +1,138 @@
+#include "view/qt/LogView.h"
+
+#include "view/qt/Tones.h"
+#include "view/qt/Words.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvellane::view {
+namespace {
+
+void setRange(QScrollBar& bar, int content, int page)
+{
+    bar.setRange(0, std::max(0, content - page));
+    bar.setPageStep(page);
+}
+
+int placed(int content, int available, int scrolled)
+{
+    return content < available ? (available - content) / 2 : -scrolled;
+}
+
+} // namespace
+
+LogView::LogView(QWidget* parent)
+    : QAbstractScrollArea(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::StrongFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+}
+
+void LogView::present(const LogArea& log)
+{
+    if (lines_ != nullptr && shown_ == *log.text) {
+        return;
+    }
+    shown_ = *log.text;
+    setAccessibleName(localized(log.name));
+    lines_ = std::make_unique<LogText>(shown_, fontOf(standardFont));
+    horizontalScrollBar()->setSingleStep(static_cast<int>(lines_->lineHeight()));
+    verticalScrollBar()->setSingleStep(static_cast<int>(lines_->lineHeight()));
+    updateScrollBars();
+    viewport()->update();
+}
+
+QSize LogView::blockSize() const
+{
+    const double height = lines_->lineHeight() * static_cast<double>(lines_->lineCount());
+    return QSize(static_cast<int>(std::ceil(lines_->width())), static_cast<int>(std::ceil(height)))
+        + QSize(2 * standardPadding, 2 * standardPadding);
+}
+
+QPointF LogView::textOrigin() const
+{
+    const QSize block = blockSize();
+    const QPoint corner(placed(block.width(), viewport()->width(), horizontalScrollBar()->value()),
+        placed(block.height(), viewport()->height(), verticalScrollBar()->value()));
+    return corner + QPoint(standardPadding, standardPadding);
+}
+
+void LogView::updateScrollBars()
+{
+    if (lines_ != nullptr) {
+        setRange(*horizontalScrollBar(), blockSize().width(), viewport()->width());
+        setRange(*verticalScrollBar(), blockSize().height(), viewport()->height());
+    }
+}
+
+void LogView::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(viewport());
+    painter.fillRect(event->rect(), Qt::white);
+    if (lines_ == nullptr) {
+        return;
+    }
+    painter.setFont(lines_->font());
+    painter.setPen(colorOf(Tint::label));
+    const QPointF origin = textOrigin();
+    const QRectF sight = QRectF(event->rect()).translated(-origin);
+    const double height = lines_->lineHeight();
+    const auto lineAt = [&](double y) {
+        return static_cast<std::size_t>(std::clamp(y / height, 0.0, static_cast<double>(lines_->lineCount())));
+    };
+    const std::size_t end = std::min(lineAt(sight.bottom()) + 1, lines_->lineCount());
+    for (std::size_t line = lineAt(sight.top()); line < end; ++line) {
+        const double baseline = origin.y() + height * static_cast<double>(line) + lines_->ascent();
+        for (const LogText::Piece& piece : lines_->piecesBetween(line, sight.left(), sight.right())) {
+            painter.drawText(QPointF(origin.x() + piece.left, baseline), lines_->charactersOf(piece));
+        }
+    }
+    if (hasFocus()) {
+        painter.setPen(colorOf(Tint::blue));
+        painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void LogView::resizeEvent(QResizeEvent*)
+{
+    updateScrollBars();
+}
+
+void LogView::scrollContentsBy(int, int)
+{
+    viewport()->update();
+}
+
+void LogView::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Home:
+        horizontalScrollBar()->setValue(0);
+        return verticalScrollBar()->setValue(0);
+    case Qt::Key_End:
+        return verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    default:
+        QAbstractScrollArea::keyPressEvent(event);
+    }
+}
+
+void LogView::focusInEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+void LogView::focusOutEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
+}
+
+} // namespace corvellane::view

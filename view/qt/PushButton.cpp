@@ -1,0 +1,109 @@
+#include "view/qt/PushButton.h"
+
+#include "view/qt/TintedPicture.h"
+#include "view/qt/Tones.h"
+#include "view/qt/Words.h"
+
+#include <QIcon>
+#include <QPainter>
+#include <QStyleOptionButton>
+
+#include <algorithm>
+
+namespace corvellane::view {
+namespace {
+
+constexpr int symbolSize = 14;
+constexpr int symbolDistance = 4;
+constexpr int besideLabel = 12;
+
+QString withoutMnemonics(QString label)
+{
+    return label.replace('&', QStringLiteral("&&"));
+}
+
+} // namespace
+
+PushButton::PushButton(QWidget* parent)
+    : QPushButton(parent)
+{
+    setAutoDefault(false);
+    connect(this, &QPushButton::clicked, this, [this] {
+        if (const auto run = action_.run) {
+            run();
+        }
+    });
+}
+
+void PushButton::present(const Button& button)
+{
+    const QString label = localized(button.label);
+    isLink_ = button.style == Button::Style::link;
+    setFont(fontOf({standardFont.size, button.style == Button::Style::emphasised}));
+    setText(withoutMnemonics(label));
+    setAccessibleName(label);
+    setCursor(isLink_ ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    if (!button.symbol.empty()) {
+        const QSize size(symbolSize, symbolSize);
+        setIconSize(size);
+        setIcon(QIcon(tintedPicture(symbolFile(button.symbol), colorOf(Tint::label), size, devicePixelRatioF())));
+    }
+    setEnabled(button.enabled);
+}
+
+Extent PushButton::widthExtent() const
+{
+    const int label = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+    const int symbol = icon().isNull() ? 0 : symbolSize + symbolDistance;
+    const int width = isLink_ ? label + 2 : std::max(sizeHint().width(), symbol + label + 2 * besideLabel);
+    return {width, width};
+}
+
+Extent PushButton::heightExtent(int) const
+{
+    const int height = isLink_ ? fontMetrics().height() + 2 : sizeHint().height();
+    return {height, height};
+}
+
+/// Behind an alert a button cannot be used, but looks as it did before.
+void PushButton::initStyleOption(QStyleOptionButton* option) const
+{
+    QPushButton::initStyleOption(option);
+    if (!testAttribute(Qt::WA_ForceDisabled)) {
+        option->state |= QStyle::State_Enabled;
+        option->palette.setCurrentColorGroup(QPalette::Active);
+    }
+}
+
+void PushButton::paintEvent(QPaintEvent* event)
+{
+    if (isLink_) {
+        paintLink();
+    } else {
+        QPushButton::paintEvent(event);
+    }
+}
+
+void PushButton::paintLink()
+{
+    QPainter painter(this);
+    QFont underlined = font();
+    underlined.setUnderline(underMouse() || hasFocus());
+    painter.setFont(underlined);
+    painter.setPen(palette().color(QPalette::Link));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
+}
+
+void PushButton::enterEvent(QEnterEvent* event)
+{
+    QPushButton::enterEvent(event);
+    update();
+}
+
+void PushButton::leaveEvent(QEvent* event)
+{
+    QPushButton::leaveEvent(event);
+    update();
+}
+
+} // namespace corvellane::view

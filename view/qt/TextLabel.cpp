@@ -1,0 +1,68 @@
+#include "view/qt/TextLabel.h"
+
+#include "view/qt/Tones.h"
+#include "view/qt/Words.h"
+
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+
+namespace corvellane::view {
+namespace {
+
+int widestStretch(const QFontMetrics& metrics, const QString& text)
+{
+    QTextBoundaryFinder breaks(QTextBoundaryFinder::Line, text);
+    int widest = 0;
+    for (qsizetype begin = 0, end = breaks.toNextBoundary(); end > 0; begin = end, end = breaks.toNextBoundary()) {
+        widest = std::max(widest, metrics.horizontalAdvance(text.mid(begin, end - begin).trimmed()));
+    }
+    return widest;
+}
+
+} // namespace
+
+TextLabel::TextLabel(QWidget* parent)
+    : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+}
+
+void TextLabel::present(const Text& text)
+{
+    setFont(fontOf(text.font));
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, colorOf(text.tint));
+    setPalette(colors);
+    setAlignment(text.lines == Placement::centre ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
+    setFocusPolicy(text.announced ? Qt::TabFocus : Qt::NoFocus);
+    setText(text.localizable ? localized(text.text) : QString::fromStdString(text.text));
+    const int natural = fontMetrics().size(0, this->text()).width() + 1;
+    widths_ = {std::min(natural, widestStretch(fontMetrics(), this->text()) + 1), natural};
+    measuredWidth_ = -1;
+}
+
+Extent TextLabel::widthExtent() const
+{
+    return widths_;
+}
+
+Extent TextLabel::heightExtent(int width) const
+{
+    if (width != measuredWidth_) {
+        measuredHeight_ = measuredHeight(width);
+        measuredWidth_ = width;
+    }
+    return {measuredHeight_, measuredHeight_};
+}
+
+int TextLabel::measuredHeight(int width) const
+{
+    if (width >= widths_.maximum) {
+        return fontMetrics().size(0, text()).height();
+    }
+    return fontMetrics().boundingRect(0, 0, width, unbounded, Qt::TextWordWrap | Qt::AlignLeft, text()).height();
+}
+
+} // namespace corvellane::view

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "view/View.h"
+#include "view/qt/Measurable.h"
+
+#include <QLabel>
+
+namespace corvellane::view {
+
+/// The widget of a text. No markup, no mnemonics.
+class TextLabel : public QLabel, public Measurable {
+public:
+    explicit TextLabel(QWidget* parent);
+
+    void present(const Text& text);
+
+    /// From the longest stretch without a line break to all of it in one line.
+    Extent widthExtent() const override;
+    Extent heightExtent(int width) const override;
+
+private:
+    int measuredHeight(int width) const;
+
+    Extent widths_;
+    mutable int measuredWidth_ = -1;
+    mutable int measuredHeight_ = 0;
+};
+
+} // namespace corvellane::view
