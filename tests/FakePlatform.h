@@ -39,10 +39,19 @@ struct FakeConsole : Console {
     std::vector<std::string> lines;
 };
 
+/// Everything that is waited for has ended before the wait begins.
+struct FakeWaitGroup : WaitGroup {
+    void enter() override { ++inside; }
+    void leave() override { --inside; }
+    void wait() override { }
+    int inside = 0;
+};
+
 /// Runs background tasks at their submission and keeps those of the main queue until they are asked for.
 struct FakeDispatcher : Dispatcher {
     void submitToBackground(Task task) override { task(); }
     void submitToMain(Task task) override { mainQueue.push_back(std::move(task)); }
+    std::shared_ptr<WaitGroup> makeWaitGroup() override { return std::make_shared<FakeWaitGroup>(); }
 
     void runMainQueue()
     {

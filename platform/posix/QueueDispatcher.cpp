@@ -3,6 +3,37 @@
 #include <utility>
 
 namespace corvellane {
+namespace {
+
+/// Blocks the thread that waits: there is no window to keep alive.
+class BlockingWaitGroup : public WaitGroup {
+public:
+    void enter() override
+    {
+        const std::lock_guard lock(mutex_);
+        ++inside_;
+    }
+
+    void leave() override
+    {
+        const std::lock_guard lock(mutex_);
+        --inside_;
+        changed_.notify_all();
+    }
+
+    void wait() override
+    {
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [this] { return inside_ == 0; });
+    }
+
+private:
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    int inside_ = 0;
+};
+
+} // namespace
 
 void QueueDispatcher::submitToBackground(Task task)
 {
@@ -22,6 +53,11 @@ void QueueDispatcher::submitToMain(Task task)
     const std::lock_guard lock(mutex_);
     main_.push_back(std::move(task));
     changed_.notify_all();
+}
+
+std::shared_ptr<WaitGroup> QueueDispatcher::makeWaitGroup()
+{
+    return std::make_shared<BlockingWaitGroup>();
 }
 
 void QueueDispatcher::runMainQueue()

@@ -16,6 +16,7 @@ class QueueDispatcher : public Dispatcher {
 public:
     void submitToBackground(Task task) override;
     void submitToMain(Task task) override;
+    std::shared_ptr<WaitGroup> makeWaitGroup() override;
 
     /// Runs the main queue's tasks, and waits for those that the background still submits, until no work is left.
     void runMainQueue();
