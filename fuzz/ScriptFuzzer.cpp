@@ -9,8 +9,8 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string source(reinterpret_cast<const char*>(data), size);
-    corvellane::RecordingHost recorder;
-    const auto execution = corvellane::InterpretedScriptService(recorder.host()).create(source)->execute();
+    corvellane::script::RecordingHost recorder;
+    const auto execution = corvellane::script::InterpretedScriptService(recorder.host()).create(source)->execute();
     if (execution.result.has_value() == execution.errorDescription.has_value()) {
         std::abort();
     }

@@ -1,16 +1,15 @@
 // Runs shell commands with administrator rights for the installer, which starts this program through pkexec, once for
 // a script, and ends it by closing its standard input.
 //
-// It says "corvellane-command-runner 1\n" when it is up. A request is one command: its length in bytes as four bytes,
-// the highest first, then the command, at most 1 MiB without NUL. A reply is the exit status (four bytes), then what
-// the command wrote to standard output and to standard error, each as length and bytes, at most 1 MiB. A command is
-// over when its shell has ended, whatever that left in the background. A request that breaks these rules ends the
-// program; nothing is read from anywhere else and no file is written. In the home of the user who was asked, no command
-// follows a link: what is meant for a folder there cannot be led to another.
+// What the two say to each other stands in RunnerMessages.h. A command is over when its shell has ended, whatever that
+// left in the background. A request that breaks the rules ends the program; nothing is read from anywhere else and no
+// file is written. In the home of the user who was asked, no command follows a link: what is meant for a folder there
+// cannot be led to another.
 //
-// This file stands alone, so that everything that runs as root can be read in one sitting.
+// This file and that one stand alone, so that everything that runs as root can be read in one sitting.
 
-#include <arpa/inet.h>
+#include "helper/RunnerMessages.h"
+
 #include <fcntl.h>
 #include <poll.h>
 #include <pwd.h>
@@ -26,63 +25,27 @@
 #include <cerrno>
 #include <charconv>
 #include <csignal>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <optional>
 #include <string>
+#include <string_view>
 
 namespace {
 
-constexpr const char* upMessage = "corvellane-command-runner 1\n";
-constexpr std::size_t longestCommand = std::size_t{1} << 20U;
-constexpr std::size_t mostKept = std::size_t{1} << 20U;
+using corvellane::runner::Reply;
+
+constexpr std::size_t mostKept = corvellane::runner::longestText;
 constexpr int couldNotRun = 127;
 
-struct Reply {
-    int status = couldNotRun;
-    std::string output;
-    std::string errors;
-};
-
-bool readAll(void* bytes, std::size_t size)
+bool readInput(char* bytes, std::size_t size)
 {
     return std::fread(bytes, 1, size, stdin) == size;
 }
 
-void writeNumber(std::uint32_t number)
+void writeOutput(std::string_view bytes)
 {
-    number = htonl(number);
-    std::fwrite(&number, sizeof number, 1, stdout);
-}
-
-void writeText(const std::string& text)
-{
-    writeNumber(static_cast<std::uint32_t>(text.size()));
-    std::fwrite(text.data(), 1, text.size(), stdout);
-}
-
-bool sendReply(const Reply& reply)
-{
-    writeNumber(static_cast<std::uint32_t>(reply.status));
-    writeText(reply.output);
-    writeText(reply.errors);
-    return std::fflush(stdout) == 0;
-}
-
-/// Absent at the end of the input and for a request that breaks the rules.
-std::optional<std::string> readCommand()
-{
-    std::uint32_t length = 0;
-    if (!readAll(&length, sizeof length) || ntohl(length) > longestCommand) {
-        return std::nullopt;
-    }
-    std::string command(ntohl(length), '\0');
-    if (!readAll(command.data(), command.size()) || command.find('\0') != std::string::npos) {
-        return std::nullopt;
-    }
-    return command;
+    std::fwrite(bytes.data(), 1, bytes.size(), stdout);
 }
 
 /// Becomes the shell, with default signals and an empty standard input.
@@ -139,7 +102,7 @@ void collect(pid_t shell, int output, int errors, Reply& reply)
 
 Reply run(const std::string& command)
 {
-    Reply reply;
+    Reply reply{couldNotRun, {}, {}};
     // Only what is written to becomes memory; growing step by step would copy.
     reply.output.reserve(mostKept);
     reply.errors.reserve(mostKept);
@@ -229,13 +192,13 @@ int main()
     }
     rebuildEnvironment(*user);
     followNoLinksInTheHomeOf(*user);
-    bool isHeard = std::fputs(upMessage, stdout) >= 0 && std::fflush(stdout) == 0;
-    while (isHeard) {
-        const auto command = readCommand();
+    writeOutput(corvellane::runner::up);
+    while (std::fflush(stdout) == 0) {
+        const auto command = corvellane::runner::readRequest(readInput);
         if (!command) {
             return 0;
         }
-        isHeard = sendReply(run(*command));
+        corvellane::runner::writeReply(run(*command), writeOutput);
     }
     return 1;
 }

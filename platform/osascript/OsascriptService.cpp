@@ -1,10 +1,8 @@
 #include "platform/osascript/OsascriptService.h"
 
-#include <fcntl.h>
+#include "platform/posix/ChildProcess.h"
+
 #include <poll.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -19,109 +17,50 @@ extern char** environ; // NOLINT(readability-redundant-declaration): not every s
 namespace corvellane {
 namespace {
 
-/// One of the child's standard streams, nothing but POSIX.1-2008.
-class Stream {
-public:
-    Stream()
-    {
-        if (pipe(ends_.data()) == 0) {
-            std::for_each(ends_.begin(), ends_.end(), [](int end) { fcntl(end, F_SETFD, FD_CLOEXEC); });
-        }
-    }
-    Stream(const Stream&) = delete;
-    Stream& operator=(const Stream&) = delete;
-    ~Stream() { std::for_each(ends_.begin(), ends_.end(), &closeEnd); }
-
-    int readEnd() const { return ends_[0]; }
-    int writeEnd() const { return ends_[1]; }
-    void closeReadEnd() { closeEnd(std::exchange(ends_[0], -1)); }
-    void closeWriteEnd() { closeEnd(std::exchange(ends_[1], -1)); }
-
-private:
-    static void closeEnd(int end)
-    {
-        if (end >= 0) {
-            close(end);
-        }
-    }
-
-    std::array<int, 2> ends_{-1, -1};
-};
-
-struct Run {
-    Stream input;
-    Stream output;
-    Stream errors;
+struct Streams {
+    Pipe input = makePipe();
+    Pipe output = makePipe();
+    Pipe errors = makePipe();
     std::string outputText;
     std::string errorText;
 };
 
-bool start(const std::string& command, Run& run, pid_t& process)
+Expected<pid_t> start(const std::string& command, Streams& streams)
 {
-    if (std::min({run.input.readEnd(), run.output.readEnd(), run.errors.readEnd()}) < 0) {
-        return false;
+    Invocation invocation{{command, "-"}, {}};
+    for (char** variable = environ; *variable != nullptr; ++variable) {
+        invocation.environment.emplace_back(*variable);
     }
-    posix_spawn_file_actions_t actions{};
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, run.input.readEnd(), STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, run.output.writeEnd(), STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, run.errors.writeEnd(), STDERR_FILENO);
-    std::string program = command;
-    std::string fromInput = "-";
-    std::array<char*, 3> arguments{program.data(), fromInput.data(), nullptr};
-    const int error = posix_spawn(&process, command.c_str(), &actions, nullptr, arguments.data(), environ);
-    posix_spawn_file_actions_destroy(&actions);
-    run.input.closeReadEnd();
-    run.output.closeWriteEnd();
-    run.errors.closeWriteEnd();
-    return error == 0;
+    auto child = startChild(
+        invocation, {streams.input.readEnd.get(), streams.output.writeEnd.get(), streams.errors.writeEnd.get()});
+    streams.input.readEnd.close();
+    streams.output.writeEnd.close();
+    streams.errors.writeEnd.close();
+    return child;
 }
 
-void feed(Stream& stream, std::string_view& rest)
+void feed(FileDescriptor& stream, std::string_view& rest)
 {
-    const ssize_t count = write(stream.writeEnd(), rest.data(), std::min<std::size_t>(rest.size(), PIPE_BUF));
+    const ssize_t count = write(stream.get(), rest.data(), std::min<std::size_t>(rest.size(), PIPE_BUF));
     rest.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
     if (rest.empty() || (count < 0 && errno != EINTR)) {
-        stream.closeWriteEnd();
+        stream.close();
     }
 }
 
-void take(Stream& stream, std::string& text)
+void converse(Streams& streams, std::string_view source)
 {
-    std::array<char, 4096> buffer;
-    const ssize_t count = read(stream.readEnd(), buffer.data(), buffer.size());
-    text.append(buffer.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-    if (count == 0 || (count < 0 && errno != EINTR)) {
-        stream.closeReadEnd();
-    }
-}
-
-void converse(Run& run, std::string_view source)
-{
-    while (run.output.readEnd() >= 0 || run.errors.readEnd() >= 0) {
+    auto& [input, output, errors, outputText, errorText] = streams;
+    while (output.readEnd.isOpen() || errors.readEnd.isOpen()) {
         std::array<pollfd, 3> events{
-            {{run.input.writeEnd(), POLLOUT, 0}, {run.output.readEnd(), POLLIN, 0}, {run.errors.readEnd(), POLLIN, 0}}};
+            {{input.writeEnd.get(), POLLOUT, 0}, {output.readEnd.get(), POLLIN, 0}, {errors.readEnd.get(), POLLIN, 0}}};
         poll(events.data(), events.size(), -1);
         if (events[0].revents != 0) {
-            feed(run.input, source);
+            feed(input.writeEnd, source);
         }
-        if (events[1].revents != 0) {
-            take(run.output, run.outputText);
-        }
-        if (events[2].revents != 0) {
-            take(run.errors, run.errorText);
-        }
+        drain(output.readEnd, outputText);
+        drain(errors.readEnd, errorText);
     }
-}
-
-bool succeeded(pid_t process)
-{
-    int status = 0;
-    pid_t ended = -1;
-    do {
-        ended = waitpid(process, &status, 0);
-    } while (ended < 0 && errno == EINTR);
-    return ended == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 std::string withoutLastLineFeed(std::string text)
@@ -144,19 +83,19 @@ public:
     {
         // A command that ends before it has read the whole script must not end this program.
         std::signal(SIGPIPE, SIG_IGN);
-        Run run;
-        pid_t process = -1;
-        if (!start(command_, run, process)) {
+        Streams streams;
+        const auto child = start(command_, streams);
+        if (!child) {
             return {std::nullopt, command_ + " could not be started"};
         }
-        converse(run, source_);
-        if (!succeeded(process)) {
-            return {std::nullopt, withoutLastLineFeed(std::move(run.errorText))};
+        converse(streams, source_);
+        if (exitStatusOf(*child) != 0) {
+            return {std::nullopt, withoutLastLineFeed(std::move(streams.errorText))};
         }
-        if (run.outputText.empty()) {
+        if (streams.outputText.empty()) {
             return {ScriptExecution::Value{}, std::nullopt};
         }
-        return {ScriptExecution::Value{withoutLastLineFeed(std::move(run.outputText))}, std::nullopt};
+        return {ScriptExecution::Value{withoutLastLineFeed(std::move(streams.outputText))}, std::nullopt};
     }
 
 private:

@@ -1,27 +1,29 @@
 #include "platform/posix/ChildProcess.h"
 
 #include <fcntl.h>
-#include <spawn.h>
+#include <poll.h>
 #include <sys/wait.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstring>
 
 namespace corvellane {
 namespace {
 
 class SpawnSettings {
 public:
-    explicit SpawnSettings(const StandardStreams& streams)
+    SpawnSettings(const StandardStreams& streams, SpawnExtension extension)
     {
         posix_spawn_file_actions_init(&actions_);
         posix_spawn_file_actions_adddup2(&actions_, streams.input, STDIN_FILENO);
         posix_spawn_file_actions_adddup2(&actions_, streams.output, STDOUT_FILENO);
         posix_spawn_file_actions_adddup2(&actions_, streams.errors, STDERR_FILENO);
-        posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1);
-        posix_spawn_file_actions_addchdir_np(&actions_, "/");
+        if (extension != nullptr) {
+            extension(actions_);
+        }
         posix_spawnattr_init(&attributes_);
         posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
         sigset_t signals;
@@ -63,23 +65,23 @@ std::vector<char*> asPointers(const std::vector<std::string>& texts)
 Pipe makePipe()
 {
     std::array<int, 2> ends{-1, -1};
-    if (pipe2(ends.data(), O_CLOEXEC) == 0) {
-        fcntl(ends[0], F_SETFL, O_NONBLOCK);
+    if (pipe(ends.data()) == 0) {
+        std::for_each(ends.begin(), ends.end(), [](int end) { fcntl(end, F_SETFD, FD_CLOEXEC); });
     }
     return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
 }
 
-std::variant<pid_t, StartFailure> startChild(const Invocation& invocation, const StandardStreams& streams)
+Expected<pid_t> startChild(const Invocation& invocation, const StandardStreams& streams, SpawnExtension extension)
 {
-    if (std::min({streams.input, streams.output, streams.errors}) < 0) {
-        return StartFailure{EBADF};
-    }
-    const SpawnSettings settings(streams);
+    const SpawnSettings settings(streams, extension);
     pid_t child = -1;
-    const int error = posix_spawn(&child, invocation.words.front().c_str(), settings.actions(), settings.attributes(),
-        asPointers(invocation.words).data(), asPointers(invocation.environment).data());
+    const bool haveStreams = std::min({streams.input, streams.output, streams.errors}) >= 0;
+    const int error = !haveStreams
+        ? EBADF
+        : posix_spawn(&child, invocation.words.front().c_str(), settings.actions(), settings.attributes(),
+              asPointers(invocation.words).data(), asPointers(invocation.environment).data());
     if (error != 0) {
-        return StartFailure{error};
+        return Unexpected({std::strerror(error), error});
     }
     return child;
 }
@@ -98,12 +100,11 @@ int exitStatusOf(pid_t child)
 void drain(FileDescriptor& stream, std::string& kept)
 {
     std::array<char, 65536> buffer;
-    for (int reads = 0; stream.isOpen() && reads < 16; ++reads) {
+    pollfd event{stream.get(), POLLIN, 0};
+    for (int reads = 0; stream.isOpen() && reads < 16 && poll(&event, 1, 0) > 0; ++reads) {
         const ssize_t count = read(stream.get(), buffer.data(), buffer.size());
         if (count > 0) {
             kept.append(buffer.data(), std::min(static_cast<std::size_t>(count), mostKeptOfAStream - kept.size()));
-        } else if (count < 0 && errno == EAGAIN) {
-            return;
         } else if (count == 0 || errno != EINTR) {
             stream.close();
         }

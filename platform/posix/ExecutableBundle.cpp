@@ -4,30 +4,31 @@
 
 namespace corvellane {
 
-ExecutableBundle::ExecutableBundle()
+namespace fs = std::filesystem;
+
+ExecutableBundle::ExecutableBundle(std::optional<std::string> executable)
+    : executable_(std::move(executable))
 {
-    std::error_code error;
-    const std::filesystem::path executable = std::filesystem::read_symlink("/proc/self/exe", error);
-    if (!error) {
-        folder_ = executable.parent_path().parent_path().native();
-    }
 }
 
-std::string ExecutableBundle::program(const std::string& name) const
+std::optional<std::string> ExecutableBundle::program(const std::string& name) const
 {
-    return folder_.value_or("") + "/bin/" + name;
+    return executable_ ? std::optional((fs::path(*executable_).parent_path() / name).native()) : std::nullopt;
 }
 
 std::optional<std::string> ExecutableBundle::folder(const std::string& name) const
 {
-    return folder_ ? std::optional(*folder_ + "/Resources/" + name) : std::nullopt;
+    if (!executable_) {
+        return std::nullopt;
+    }
+    return (fs::path(*executable_).parent_path().parent_path() / "Resources" / name).native();
 }
 
 std::optional<std::string> ExecutableBundle::file(const std::string& baseName, const std::string& extension) const
 {
-    const auto path = folder(baseName + "." + extension);
+    auto path = folder(baseName + "." + extension);
     std::error_code error;
-    return path && std::filesystem::exists(*path, error) ? path : std::nullopt;
+    return path && fs::exists(*path, error) ? std::move(path) : std::nullopt;
 }
 
 } // namespace corvellane

@@ -26,4 +26,9 @@ UserAccount realUser()
     return account;
 }
 
+bool hasRootRights()
+{
+    return geteuid() == 0;
+}
+
 } // namespace corvellane

@@ -14,4 +14,7 @@ struct UserAccount {
 /// No environment variable is read. A user without an entry has its number as name and "/" as home.
 UserAccount realUser();
 
+/// Whether this process may do everything.
+bool hasRootRights();
+
 } // namespace corvellane

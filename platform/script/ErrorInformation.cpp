@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-namespace corvellane {
+namespace corvellane::script {
 namespace {
 
 bool isPlain(std::string_view value)
@@ -37,14 +37,15 @@ std::string entry(std::string_view key, std::string_view value)
 
 } // namespace
 
-std::string describeError(const ScriptError& error, SourceRange range)
+std::string describeError(const LocatedFailure& error)
 {
+    const auto& [failure, range] = error;
     const std::string rangeText
         = "NSRange: {" + std::to_string(range.start) + ", " + std::to_string(range.length) + "}";
-    return "{\n" + entry("NSAppleScriptErrorBriefMessage", error.message)
-        + entry("NSAppleScriptErrorMessage", error.message)
-        + entry("NSAppleScriptErrorNumber", std::to_string(error.number)) + entry("NSAppleScriptErrorRange", rangeText)
-        + "}";
+    return "{\n" + entry("NSAppleScriptErrorBriefMessage", failure.message)
+        + entry("NSAppleScriptErrorMessage", failure.message)
+        + entry("NSAppleScriptErrorNumber", std::to_string(failure.number))
+        + entry("NSAppleScriptErrorRange", rangeText) + "}";
 }
 
-} // namespace corvellane
+} // namespace corvellane::script

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "platform/script/Lexer.h"
+#include "base/Expected.h"
 
+#include <cstddef>
 #include <string>
 
-namespace corvellane {
+namespace corvellane::script {
 
 /// The numbers of the errors that scripts and their services raise.
-namespace script_error {
+namespace error_number {
 constexpr int userCanceled = -128;
 constexpr int connectionInvalid = -609;
 constexpr int cannotGetObject = -1728;
@@ -16,17 +17,21 @@ constexpr int notAuthorized = -1743;
 constexpr int notPermitted = -10004;
 constexpr int syntax = -2741;
 constexpr int undefinedVariable = -2753;
-} // namespace script_error
+} // namespace error_number
 
-/// An error that a running script can catch.
-struct ScriptError {
-    /// For a person; what a `try` block's error branch receives.
-    std::string message;
-    int number;
+/// A stretch of a script's source text, in bytes.
+struct SourceRange {
+    std::size_t start = 0;
+    std::size_t length = 0;
 };
 
-/// The error information of an execution as text: braces round one indented "KEY = value;" a line. `range` is the
-/// stretch of the source that the error is about.
-std::string describeError(const ScriptError& error, SourceRange range);
+/// Why a script does not compile or has ended early, and the stretch of its source that this is about.
+struct LocatedFailure {
+    Failure failure;
+    SourceRange range;
+};
 
-} // namespace corvellane
+/// The error information of an execution as text: braces round one indented "KEY = value;" a line.
+std::string describeError(const LocatedFailure& error);
+
+} // namespace corvellane::script

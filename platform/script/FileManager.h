@@ -1,6 +1,6 @@
 #pragma once
 
-namespace corvellane {
+namespace corvellane::script {
 
 /// The desktop's file manager, as the receiver of automation requests.
 class FileManager {
@@ -11,4 +11,4 @@ public:
     virtual bool acceptsRequests() = 0;
 };
 
-} // namespace corvellane
+} // namespace corvellane::script

@@ -4,12 +4,12 @@
 
 #include <utility>
 
-namespace corvellane {
+namespace corvellane::script {
 namespace {
 
 class InterpretedScript : public Script {
 public:
-    InterpretedScript(const ScriptHost& host, std::string source)
+    InterpretedScript(const Host& host, std::string source)
         : host_(host)
         , source_(std::move(source))
     {
@@ -17,19 +17,16 @@ public:
 
     ScriptExecution execute() override
     {
-        const auto compiled = parseScript(source_);
-        if (const auto* error = std::get_if<SyntaxError>(&compiled)) {
-            return {std::nullopt, describeError(error->error, error->range)};
+        const auto run
+            = parse(source_).and_then([this](const SyntaxTree& script) { return script::run(script, host_); });
+        if (!run) {
+            return {std::nullopt, describeError(run.error())};
         }
-        const auto run = runScript(std::get<SyntaxTree>(compiled), host_);
-        if (const auto* error = std::get_if<UncaughtError>(&run)) {
-            return {std::nullopt, describeError(error->error, error->range)};
-        }
-        return {ScriptExecution::Value{asText(std::get<ScriptValue>(run))}, std::nullopt};
+        return {ScriptExecution::Value{asText(*run)}, std::nullopt};
     }
 
 private:
-    ScriptHost host_;
+    Host host_;
     std::string source_;
 };
 
@@ -40,4 +37,4 @@ std::unique_ptr<Script> InterpretedScriptService::create(std::string source)
     return std::make_unique<InterpretedScript>(host_, std::move(source));
 }
 
-} // namespace corvellane
+} // namespace corvellane::script

@@ -3,14 +3,14 @@
 #include "platform/ScriptService.h"
 #include "platform/script/Interpreter.h"
 
-namespace corvellane {
+namespace corvellane::script {
 
 /// The script service of systems that have none of their own: compiles and interprets the language of the install
 /// script and of the automation probe. A script that does not compile, and an error that no `try` block catches, give
 /// error information and no result.
 class InterpretedScriptService : public ScriptService {
 public:
-    explicit InterpretedScriptService(const ScriptHost& host)
+    explicit InterpretedScriptService(const Host& host)
         : host_(host)
     {
     }
@@ -18,7 +18,7 @@ public:
     std::unique_ptr<Script> create(std::string source) override;
 
 private:
-    ScriptHost host_;
+    Host host_;
 };
 
-} // namespace corvellane
+} // namespace corvellane::script

@@ -1,25 +1,19 @@
 #include "platform/script/Interpreter.h"
 
+#include "platform/Progress.h"
 #include "platform/StandardFolders.h"
 #include "platform/script/FileManager.h"
 #include "platform/script/Shell.h"
-#include "platform/script/ShellDialect.h"
 #include "platform/script/TokenStream.h"
 
 #include <map>
 #include <utility>
 
-namespace corvellane {
+namespace corvellane::script {
 namespace {
 
-using Evaluation = std::variant<ScriptValue, ScriptError>;
-
-/// How a statement or a block ended: with a value, which goes on to the next statement, with a returned value,
-/// or with an error.
-struct Returned {
-    ScriptValue value;
-};
-using Completion = std::variant<ScriptValue, Returned, UncaughtError>;
+using Evaluation = Expected<Value>;
+using Execution = Expected<Value, LocatedFailure>;
 
 std::string withoutLastLineEnd(std::string text)
 {
@@ -32,90 +26,97 @@ std::string withoutLastLineEnd(std::string text)
     return text;
 }
 
-Evaluation evaluationOf(CommandResult result)
+Evaluation valueOf(CommandResult result)
 {
     if (result.status == 0) {
-        return ScriptValue(withoutLastLineEnd(std::move(result.output)));
+        return withoutLastLineEnd(std::move(result.output));
     }
     std::string message = withoutLastLineEnd(std::move(result.errors));
     if (message.empty()) {
         message = "The command exited with a non-zero status.";
     }
-    return ScriptError{std::move(message), result.status};
+    return Unexpected({std::move(message), result.status});
+}
+
+Expected<std::string> textOf(const Value& value)
+{
+    if (auto text = asText(value)) {
+        return *std::move(text);
+    }
+    return Unexpected({"Can’t make the value into type text.", error_number::cannotConvert});
 }
 
 class Interpreter {
 public:
-    explicit Interpreter(const ScriptHost& host)
+    explicit Interpreter(const Host& host)
         : host_(host)
     {
     }
 
-    Completion run(const Block& block)
+    /// Gives the value of the last statement that ran: an error and `return` end a block.
+    Execution run(const Block& block)
     {
-        Completion completion;
+        Execution execution;
         for (const Statement& statement : block) {
-            completion = std::visit([&](const auto& form) { return execute(form, statement.range); }, statement.form);
-            if (!std::holds_alternative<ScriptValue>(completion)) {
+            execution = std::visit([&](const auto& form) { return execute(form, statement.range); }, statement.form);
+            if (!execution || isReturning_) {
                 break;
             }
         }
-        return completion;
+        return execution;
     }
 
 private:
-    /// Hands the expression's value to `use`, or gives the error of the statement at `range`.
-    template <typename Use>
-    Completion withValue(const Expression& expression, SourceRange range, Use use)
+    Execution evaluateAt(SourceRange range, const Expression& expression)
     {
-        Evaluation evaluation = evaluate(expression);
-        if (auto* error = std::get_if<ScriptError>(&evaluation)) {
-            return UncaughtError{std::move(*error), range};
+        return evaluate(expression).map_error([&](Failure&& failure) {
+            return LocatedFailure{std::move(failure), range};
+        });
+    }
+
+    Execution execute(const ExpressionStatement& statement, SourceRange range)
+    {
+        return evaluateAt(range, statement.expression);
+    }
+
+    Execution execute(const ReturnStatement& statement, SourceRange range)
+    {
+        Execution execution = statement.value ? evaluateAt(range, *statement.value) : Execution();
+        isReturning_ = execution.has_value();
+        return execution;
+    }
+
+    Execution execute(const SetStatement& statement, SourceRange range)
+    {
+        Execution execution = evaluateAt(range, statement.value);
+        if (execution) {
+            variables_[statement.variable.name] = *execution;
         }
-        return use(std::get<ScriptValue>(std::move(evaluation)));
+        return execution;
     }
 
-    Completion execute(const ExpressionStatement& statement, SourceRange range)
+    Execution execute(const TryStatement& statement, SourceRange)
     {
-        return withValue(statement.expression, range, [](ScriptValue value) { return value; });
-    }
-
-    Completion execute(const ReturnStatement& statement, SourceRange range)
-    {
-        if (!statement.value) {
-            return Returned{};
-        }
-        return withValue(*statement.value, range, [](ScriptValue value) { return Returned{std::move(value)}; });
-    }
-
-    Completion execute(const SetStatement& statement, SourceRange range)
-    {
-        return withValue(statement.value, range,
-            [&](ScriptValue value) { return variables_[statement.variable.name] = std::move(value); });
-    }
-
-    Completion execute(const TryStatement& statement, SourceRange)
-    {
-        Completion completion = run(statement.body);
-        const auto* error = std::get_if<UncaughtError>(&completion);
-        if (error == nullptr) {
-            return completion;
+        Execution execution = run(statement.body);
+        if (execution) {
+            return execution;
         }
         if (statement.errorMessage) {
-            variables_[statement.errorMessage->name] = error->error.message;
+            variables_[statement.errorMessage->name] = execution.error().failure.message;
         }
         return run(statement.errorBranch);
     }
 
-    Completion execute(const TellStatement& statement, SourceRange range)
+    Execution execute(const TellStatement& statement, SourceRange range)
     {
         const std::string& name = statement.application;
         if (inSmallLetters(name) != "finder") {
-            return UncaughtError{{"Can’t get application \"" + name + "\".", script_error::cannotGetObject}, range};
+            return tl::unexpected(
+                LocatedFailure{{"Can’t get application \"" + name + "\".", error_number::cannotGetObject}, range});
         }
         if (!host_.fileManager.acceptsRequests()) {
-            return UncaughtError{
-                {"Not authorized to send Apple events to Finder.", script_error::notAuthorized}, range};
+            return tl::unexpected(
+                LocatedFailure{{"Not authorized to send Apple events to Finder.", error_number::notAuthorized}, range});
         }
         return run(statement.body);
     }
@@ -125,15 +126,15 @@ private:
         return std::visit([&](const auto& form) { return evaluateForm(form); }, expression.form);
     }
 
-    Evaluation evaluateForm(const TextLiteral& literal) { return ScriptValue(literal.text); }
+    Evaluation evaluateForm(const TextLiteral& literal) { return literal.text; }
 
-    Evaluation evaluateForm(const IntegerLiteral& literal) { return ScriptValue(literal.value); }
+    Evaluation evaluateForm(const IntegerLiteral& literal) { return literal.value; }
 
     Evaluation evaluateForm(const VariableReference& variable)
     {
         const auto found = variables_.find(variable.name);
         if (found == variables_.end()) {
-            return ScriptError{"The variable " + variable.name + " is not defined.", script_error::undefinedVariable};
+            return Unexpected({"The variable " + variable.name + " is not defined.", error_number::undefinedVariable});
         }
         return found->second;
     }
@@ -141,74 +142,58 @@ private:
     Evaluation evaluateForm(const PathToApplicationSupport&)
     {
         const auto paths = host_.folders.searchPaths(SearchDirectory::applicationSupport, SearchDomain::local);
-        return ScriptValue(paths.empty() ? std::string() : paths.front());
+        return paths.empty() ? std::string() : paths.front();
     }
 
     Evaluation evaluateForm(const Concatenation& concatenation)
     {
         std::string text;
         for (const Expression& operand : concatenation.operands) {
-            auto part = evaluateText(operand);
-            if (auto* error = std::get_if<ScriptError>(&part)) {
-                return std::move(*error);
+            const auto part = evaluate(operand).and_then(textOf);
+            if (!part) {
+                return tl::unexpected(part.error());
             }
-            text += std::get<std::string>(part);
+            text += *part;
         }
-        return ScriptValue(std::move(text));
+        return text;
     }
 
     Evaluation evaluateForm(const ShellCommand& command)
     {
-        auto text = evaluateText(*command.command);
-        if (auto* error = std::get_if<ScriptError>(&text)) {
-            return std::move(*error);
+        const auto text = evaluate(*command.command).and_then(textOf);
+        if (!text) {
+            return tl::unexpected(text.error());
         }
-        auto shell = shellFor(command);
-        if (auto* error = std::get_if<ScriptError>(&shell)) {
-            return std::move(*error);
+        if (!command.privileged) {
+            return host_.shell.run(*text).and_then(valueOf);
         }
-        auto result = std::get<Shell*>(shell)->run(inBsdDialect(std::get<std::string>(text)));
-        if (auto* error = std::get_if<ScriptError>(&result)) {
-            return std::move(*error);
-        }
-        return evaluationOf(std::get<CommandResult>(std::move(result)));
+        return administratorShell().and_then([&](Shell* shell) {
+            host_.progress.start(*command.privileged);
+            return shell->run(*text).and_then(valueOf);
+        });
     }
 
-    std::variant<std::string, ScriptError> evaluateText(const Expression& expression)
+    Expected<Shell*> administratorShell()
     {
-        Evaluation evaluation = evaluate(expression);
-        if (auto* error = std::get_if<ScriptError>(&evaluation)) {
-            return std::move(*error);
-        }
-        if (auto text = asText(std::get<ScriptValue>(evaluation))) {
-            return *std::move(text);
-        }
-        return ScriptError{"Can’t make the value into type text.", script_error::cannotConvert};
-    }
-
-    std::variant<Shell*, ScriptError> shellFor(const ShellCommand& command)
-    {
-        if (!command.withAdministratorPrivileges) {
-            return &host_.shell;
-        }
         if (administratorShell_ == nullptr) {
-            auto authorization = host_.prompt.authorize();
-            if (auto* error = std::get_if<ScriptError>(&authorization)) {
-                return std::move(*error);
+            auto shell = host_.prompt.authorize();
+            if (!shell) {
+                return tl::unexpected(std::move(shell.error()));
             }
-            administratorShell_ = std::get<std::unique_ptr<Shell>>(std::move(authorization));
+            administratorShell_ = *std::move(shell);
         }
         return administratorShell_.get();
     }
 
-    const ScriptHost& host_;
-    std::map<std::string, ScriptValue> variables_;
+    const Host& host_;
+    std::map<std::string, Value> variables_;
     std::unique_ptr<Shell> administratorShell_;
+    bool isReturning_ = false;
 };
 
 } // namespace
 
-std::optional<std::string> asText(const ScriptValue& value)
+std::optional<std::string> asText(const Value& value)
 {
     if (const auto* text = std::get_if<std::string>(&value)) {
         return *text;
@@ -219,16 +204,12 @@ std::optional<std::string> asText(const ScriptValue& value)
     return std::nullopt;
 }
 
-std::variant<ScriptValue, UncaughtError> runScript(const SyntaxTree& script, const ScriptHost& host)
+Expected<Value, LocatedFailure> run(const SyntaxTree& script, const Host& host)
 {
-    Completion completion = Interpreter(host).run(script.statements);
-    if (auto* error = std::get_if<UncaughtError>(&completion)) {
-        return std::move(*error);
-    }
-    if (auto* returned = std::get_if<Returned>(&completion)) {
-        return std::move(returned->value);
-    }
-    return std::get<ScriptValue>(std::move(completion));
+    host.progress.begin(script.privilegedCommands);
+    Execution execution = Interpreter(host).run(script.statements);
+    host.progress.end();
+    return execution;
 }
 
-} // namespace corvellane
+} // namespace corvellane::script

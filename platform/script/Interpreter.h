@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/script/ErrorInformation.h"
 #include "platform/script/Syntax.h"
 
 #include <cstdint>
@@ -9,34 +8,34 @@
 #include <variant>
 
 namespace corvellane {
+class Progress;
+class StandardFolders;
+} // namespace corvellane
+
+namespace corvellane::script {
 
 class AdministratorPrompt;
 class FileManager;
 class Shell;
-class StandardFolders;
 
 /// What a running script can reach.
-struct ScriptHost {
+struct Host {
     Shell& shell;
     AdministratorPrompt& prompt;
     FileManager& fileManager;
     const StandardFolders& folders;
+    Progress& progress;
 };
 
 /// Nothing, a text or an integer.
-using ScriptValue = std::variant<std::monostate, std::string, std::int64_t>;
+using Value = std::variant<std::monostate, std::string, std::int64_t>;
 
 /// Absent for the value that is nothing.
-std::optional<std::string> asText(const ScriptValue& value);
+std::optional<std::string> asText(const Value& value);
 
-/// An error that ended a script, and the statement that raised it.
-struct UncaughtError {
-    ScriptError error;
-    SourceRange range;
-};
+/// Runs a script on the calling thread and gives what it returns, or else the value of its last statement; or the error
+/// that no `try` block has caught. Administrator rights are asked for at the first command that wants them and given
+/// up when the script ends.
+Expected<Value, LocatedFailure> run(const SyntaxTree& script, const Host& host);
 
-/// Runs a script on the calling thread and gives what it returns, or else the value of its last statement.
-/// Administrator rights are asked for at the first command that wants them and given up when the script ends.
-std::variant<ScriptValue, UncaughtError> runScript(const SyntaxTree& script, const ScriptHost& host);
-
-} // namespace corvellane
+} // namespace corvellane::script

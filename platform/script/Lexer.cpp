@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace corvellane {
+namespace corvellane::script {
 namespace {
 
 constexpr std::string_view continuationSign = "\xC2\xAC";
@@ -145,9 +145,14 @@ std::size_t Lexer::lengthAt(TokenKind kind) const
         return rest.substr(0, 2) == "\r\n" ? 2 : 1;
     case TokenKind::unknown:
         return lengthOfCharacter(rest);
-    default:
-        return 1;
+    case TokenKind::ampersand:
+    case TokenKind::openParenthesis:
+    case TokenKind::closeParenthesis:
+    case TokenKind::endOfScript:
+    case TokenKind::unclosed:
+        break;
     }
+    return 1;
 }
 
 std::size_t Lexer::lengthOfText() const
@@ -163,4 +168,4 @@ std::size_t Lexer::lengthOfText() const
     return 0;
 }
 
-} // namespace corvellane
+} // namespace corvellane::script

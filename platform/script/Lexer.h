@@ -1,15 +1,11 @@
 #pragma once
 
+#include "platform/script/ErrorInformation.h"
+
 #include <cstddef>
 #include <string_view>
 
-namespace corvellane {
-
-/// A stretch of a script's source text, in bytes.
-struct SourceRange {
-    std::size_t start = 0;
-    std::size_t length = 0;
-};
+namespace corvellane::script {
 
 enum class TokenKind {
     word,
@@ -59,4 +55,4 @@ private:
     std::size_t position_ = 0;
 };
 
-} // namespace corvellane
+} // namespace corvellane::script

@@ -1,10 +1,11 @@
 #include "platform/script/Parser.h"
 
-#include <algorithm>
+#include "platform/script/TokenStream.h"
+
 #include <charconv>
 #include <utility>
 
-namespace corvellane {
+namespace corvellane::script {
 namespace {
 
 constexpr int greatestDepth = 200;
@@ -27,6 +28,13 @@ char escapedCharacter(char sign)
     }
 }
 
+/// The text of a literal; empty for any other expression.
+std::string literalText(const Expression& expression)
+{
+    const auto* literal = std::get_if<TextLiteral>(&expression.form);
+    return literal == nullptr ? std::string() : literal->text;
+}
+
 class Parser {
 public:
     explicit Parser(std::string_view source)
@@ -34,14 +42,14 @@ public:
     {
     }
 
-    std::variant<SyntaxTree, SyntaxError> parse()
+    Expected<SyntaxTree, LocatedFailure> parse()
     {
-        SyntaxTree tree{parseBlock()};
+        Block statements = parseBlock();
         tokens_.expect(TokenKind::endOfScript, "end of line");
-        if (tokens_.error()) {
-            return *tokens_.error();
+        if (const auto& error = tokens_.error()) {
+            return tl::unexpected(*error);
         }
-        return tree;
+        return SyntaxTree{std::move(statements), std::move(privilegedCommands_)};
     }
 
 private:
@@ -78,27 +86,27 @@ private:
     Statement parseStatement()
     {
         const std::size_t start = tokens_.current().range.start;
-        Statement statement = parseStatementForm();
-        statement.range = tokens_.rangeFrom(start);
+        StatementForm form = parseStatementForm();
+        Statement statement{std::move(form), tokens_.rangeFrom(start)};
         tokens_.expectEndOfLine();
         return statement;
     }
 
-    Statement parseStatementForm()
+    StatementForm parseStatementForm()
     {
         if (tokens_.accept("try")) {
-            return {parseTry(), {}};
+            return parseTry();
         }
         if (tokens_.accept("tell")) {
-            return {parseTell(), {}};
+            return parseTell();
         }
         if (tokens_.accept("set")) {
-            return {parseSet(), {}};
+            return parseSet();
         }
         if (tokens_.accept("return")) {
-            return {parseReturn(), {}};
+            return tokens_.atEndOfStatement() ? ReturnStatement() : ReturnStatement{parseExpression()};
         }
-        return {ExpressionStatement{parseExpression()}, {}};
+        return ExpressionStatement{parseExpression()};
     }
 
     TryStatement parseTry()
@@ -144,14 +152,6 @@ private:
         return {std::move(variable), parseExpression()};
     }
 
-    ReturnStatement parseReturn()
-    {
-        if (tokens_.atEndOfStatement()) {
-            return {};
-        }
-        return {parseExpression()};
-    }
-
     VariableReference parseName()
     {
         if (tokens_.atReservedWord()) {
@@ -162,7 +162,6 @@ private:
 
     Expression parseExpression()
     {
-        const std::size_t start = tokens_.current().range.start;
         Expression first = parseOperand();
         if (!tokens_.at(TokenKind::ampersand)) {
             return first;
@@ -172,64 +171,55 @@ private:
         while (tokens_.accept(TokenKind::ampersand)) {
             concatenation.operands.push_back(parseOperand());
         }
-        return {std::move(concatenation), tokens_.rangeFrom(start)};
+        return {std::move(concatenation)};
     }
 
     Expression parseOperand()
     {
-        const std::size_t start = tokens_.current().range.start;
-        auto form = parseOperandForm();
-        return {std::move(form), tokens_.rangeFrom(start)};
-    }
-
-    ExpressionForm parseOperandForm()
-    {
+        const Level level(*this);
         if (tokens_.at(TokenKind::text)) {
-            return TextLiteral{unescape(tokens_.advance())};
+            return {TextLiteral{unescape(tokens_.advance())}};
         }
         if (tokens_.at(TokenKind::integer)) {
-            return parseInteger(tokens_.advance());
+            return {parseInteger(tokens_.advance())};
         }
         if (tokens_.accept(TokenKind::openParenthesis)) {
-            return parseParenthesized();
+            Expression inner = parseExpression();
+            tokens_.expect(TokenKind::closeParenthesis, "“)”");
+            return inner;
         }
         if (tokens_.accept("do")) {
-            return parseShellCommand();
+            return {parseShellCommand()};
         }
         if (tokens_.accept("path")) {
             tokens_.expect({"to", "application", "support"});
-            return PathToApplicationSupport{};
+            return {PathToApplicationSupport{}};
         }
         if (tokens_.atReservedWord() || !tokens_.at(TokenKind::word)) {
             tokens_.failExpecting("expression");
         }
-        return parseName();
+        return {parseName()};
     }
 
     IntegerLiteral parseInteger(const Token& token)
     {
         IntegerLiteral literal{};
-        const char* end = token.spelling.data() + token.spelling.size();
-        if (std::from_chars(token.spelling.data(), end, literal.value).ec != std::errc{}) {
+        const char* const first = token.spelling.data();
+        if (std::from_chars(first, first + token.spelling.size(), literal.value).ec != std::errc{}) {
             tokens_.fail("The number “" + std::string(token.spelling) + "” is too large.", token.range);
         }
         return literal;
     }
 
-    ExpressionForm parseParenthesized()
-    {
-        const Level level(*this);
-        Expression inner = parseExpression();
-        tokens_.expect(TokenKind::closeParenthesis, "“)”");
-        return std::move(inner.form);
-    }
-
     ShellCommand parseShellCommand()
     {
-        const Level level(*this);
         tokens_.expect({"shell", "script"});
-        ShellCommand command{std::make_unique<Expression>(parseExpression()), tokens_.at("with")};
-        if (tokens_.accept("with") || tokens_.accept("without")) {
+        ShellCommand command{std::make_unique<Expression>(parseExpression()), std::nullopt};
+        if (tokens_.accept("with")) {
+            command.privileged = privilegedCommands_.size();
+            privilegedCommands_.push_back(literalText(*command.command));
+            tokens_.expect({"administrator", "privileges"});
+        } else if (tokens_.accept("without")) {
             tokens_.expect({"administrator", "privileges"});
         }
         return command;
@@ -255,14 +245,15 @@ private:
     }
 
     TokenStream tokens_;
+    std::vector<std::string> privilegedCommands_;
     int depth_ = 0;
 };
 
 } // namespace
 
-std::variant<SyntaxTree, SyntaxError> parseScript(std::string_view source)
+Expected<SyntaxTree, LocatedFailure> parse(std::string_view source)
 {
     return Parser(source).parse();
 }
 
-} // namespace corvellane
+} // namespace corvellane::script

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "platform/script/ErrorInformation.h"
+#include "base/Expected.h"
 
 #include <memory>
 #include <string>
-#include <variant>
 
-namespace corvellane {
+namespace corvellane::script {
 
 /// What a shell command left behind. Of each stream at most the first 1 MiB is kept.
 struct CommandResult {
@@ -16,15 +15,16 @@ struct CommandResult {
     std::string errors;
 };
 
-/// Runs shell commands, one at a time.
+/// Runs shell commands, one at a time. Scripts write them for the BSD tools; where the tools are others, it is the
+/// shell that makes the command mean the same.
 class Shell {
 public:
     virtual ~Shell() = default;
 
     /// Hands `command` to `/bin/sh -c` and returns when that has ended. Standard input is empty, the working directory
     /// "/", the environment nothing but PATH, LC_ALL and the USER, LOGNAME and HOME of the user at the screen; signals
-    /// have their default dispositions. An error means that the shell could not be run at all.
-    virtual std::variant<CommandResult, ScriptError> run(const std::string& command) = 0;
+    /// have their default dispositions. A failure means that the shell could not be run at all.
+    virtual Expected<CommandResult> run(const std::string& command) = 0;
 };
 
 /// Asks the person at the screen for administrator rights.
@@ -33,8 +33,8 @@ public:
     virtual ~AdministratorPrompt() = default;
 
     /// A shell whose commands run with administrator rights, for one run of one script; or why there is none. A
-    /// person who declines is `script_error::userCanceled`.
-    virtual std::variant<std::unique_ptr<Shell>, ScriptError> authorize() = 0;
+    /// person who declines is `error_number::userCanceled`.
+    virtual Expected<std::unique_ptr<Shell>> authorize() = 0;
 };
 
-} // namespace corvellane
+} // namespace corvellane::script

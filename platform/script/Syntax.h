@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/script/Lexer.h"
+#include "platform/script/ErrorInformation.h"
 
 #include <cstdint>
 #include <memory>
@@ -9,7 +9,7 @@
 #include <variant>
 #include <vector>
 
-namespace corvellane {
+namespace corvellane::script {
 
 struct Expression;
 struct Statement;
@@ -38,17 +38,15 @@ struct Concatenation {
 
 struct ShellCommand {
     std::unique_ptr<Expression> command;
-    bool withAdministratorPrivileges;
+    /// Its place among the script's commands with administrator privileges; absent for one without.
+    std::optional<std::size_t> privileged;
 };
 
 struct PathToApplicationSupport { };
 
-using ExpressionForm = std::variant<TextLiteral, IntegerLiteral, VariableReference, Concatenation, ShellCommand,
-    PathToApplicationSupport>;
-
 struct Expression {
-    ExpressionForm form;
-    SourceRange range;
+    std::variant<TextLiteral, IntegerLiteral, VariableReference, Concatenation, ShellCommand, PathToApplicationSupport>
+        form;
 };
 
 struct ReturnStatement {
@@ -76,14 +74,19 @@ struct TellStatement {
     Block body;
 };
 
+using StatementForm = std::variant<ReturnStatement, SetStatement, ExpressionStatement, TryStatement, TellStatement>;
+
 struct Statement {
-    std::variant<ReturnStatement, SetStatement, ExpressionStatement, TryStatement, TellStatement> form;
+    StatementForm form;
     SourceRange range;
 };
 
 /// A compiled script.
 struct SyntaxTree {
     Block statements;
+    /// The texts of the commands with administrator privileges, in the order they run in; empty for one that is more
+    /// than a literal.
+    std::vector<std::string> privilegedCommands;
 };
 
-} // namespace corvellane
+} // namespace corvellane::script

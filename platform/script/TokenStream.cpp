@@ -5,7 +5,7 @@
 #include <iterator>
 #include <utility>
 
-namespace corvellane {
+namespace corvellane::script {
 namespace {
 
 char toSmallLetter(char character)
@@ -34,9 +34,15 @@ std::string describe(const Token& token)
         return "end of script";
     case TokenKind::unknown:
         return "unknown token";
-    default:
-        return quoted(token.spelling);
+    case TokenKind::word:
+    case TokenKind::integer:
+    case TokenKind::text:
+    case TokenKind::ampersand:
+    case TokenKind::openParenthesis:
+    case TokenKind::closeParenthesis:
+        break;
     }
+    return quoted(token.spelling);
 }
 
 } // namespace
@@ -57,24 +63,6 @@ Token TokenStream::advance()
 {
     previousEnd_ = token_.range.start + token_.range.length;
     return std::exchange(token_, error_ ? Token{} : lexer_.next());
-}
-
-bool TokenStream::accept(TokenKind kind)
-{
-    const bool found = at(kind);
-    if (found) {
-        advance();
-    }
-    return found;
-}
-
-bool TokenStream::accept(std::string_view word)
-{
-    const bool found = at(word);
-    if (found) {
-        advance();
-    }
-    return found;
 }
 
 Token TokenStream::expect(TokenKind kind, std::string_view description)
@@ -109,7 +97,7 @@ void TokenStream::failExpecting(std::string_view expected)
 void TokenStream::fail(std::string message, SourceRange range)
 {
     if (!error_) {
-        error_ = SyntaxError{{std::move(message), script_error::syntax}, range};
+        error_ = LocatedFailure{{std::move(message), error_number::syntax}, range};
         token_ = Token{};
     }
 }
@@ -121,4 +109,4 @@ std::string inSmallLetters(std::string_view text)
     return letters;
 }
 
-} // namespace corvellane
+} // namespace corvellane::script

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/script/ErrorInformation.h"
 #include "platform/script/Lexer.h"
 
 #include <initializer_list>
@@ -8,13 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace corvellane {
-
-/// Why a script does not compile, and where.
-struct SyntaxError {
-    ScriptError error;
-    SourceRange range;
-};
+namespace corvellane::script {
 
 /// The tokens of a script with one token of look-ahead. The first error is kept and ends the text as far as the
 /// reader sees it, so that every loop over the tokens ends by itself.
@@ -27,7 +20,7 @@ public:
     }
 
     const Token& current() const { return token_; }
-    const std::optional<SyntaxError>& error() const { return error_; }
+    const std::optional<LocatedFailure>& error() const { return error_; }
 
     bool at(TokenKind kind) const { return token_.kind == kind; }
     bool at(std::string_view word) const;
@@ -37,8 +30,16 @@ public:
 
     /// Takes the current token, whatever it is.
     Token advance();
-    bool accept(TokenKind kind);
-    bool accept(std::string_view word);
+    /// Takes the current token if it is this kind or this word.
+    template <typename Sign>
+    bool accept(Sign sign)
+    {
+        const bool found = at(sign);
+        if (found) {
+            advance();
+        }
+        return found;
+    }
 
     Token expect(TokenKind kind, std::string_view description);
     void expect(std::initializer_list<std::string_view> words);
@@ -54,10 +55,10 @@ private:
     Lexer lexer_;
     Token token_;
     std::size_t previousEnd_ = 0;
-    std::optional<SyntaxError> error_;
+    std::optional<LocatedFailure> error_;
 };
 
 /// `text` with ASCII capitals made small: what names and key words are compared by.
 std::string inSmallLetters(std::string_view text);
 
-} // namespace corvellane
+} // namespace corvellane::script

@@ -2,19 +2,19 @@
 
 #include <gtest/gtest.h>
 
-namespace corvellane {
+namespace corvellane::script {
 namespace {
 
 /// What is wrong with the script and where: "message @start+length".
 std::string errorOf(const std::string& source)
 {
-    const auto parsed = parseScript(source);
-    const auto* error = std::get_if<SyntaxError>(&parsed);
-    if (error == nullptr) {
+    const auto parsed = parse(source);
+    if (parsed) {
         return "none";
     }
-    EXPECT_EQ(error->error.number, -2741);
-    return error->error.message + " @" + std::to_string(error->range.start) + "+" + std::to_string(error->range.length);
+    const auto& [failure, range] = parsed.error();
+    EXPECT_EQ(failure.number, -2741);
+    return failure.message + " @" + std::to_string(range.start) + "+" + std::to_string(range.length);
 }
 
 std::string repeated(const std::string& part, int times)
@@ -69,4 +69,4 @@ TEST(Parser, nestsAsDeepAsScriptsAreWrittenAndNoDeeper)
 }
 
 } // namespace
-} // namespace corvellane
+} // namespace corvellane::script

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Progress.h"
 #include "platform/script/FileManager.h"
 #include "platform/script/Interpreter.h"
 #include "platform/script/Shell.h"
@@ -9,20 +10,19 @@
 #include <string>
 #include <vector>
 
-namespace corvellane {
+namespace corvellane::script {
 
-/// What scripts run against in tests: commands are recorded, without what the service puts in front of them, and not
-/// run. One that is not in `results` succeeds and prints nothing.
-class RecordingHost : AdministratorPrompt, FileManager {
+/// What scripts run against in tests: what happens is recorded, and no command is run.
+class RecordingHost : AdministratorPrompt, FileManager, Progress {
 public:
-    ScriptHost host() { return {shell_, *this, *this, folders_}; }
+    Host host() { return {shell_, *this, *this, folders_, *this}; }
 
+    /// A command that is not here succeeds and prints nothing.
     std::map<std::string, CommandResult> results;
-    /// Commands with administrator rights begin with "sudo ".
-    std::vector<std::string> commands;
+    /// Commands, those with administrator rights after "sudo "; "prompt"; "begin TEXT; TEXT;", "start INDEX", "end".
+    std::vector<std::string> journal;
     bool declines = false;
     bool fileManagerAnswers = true;
-    int prompts = 0;
 
 private:
     struct RecordingShell : Shell {
@@ -31,29 +31,38 @@ private:
             , prefix(std::move(mark))
         {
         }
-        std::variant<CommandResult, ScriptError> run(const std::string& command) override
+        Expected<CommandResult> run(const std::string& command) override
         {
-            const std::string bare = command.substr(command.rfind("}; ") + 3);
-            recorder.commands.push_back(prefix + bare);
-            return recorder.results[bare];
+            recorder.journal.push_back(prefix + command);
+            return recorder.results[command];
         }
         RecordingHost& recorder;
         std::string prefix;
     };
 
-    std::variant<std::unique_ptr<Shell>, ScriptError> authorize() override
+    Expected<std::unique_ptr<Shell>> authorize() override
     {
-        ++prompts;
+        journal.emplace_back("prompt");
         if (declines) {
-            return ScriptError{"User canceled.", script_error::userCanceled};
+            return Unexpected({"User canceled.", error_number::userCanceled});
         }
         return std::make_unique<RecordingShell>(*this, "sudo ");
     }
 
     bool acceptsRequests() override { return fileManagerAnswers; }
 
+    void begin(const std::vector<std::string>& commands) override
+    {
+        journal.emplace_back("begin");
+        for (const std::string& command : commands) {
+            journal.back() += " " + command + ";";
+        }
+    }
+    void start(std::size_t index) override { journal.push_back("start " + std::to_string(index)); }
+    void end() override { journal.emplace_back("end"); }
+
     RecordingShell shell_{*this, ""};
     FakeFolders folders_;
 };
 
-} // namespace corvellane
+} // namespace corvellane::script

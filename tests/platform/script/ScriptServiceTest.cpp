@@ -5,7 +5,7 @@
 
 #include <gmock/gmock.h>
 
-namespace corvellane {
+namespace corvellane::script {
 namespace {
 
 using testing::ElementsAre;
@@ -32,6 +32,7 @@ TEST_F(ScriptServiceTest, givesWhatAScriptReturnsOrItsLastValue)
 {
     recorder.results["date"] = {0, "today\n", ""};
     recorder.results["lines"] = {0, "a\n\nb\r\n", ""};
+    recorder.results["more"] = {0, "a\n\n", ""};
     const std::vector<std::pair<std::string, std::string>> rows{
         {"return \"Ok\"", "Ok"},
         {"return 1", "1"},
@@ -46,6 +47,7 @@ TEST_F(ScriptServiceTest, givesWhatAScriptReturnsOrItsLastValue)
         {"do shell script \"da\" & \"te\"", "today"},
         {"(do shell script \"date\") & \"!\"", "today!"},
         {"do shell script \"lines\"", "a\n\nb"},
+        {"do shell script \"more\"", "a\n"},
         {"return 1\nreturn 2", "1"},
         {"try\nreturn 1\nend try\nreturn 2", "1"},
         {"try\nset a to 1\nend try\nreturn a", "1"},
@@ -64,37 +66,42 @@ TEST_F(ScriptServiceTest, givesWhatAScriptReturnsOrItsLastValue)
 
 TEST_F(ScriptServiceTest, turnsAFailingCommandIntoAnErrorThatCanBeCaught)
 {
-    recorder.results["loud"] = {3, "out\n", "loud: failed\n"};
+    recorder.results["loud"] = {3, "out\n", "loud:\nfailed\n\n"};
     recorder.results["quiet"] = {1, "", ""};
     const auto caught = [](const std::string& command) {
         return "try\ndo shell script \"" + command + "\"\ndo shell script \"not run\"\non error m\nreturn m\nend try";
     };
-    EXPECT_EQ(resultOf(caught("loud")), "loud: failed");
+    EXPECT_EQ(resultOf(caught("loud")), "loud:\nfailed\n");
     EXPECT_EQ(resultOf(caught("quiet")), "The command exited with a non-zero status.");
-    EXPECT_THAT(recorder.commands, ElementsAre("loud", "quiet"));
+    EXPECT_THAT(recorder.journal, ElementsAre("begin", "loud", "end", "begin", "quiet", "end"));
     EXPECT_EQ(resultOf("try\ntry\nreturn x\non error m\nreturn y\nend try\non error m\nreturn m\nend try"),
         "The variable y is not defined.");
     const ScriptExecution uncaught = execute("\n do shell script \"loud\"");
     EXPECT_FALSE(uncaught.result);
     EXPECT_EQ(uncaught.errorDescription,
-        "{\n    NSAppleScriptErrorBriefMessage = \"loud: failed\";\n    NSAppleScriptErrorMessage = \"loud: failed\";\n"
+        "{\n    NSAppleScriptErrorBriefMessage = \"loud:\\nfailed\\n\";\n    NSAppleScriptErrorMessage = "
+        "\"loud:\\nfailed\\n\";\n"
         "    NSAppleScriptErrorNumber = 3;\n    NSAppleScriptErrorRange = \"NSRange: {2, 22}\";\n}");
 }
 
-TEST_F(ScriptServiceTest, asksForAdministratorRightsOnceARunAndOnlyWhenTheyAreWanted)
+TEST_F(ScriptServiceTest, asksForAdministratorRightsOnceARunAndTellsWhichCommandHasCome)
 {
     const std::string script = "do shell script \"a\"\ndo shell script \"b\" with administrator privileges\n"
-                               "do shell script \"c\"  with administrator privileges\n"
-                               "do shell script \"d\" without administrator privileges";
-    execute(script);
-    EXPECT_THAT(recorder.commands, ElementsAre("a", "sudo b", "sudo c", "d"));
-    EXPECT_EQ(recorder.prompts, 1);
-    execute(script);
-    EXPECT_EQ(recorder.prompts, 2);
+                               "do shell script \"c\" & \"!\"  with administrator privileges\n"
+                               "do shell script \"d\" without administrator privileges\n"
+                               "do shell script (do shell script \"e\" with administrator privileges) & "
+                               "\"\\\"\" with administrator privileges";
+    for (int run = 0; run < 2; ++run) {
+        recorder.journal.clear();
+        execute(script);
+        EXPECT_THAT(recorder.journal,
+            ElementsAre("begin b; ; e; ;", "a", "prompt", "start 0", "sudo b", "start 1", "sudo c!", "d", "start 2",
+                "sudo e", "start 3", "sudo \"", "end"));
+    }
     recorder.declines = true;
-    recorder.commands.clear();
+    recorder.journal.clear();
     EXPECT_EQ(resultOf("try\n" + script + "\non error m\nreturn m\nend try"), "User canceled.");
-    EXPECT_THAT(recorder.commands, ElementsAre("a"));
+    EXPECT_THAT(recorder.journal, ElementsAre("begin b; ; e; ;", "a", "prompt", "end"));
     EXPECT_THAT(*execute(script).errorDescription, HasSubstr("NSAppleScriptErrorNumber = \"-128\";"));
 }
 
@@ -110,4 +117,4 @@ TEST_F(ScriptServiceTest, answersTheProbeByWhatTheFileManagerSays)
 }
 
 } // namespace
-} // namespace corvellane
+} // namespace corvellane::script

@@ -7,9 +7,8 @@
 
 namespace corvellane {
 
-/// Has commands run by a command runner in another process: four bytes, the highest first, with the command's length
-/// and the command; in return the status and both streams in the same manner. The runner ends with this object.
-class RunnerShell : public Shell {
+/// Has commands run by a command runner in another process, which ends with this object.
+class RunnerShell : public script::Shell {
 public:
     /// `channel` is the connection to the runner with the process id `runner`, a child of this process.
     RunnerShell(FileDescriptor channel, pid_t runner)
@@ -21,7 +20,7 @@ public:
     RunnerShell& operator=(const RunnerShell&) = delete;
     ~RunnerShell() override;
 
-    std::variant<CommandResult, ScriptError> run(const std::string& command) override;
+    Expected<script::CommandResult> run(const std::string& command) override;
 
 private:
     FileDescriptor channel_;

@@ -10,9 +10,10 @@ namespace corvellane {
 /// Asks through polkit, with the desktop's own window for the password: pkexec starts the command runner once, and all
 /// commands of a script go through it. No password passes through this process.
 ///
-/// Blocks for as long as the person takes. A declined window is `script_error::userCanceled`; anything else that keeps
-/// the runner from starting is `script_error::notPermitted`, with a message that tells a person what to do.
-class PkexecPrompt : public AdministratorPrompt {
+/// Blocks for as long as the person takes. A declined window is `script::error_number::userCanceled`; anything else
+/// that keeps the runner from starting is `script::error_number::notPermitted`, with a message that tells a person what
+/// to do.
+class PkexecPrompt : public script::AdministratorPrompt {
 public:
     /// `runner` is the path of the command runner, `products` the folder that its commands copy from. Nothing is asked
     /// when anybody but root could have changed them, or could still change them while the window waits.
@@ -24,7 +25,7 @@ public:
     {
     }
 
-    std::variant<std::unique_ptr<Shell>, ScriptError> authorize() override;
+    Expected<std::unique_ptr<script::Shell>> authorize() override;
 
 private:
     std::string runner_;

@@ -1,6 +1,7 @@
-#include "platform/posix/PosixShell.h"
+#include "platform/linux/LinuxShell.h"
 
-#include "platform/posix/ChildProcess.h"
+#include "platform/linux/IsolatedChild.h"
+#include "platform/linux/ShellDialect.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -14,7 +15,7 @@ namespace corvellane {
 namespace {
 
 /// Returns when the process has ended or, where that cannot be told, when both streams have.
-void drainUntilEnd(pid_t process, FileDescriptor& output, FileDescriptor& errors, CommandResult& result)
+void drainUntilEnd(pid_t process, FileDescriptor& output, FileDescriptor& errors, script::CommandResult& result)
 {
     // The C library's header declares pidfd_open() without C linkage.
     const FileDescriptor ended(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
@@ -28,37 +29,37 @@ void drainUntilEnd(pid_t process, FileDescriptor& output, FileDescriptor& errors
     }
 }
 
-ScriptError cannotRun(int error)
+Unexpected cannotRun(const std::string& reason, int number)
 {
-    return {"The command could not be run: " + std::string(std::strerror(error)) + ".", error};
+    return Unexpected({"The command could not be run: " + reason + ".", number});
 }
 
 } // namespace
 
-PosixShell::PosixShell(const UserAccount& user)
+LinuxShell::LinuxShell(const UserAccount& user)
     : environment_{"PATH=/usr/bin:/bin:/usr/sbin:/sbin", "LC_ALL=C.UTF-8", "USER=" + user.name, "LOGNAME=" + user.name,
           "HOME=" + user.home}
 {
 }
 
-std::variant<CommandResult, ScriptError> PosixShell::run(const std::string& command)
+Expected<script::CommandResult> LinuxShell::run(const std::string& command)
 {
     const FileDescriptor nothing(open("/dev/null", O_RDONLY | O_CLOEXEC));
     Pipe output = makePipe();
     Pipe errors = makePipe();
     if (!nothing.isOpen() || !output.readEnd.isOpen() || !errors.readEnd.isOpen()) {
-        return cannotRun(errno);
+        return cannotRun(std::strerror(errno), errno);
     }
-    const auto started = startChild(
-        {{"/bin/sh", "-c", command}, environment_}, {nothing.get(), output.writeEnd.get(), errors.writeEnd.get()});
-    if (const auto* failure = std::get_if<StartFailure>(&started)) {
-        return cannotRun(failure->error);
+    const auto child = startIsolatedChild({{"/bin/sh", "-c", inBsdDialect(command)}, environment_},
+        {nothing.get(), output.writeEnd.get(), errors.writeEnd.get()});
+    if (!child) {
+        return cannotRun(child.error().message, child.error().number);
     }
     output.writeEnd.close();
     errors.writeEnd.close();
-    CommandResult result;
-    drainUntilEnd(std::get<pid_t>(started), output.readEnd, errors.readEnd, result);
-    result.status = exitStatusOf(std::get<pid_t>(started));
+    script::CommandResult result;
+    drainUntilEnd(*child, output.readEnd, errors.readEnd, result);
+    result.status = exitStatusOf(*child);
     return result;
 }
 

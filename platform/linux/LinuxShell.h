@@ -3,17 +3,18 @@
 #include "platform/posix/UserAccount.h"
 #include "platform/script/Shell.h"
 
+#include <string>
 #include <vector>
 
 namespace corvellane {
 
 /// Runs commands directly, with the rights of this process, for the given user. A command is over when its shell has
 /// ended: what that left in the background keeps running, and its later output is not waited for.
-class PosixShell : public Shell {
+class LinuxShell : public script::Shell {
 public:
-    explicit PosixShell(const UserAccount& user);
+    explicit LinuxShell(const UserAccount& user);
 
-    std::variant<CommandResult, ScriptError> run(const std::string& command) override;
+    Expected<script::CommandResult> run(const std::string& command) override;
 
 private:
     std::vector<std::string> environment_;

@@ -1,6 +1,4 @@
-#include "platform/script/ShellDialect.h"
-
-#include "platform/posix/PosixShell.h"
+#include "platform/linux/LinuxShell.h"
 #include "tests/ScratchFolder.h"
 #include "tools/FolderTree.h"
 
@@ -14,11 +12,9 @@ using testing::ElementsAre;
 /// Commands in the BSD tools' manner, run in a scratch folder.
 class ShellDialectTest : public testing::Test {
 protected:
-    CommandResult run(const std::string& command)
+    script::CommandResult run(const std::string& command)
     {
-        PosixShell shell({"someone", "/"});
-        auto result = shell.run(inBsdDialect("cd \"" + scratch.path() + "\"; " + command));
-        return std::get<CommandResult>(std::move(result));
+        return LinuxShell({"someone", "/"}).run("cd \"" + scratch.path() + "\"; " + command).value();
     }
 
     std::vector<std::string> tree() { return describeTree(scratch.path(), scratch.path()); }
@@ -45,7 +41,7 @@ TEST_F(ShellDialectTest, copiesAFolderWithoutATrailingSlashAsAWhole)
     run("cp -R -f from to/; cp -R -f from to/");
     EXPECT_THAT(tree(),
         ElementsAre("folder  from", "folder  from/sub", "folder  to", "folder  to/from", "folder  to/from/sub"));
-    const CommandResult vanished = run("cp -R -f gone to/");
+    const script::CommandResult vanished = run("cp -R -f gone to/");
     EXPECT_EQ(vanished.status, 1);
     EXPECT_EQ(vanished.errors, "cp: cannot stat 'gone': No such file or directory\n");
 }

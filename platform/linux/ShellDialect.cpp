@@ -1,4 +1,4 @@
-#include "platform/script/ShellDialect.h"
+#include "platform/linux/ShellDialect.h"
 
 #include <string_view>
 

@@ -1,8 +1,9 @@
-#include "platform/posix/PkexecPrompt.h"
+#include "platform/linux/PkexecPrompt.h"
 
-#include "platform/posix/ChildProcess.h"
+#include "platform/linux/IsolatedChild.h"
+#include "platform/linux/RunnerShell.h"
 #include "platform/posix/RootOnly.h"
-#include "platform/posix/RunnerShell.h"
+#include "platform/script/ErrorInformation.h"
 
 #include <sys/prctl.h>
 #include <sys/socket.h>
@@ -21,23 +22,23 @@ namespace {
 constexpr int declined = 126;
 constexpr int notAuthorized = 127;
 
-ScriptError refusal(std::string message)
+Unexpected refusal(std::string message)
 {
-    return {std::move(message), script_error::notPermitted};
+    return Unexpected({std::move(message), script::error_number::notPermitted});
 }
 
 /// `reason` may be empty, and may end as programs end what they print.
-ScriptError cannotStart(std::string reason)
+Unexpected cannotStart(std::string reason)
 {
     reason.erase(reason.find_last_not_of(" \n") + 1);
     return refusal("The program that runs commands with administrator rights could not be started."
         + (reason.empty() ? reason : " " + reason));
 }
 
-ScriptError cannotAsk(const StartFailure& failure)
+Unexpected cannotAsk(const Failure& failure)
 {
-    if (failure.error != ENOENT) {
-        return cannotStart(std::strerror(failure.error));
+    if (failure.number != ENOENT) {
+        return cannotStart(failure.message);
     }
     return refusal("There is no way to ask for an administrator’s password, because the program pkexec is missing. "
                    "Install it, or start the installer as root.");
@@ -55,11 +56,11 @@ bool isSystemBusRunning()
 
 /// `complaint` only chooses the words: pkexec gives a refused password, a missing agent and a fault of its own the same
 /// status. Its words are English, because it gets no environment.
-ScriptError explainRefusal(int status, const std::string& complaint)
+Unexpected explainRefusal(int status, const std::string& complaint)
 {
     const auto isSaid = [&complaint](const char* words) { return complaint.find(words) != std::string::npos; };
     if (status == declined) {
-        return {"User canceled.", script_error::userCanceled};
+        return Unexpected({"User canceled.", script::error_number::userCanceled});
     }
     if (status == notAuthorized && !isSystemBusRunning()) {
         return refusal("There is no way to ask for an administrator’s password, because the system’s message bus is "
@@ -89,7 +90,7 @@ Channel makeChannel()
 
 } // namespace
 
-std::variant<std::unique_ptr<Shell>, ScriptError> PkexecPrompt::authorize()
+Expected<std::unique_ptr<script::Shell>> PkexecPrompt::authorize()
 {
     std::error_code error;
     const std::string runner = std::filesystem::canonical(runner_, error);
@@ -106,18 +107,18 @@ std::variant<std::unique_ptr<Shell>, ScriptError> PkexecPrompt::authorize()
         return cannotStart(std::strerror(errno));
     }
     // pkexec passes parts of its environment on and refuses to start for the sake of others, so it gets none.
-    const auto started = startChild({{pkexec_, "--disable-internal-agent", runner}, {}},
+    const auto child = startIsolatedChild({{pkexec_, "--disable-internal-agent", runner}, {}},
         {channel.theirs.get(), channel.theirs.get(), complaints.writeEnd.get()});
-    if (const auto* failure = std::get_if<StartFailure>(&started)) {
-        return cannotAsk(*failure);
+    if (!child) {
+        return cannotAsk(child.error());
     }
     channel.theirs.close();
     complaints.writeEnd.close();
     if (runnerComesUp(channel.ours)) {
-        return std::make_unique<RunnerShell>(std::move(channel.ours), std::get<pid_t>(started));
+        return std::make_unique<RunnerShell>(std::move(channel.ours), *child);
     }
     channel.ours.close();
-    const int status = exitStatusOf(std::get<pid_t>(started));
+    const int status = exitStatusOf(*child);
     std::string complaint;
     drain(complaints.readEnd, complaint);
     return explainRefusal(status, complaint);

@@ -1,0 +1,129 @@
+#include "platform/posix/ExecutableBundle.h"
+#include "platform/posix/PosixFiles.h"
+#include "platform/posix/PosixStandardFolders.h"
+#include "platform/posix/RootOnly.h"
+#include "platform/posix/UserAccount.h"
+#include "tests/ScratchFolder.h"
+
+#include <gmock/gmock.h>
+
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace corvellane {
+namespace {
+
+/// Takes root's rights away for as long as it lives; whoever has none keeps what there is.
+class Unprivileged {
+public:
+    Unprivileged() { EXPECT_TRUE(!hasRootRights() || seteuid(65534) == 0); }
+    Unprivileged(const Unprivileged&) = delete;
+    Unprivileged& operator=(const Unprivileged&) = delete;
+    ~Unprivileged() { EXPECT_TRUE(getuid() != 0 || seteuid(0) == 0); }
+};
+
+TEST(PosixFiles, tellsWhatIsInAFolderAndWhyItCannot)
+{
+    const ScratchFolder scratch;
+    scratch.write("locked/inside", "");
+    scratch.write("folder/b", "");
+    scratch.write("folder/a/x", "");
+    ASSERT_EQ(symlink("a", (scratch.path() + "/folder/.link").c_str()), 0);
+    const PosixFiles files;
+    for (const std::string end : {"", "/"}) {
+        const auto entries = files.list(scratch.path() + "/folder" + end);
+        ASSERT_EQ(entries->size(), 3);
+        const std::vector<std::pair<std::string, bool>> expected{{"/.link", false}, {"/a", true}, {"/b", false}};
+        for (std::size_t index = 0; index < expected.size(); ++index) {
+            EXPECT_EQ(entries->at(index).path, scratch.path() + "/folder" + expected[index].first);
+            EXPECT_EQ(entries->at(index).isFolder, expected[index].second);
+        }
+    }
+    chmod(scratch.path().c_str(), 0755);
+    chmod((scratch.path() + "/locked").c_str(), 0);
+    const Unprivileged unprivileged;
+    EXPECT_EQ(files.list(scratch.path() + "/locked").error().message,
+        "The file “locked” couldn’t be opened because you don’t have permission to view it.");
+}
+
+TEST(PosixFiles, readsRegularFilesUpToASize)
+{
+    const ScratchFolder scratch;
+    const std::string bytes = std::string("\xFF\0\n", 3) + std::string(100000, 'x');
+    scratch.write("file", bytes);
+    const PosixFiles files;
+    EXPECT_EQ(files.read(scratch.path() + "/file", bytes.size()).value(), bytes);
+    ASSERT_EQ(mkfifo((scratch.path() + "/pipe").c_str(), 0600), 0);
+    EXPECT_FALSE(files.read(scratch.path() + "/file", bytes.size() - 1));
+    EXPECT_FALSE(files.read(scratch.path() + "/pipe", 10));
+    EXPECT_EQ(files.read(scratch.path(), 1000000).error().message,
+        "The file “" + scratch.path().substr(scratch.path().rfind('/') + 1) + "” couldn’t be opened.");
+}
+
+TEST(StandardFolders, areInTheHomeOfThePasswordDatabaseWhateverTheEnvironmentSays)
+{
+    setenv("HOME", "/elsewhere", 1);
+    const std::string home = getpwuid(getuid())->pw_dir;
+    EXPECT_EQ(realUser().home, home);
+    EXPECT_EQ(realUser().name, getpwuid(getuid())->pw_name);
+    const auto path = [](const std::string& prefix, SearchDirectory directory, SearchDomain domain) {
+        return PosixStandardFolders(prefix).searchPaths(directory, domain);
+    };
+    using testing::ElementsAre;
+    EXPECT_THAT(path("", SearchDirectory::applicationSupport, SearchDomain::user),
+        ElementsAre(home + "/Library/Application Support"));
+    EXPECT_THAT(path("/x y", SearchDirectory::applicationSupport, SearchDomain::user),
+        ElementsAre("/x y" + home + "/Library/Application Support"));
+    EXPECT_THAT(path("/x y", SearchDirectory::applicationSupport, SearchDomain::local),
+        ElementsAre("/x y/Library/Application Support"));
+    EXPECT_THAT(path("", SearchDirectory::applications, SearchDomain::local), ElementsAre("/Applications"));
+}
+
+TEST(ExecutableBundle, hasItsResourcesBesideTheFolderOfTheExecutable)
+{
+    const ScratchFolder scratch;
+    scratch.write("Resources/Logo.svg", "");
+    const ExecutableBundle bundle(scratch.path() + "/bin/program");
+    EXPECT_EQ(bundle.program("runner"), scratch.path() + "/bin/runner");
+    EXPECT_EQ(bundle.folder("Gone"), scratch.path() + "/Resources/Gone");
+    EXPECT_EQ(bundle.file("Logo", "svg"), scratch.path() + "/Resources/Logo.svg");
+    EXPECT_EQ(bundle.file("Logo", "png"), std::nullopt);
+    const ExecutableBundle unknown(std::nullopt);
+    EXPECT_EQ(unknown.program("runner"), std::nullopt);
+    EXPECT_EQ(unknown.folder("Products"), std::nullopt);
+    EXPECT_EQ(unknown.file("Logo", "svg"), std::nullopt);
+}
+
+TEST(RootOnly, believesInNothingThatSomebodyElseCouldChange)
+{
+    EXPECT_TRUE(onlyRootCanChange("/bin/sh"));
+    EXPECT_FALSE(onlyRootCanChange("/tmp"));
+    EXPECT_FALSE(onlyRootCanChange("/gone"));
+    EXPECT_FALSE(onlyRootCanChangeTree("/gone"));
+    const ScratchFolder scratch;
+    if (!hasRootRights()) {
+        EXPECT_FALSE(onlyRootCanChange(scratch.path()));
+        GTEST_SKIP() << "only root can make what is root's alone";
+    }
+    scratch.write("tree/inner/file", "");
+    const std::string tree = scratch.path() + "/tree";
+    const std::string file = tree + "/inner/file";
+    EXPECT_TRUE(onlyRootCanChangeTree(tree)) << "the sticky bit of the folder above will do";
+    for (const mode_t mode : {0777, 01777, 0775, 0757}) {
+        chmod((tree + "/inner").c_str(), mode);
+        EXPECT_FALSE(onlyRootCanChangeTree(tree)) << std::oct << mode;
+        EXPECT_EQ(onlyRootCanChange(file), mode == 01777) << std::oct << mode;
+    }
+    chmod((tree + "/inner").c_str(), 0755);
+    ASSERT_EQ(symlink("/tmp", (tree + "/link").c_str()), 0);
+    EXPECT_TRUE(onlyRootCanChangeTree(tree)) << "where a link in there leads is its own affair";
+    EXPECT_FALSE(onlyRootCanChange(tree + "/link"));
+    ASSERT_EQ(lchown((tree + "/link").c_str(), 65534, 65534), 0);
+    EXPECT_FALSE(onlyRootCanChangeTree(tree));
+    ASSERT_EQ(chown(tree.c_str(), 65534, 65534), 0);
+    EXPECT_FALSE(onlyRootCanChange(file)) << "a folder above it can be exchanged";
+}
+
+} // namespace
+} // namespace corvellane

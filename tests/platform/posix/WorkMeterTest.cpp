@@ -1,0 +1,88 @@
+#include "platform/posix/WorkMeter.h"
+
+#include "tests/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+namespace corvellane {
+namespace {
+
+class WorkMeterTest : public testing::Test {
+protected:
+    WorkMeterTest()
+    {
+        // Between them, the copies weigh so much that the other commands do not count.
+        write("from/a/Small.plugin/file", smallSize);
+        write("from/b/Large \"$\".plugin/in/file", largeSize / 2);
+        write("from/b/Large \"$\".plugin/in/other", largeSize / 2);
+        std::filesystem::create_directories(scratch.path() + "/to");
+    }
+
+    void write(const std::string& name, std::uintmax_t size) const
+    {
+        scratch.write(name, "");
+        std::filesystem::resize_file(scratch.path() + "/" + name, size);
+    }
+
+    std::string copy(const std::string& from) const
+    {
+        return "cp -R -f \"" + scratch.path() + "/from/" + from + "\" \"" + scratch.path() + "/to/\"";
+    }
+
+    /// The part that is done once it is `expected`, to the hundredth; otherwise what it is after some seconds.
+    double settled(double expected)
+    {
+        double part = -1;
+        for (int tries = 0; tries < 500 && std::abs(part - expected) > 0.005; ++tries) {
+            part = meter.partDone().value_or(-1);
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        return part;
+    }
+
+    static constexpr std::uintmax_t smallSize = 1'000'000'000;
+    static constexpr std::uintmax_t largeSize = 3'000'000'000;
+    ScratchFolder scratch;
+    WorkMeter meter;
+};
+
+TEST_F(WorkMeterTest, knowsOfNoWorkWithoutCommands)
+{
+    EXPECT_EQ(meter.partDone(), std::nullopt);
+    meter.begin({});
+    EXPECT_EQ(meter.partDone(), std::nullopt);
+    meter.end();
+    meter.begin({"true", ""});
+    EXPECT_EQ(meter.partDone(), 0);
+    meter.start(1);
+    EXPECT_NEAR(settled(0.5), 0.5, 0.005);
+    meter.end();
+    EXPECT_EQ(meter.partDone(), std::nullopt);
+}
+
+TEST_F(WorkMeterTest, countsCopiesByTheirBytesAndWhatTheyHaveWritten)
+{
+    write("to/Large \"$\".plugin/in/file", largeSize / 2);
+    using Clock = std::filesystem::file_time_type::clock;
+    std::filesystem::last_write_time(
+        scratch.path() + "/to/Large \"$\".plugin/in/file", Clock::now() - std::chrono::minutes(1));
+    meter.begin({"mkdir x", copy("a/Small.plugin"), copy(R"(b/Large \"\$\".plugin)"), "rm x", copy("gone")});
+    meter.start(0);
+    EXPECT_NEAR(settled(0), 0, 0.005);
+    meter.start(2);
+    EXPECT_NEAR(settled(0.25), 0.25, 0.005) << "what was there before the copy does not count";
+    write("to/Large \"$\".plugin/in/other", largeSize / 3);
+    EXPECT_NEAR(settled(0.5), 0.5, 0.005);
+    write("to/Large \"$\".plugin/in/other", largeSize * 2);
+    EXPECT_NEAR(settled(1), 1, 0.005) << "no copy writes more than its source";
+    meter.start(3);
+    EXPECT_NEAR(settled(1), 1, 0.005);
+    meter.end();
+    meter.begin({copy("a/Small.plugin"), "true"});
+    EXPECT_EQ(meter.partDone(), 0) << "another script begins anew";
+}
+
+} // namespace
+} // namespace corvellane
