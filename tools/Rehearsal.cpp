@@ -1,28 +1,52 @@
 #include "tools/Rehearsal.h"
 
+#include "platform/Resources.h"
+#include "platform/posix/PosixStandardFolders.h"
+#include "platform/script/DirectPrompt.h"
+
 #include <filesystem>
 
 namespace corvellane {
+namespace {
 
-std::optional<std::string> RehearsalResources::folder(const std::string& name) const
+class RehearsalResources : public Resources {
+public:
+    explicit RehearsalResources(std::string productsFolder)
+        : productsFolder_(std::move(productsFolder))
+    {
+    }
+
+    std::optional<std::string> folder(const std::string& name) const override
+    {
+        return name == "Products" ? productsFolder_ : productsFolder_ + "/../" + name;
+    }
+
+    std::optional<std::string> file(const std::string& baseName, const std::string& extension) const override
+    {
+        const auto path = std::filesystem::path(productsFolder_).parent_path() / (baseName + "." + extension);
+        std::error_code error;
+        return std::filesystem::exists(path, error) ? std::optional(path.native()) : std::nullopt;
+    }
+
+private:
+    std::string productsFolder_;
+};
+
+} // namespace
+
+void makeRehearsal(System& system, const std::string& productsFolder, const std::string& into)
 {
-    return name == "Products" ? productsFolder_ : productsFolder_ + "/../" + name;
+    system.resources = std::make_shared<RehearsalResources>(productsFolder);
+    system.folders = std::make_shared<PosixStandardFolders>(into);
+    system.prompt = std::make_shared<script::DirectPrompt>(system.shell);
 }
 
-std::optional<std::string> RehearsalResources::file(const std::string& baseName, const std::string& extension) const
+Rehearsal::Rehearsal(const System& system, const std::string& productsFolder, const std::string& into)
+    : system_(system)
 {
-    const std::filesystem::path path
-        = std::filesystem::path(productsFolder_).parent_path() / (baseName + "." + extension);
-    std::error_code error;
-    return std::filesystem::exists(path, error) ? std::optional(path.native()) : std::nullopt;
-}
-
-Rehearsal::Rehearsal(const std::string& productsFolder, const std::string& into, Console& console)
-    : resources_(productsFolder)
-    , folders_(into)
-    , settings_(std::make_shared<AppSettings>(Platform{
-          application_, console, dispatcher_, files_, pasteboard_, resources_, scripts_, folders_, workspace_}))
-{
+    makeRehearsal(system_, productsFolder, into);
+    system_.dispatcher = dispatcher_;
+    settings_ = std::make_shared<AppSettings>(system_.platform());
     settings_->refreshProducts();
 }
 
@@ -34,7 +58,7 @@ void Rehearsal::install()
     settings_->nextAction();
     settings_->nextAction();
     settings_->confirmInstallation();
-    dispatcher_.runMainQueue();
+    dispatcher_->runMainQueue();
 }
 
 } // namespace corvellane

@@ -2,11 +2,11 @@
 #include "platform/posix/ProcessSetup.h"
 #include "platform/posix/StreamConsole.h"
 #include "tools/AgreementReport.h"
+#include "tools/CommandLine.h"
 #include "tools/FolderTree.h"
 #include "tools/PayloadReport.h"
 #include "tools/PrintableText.h"
 #include "tools/Rehearsal.h"
-#include "tools/RehearseOptions.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -16,12 +16,39 @@ namespace {
 
 constexpr int allWell = 0;
 constexpr int notWell = 1;
-constexpr int wrongUsage = 2;
 
-int complain(const std::string& message)
+/// What the command line asks for. Paths are absolute.
+struct Options {
+    std::string productsFolder;
+    bool script = false;
+    std::optional<std::string> into;
+    /// The names of the products to tick; all of them when there is none.
+    std::vector<std::string> select;
+    std::string agreement;
+    std::string agreementText;
+};
+
+void addOptions(CLI::App& program, Options& options)
 {
-    std::fprintf(stderr, "rehearse: %s\n", message.c_str());
-    return wrongUsage;
+    program.set_help_flag("--help", "Print this and end");
+    program.add_option("PRODUCTS", options.productsFolder, "The products folder")
+        ->transform(asPath(program))
+        ->check(CLI::ExistingDirectory)
+        ->type_name("FOLDER");
+    program.add_flag("--script", options.script, "Print the script that would run, and nothing else");
+    program.add_option("--into", options.into, "Install below this folder")
+        ->transform(asPath(program))
+        ->type_name("FOLDER");
+    program.add_option("--select", options.select, "Take this product, and others only if they are named as well")
+        ->transform(asValue(program))
+        ->type_name("NAME")
+        ->allow_extra_args(false);
+    program.add_option("--agreement", options.agreement, "Print an agreement as the wizard reads it, as JSON")
+        ->transform(asValue(program))
+        ->type_name("FILE");
+    program.add_option("--agreement-text", options.agreementText, "Print the words of an agreement")
+        ->transform(asValue(program))
+        ->type_name("FILE");
 }
 
 /// Ticks the named products and no others; gives a name that no product has.
@@ -52,14 +79,14 @@ int showScript(AppSettings& settings)
     return allWell;
 }
 
-int showPayload(AppSettings& settings, const std::string& productsFolder, Console& console)
+int showPayload(AppSettings& settings, const std::string& productsFolder, const System& system)
 {
-    const auto report = reportPayload(PosixFiles(), productsFolder, settings.products.get(), settings.hostPaths());
+    const auto report = reportPayload(*system.files, productsFolder, settings.products.get(), settings.hostPaths());
     for (const std::string& line : report.lines) {
-        console.print(line);
+        system.console->print(line);
     }
     for (const PayloadWarning& warning : report.warnings) {
-        console.print("warning: " + printable(warning.path) + ": " + printable(warning.message));
+        system.console->print("warning: " + printable(warning.path) + ": " + printable(warning.message));
     }
     return report.warnings.empty() ? allWell : notWell;
 }
@@ -88,40 +115,47 @@ int install(Rehearsal& rehearsal, const std::string& into, Console& console)
     return settings.currentPage.get() == Page::summary && !withErrors ? allWell : notWell;
 }
 
-int rehearseProducts(const RehearseOptions& options)
+int rehearseProducts(const CLI::App& program, const Options& options, const System& system)
 {
-    // The script stands alone on standard output.
-    StreamConsole console(options.script ? stderr : stdout);
-    Rehearsal rehearsal(options.productsFolder, options.into.value_or(""), console);
+    const std::string into = options.into.value_or("");
+    Rehearsal rehearsal(system, options.productsFolder, into == "/" ? "" : into);
     if (const auto unknown = select(rehearsal.settings(), options.select)) {
-        return complain("there is no product " + quotedPrintable(*unknown));
+        return refuseUsage(program, "there is no product “" + *unknown + "”");
     }
     if (options.script) {
         return showScript(rehearsal.settings());
     }
     if (options.into) {
-        return install(rehearsal, *options.into, console);
+        return install(rehearsal, into, *system.console);
     }
-    return showPayload(rehearsal.settings(), options.productsFolder, console);
+    return showPayload(rehearsal.settings(), options.productsFolder, system);
 }
 
-int rehearse(const std::vector<std::string>& arguments)
+int rehearse(int count, char** arguments)
 {
-    const auto parsed = parseOptions(arguments);
-    if (const auto* error = std::get_if<UsageError>(&parsed)) {
-        return complain(error->message);
+    Options options;
+    CLI::App program("What becomes of a maker's products and agreement.", "rehearse");
+    addOptions(program, options);
+    if (const auto ending = readArguments(program, count, arguments)) {
+        return *ending;
     }
-    const auto& options = std::get<RehearseOptions>(parsed);
-    if (options.subject == RehearseOptions::Subject::usage) {
-        std::puts(rehearseUsage);
-        return allWell;
+    System system;
+    const bool isText = options.agreement.empty();
+    const std::string& agreement = isText ? options.agreementText : options.agreement;
+    if (!agreement.empty()) {
+        return program.parse_order().size() > 1
+            ? refuseUsage(program, "an agreement is shown by itself, without products and what is done with them")
+            : reportAgreement(
+                  *system.files, agreement, isText ? AgreementForm::plainText : AgreementForm::json, *system.console);
     }
-    if (options.subject == RehearseOptions::Subject::products) {
-        return rehearseProducts(options);
+    if (options.productsFolder.empty()) {
+        return refuseUsage(program, "PRODUCTS is missing; --help tells the usage");
     }
-    StreamConsole console(stdout);
-    const bool asText = options.subject == RehearseOptions::Subject::agreementText;
-    return reportAgreement(options.agreement, asText ? AgreementForm::plainText : AgreementForm::json, console);
+    if (options.script) {
+        // The script stands alone on standard output.
+        system.console = std::make_shared<StreamConsole>(stderr);
+    }
+    return rehearseProducts(program, options, system);
 }
 
 } // namespace
@@ -130,5 +164,5 @@ int rehearse(const std::vector<std::string>& arguments)
 int main(int count, char** arguments)
 {
     corvellane::setUpProcess();
-    return corvellane::rehearse({arguments + 1, arguments + count});
+    return corvellane::rehearse(count, arguments);
 }

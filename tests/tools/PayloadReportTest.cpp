@@ -3,7 +3,6 @@
 #include "platform/posix/PosixFiles.h"
 #include "tests/ScratchFolder.h"
 #include "tools/PrintableText.h"
-#include "tools/RehearseOptions.h"
 
 #include <gmock/gmock.h>
 
@@ -18,13 +17,14 @@ class PayloadReportTest : public testing::Test {
 protected:
     PayloadReport report()
     {
-        ProductSelection products;
+        std::vector<std::string> products;
         for (const auto& entry : fs::directory_iterator(scratch.path())) {
             if (entry.is_directory()) {
-                products[entry.path().native()] = true;
+                products.push_back(entry.path().native());
             }
         }
-        return reportPayload(PosixFiles(), scratch.path(), products, {"app/", "video/", "photo/", "lr/"});
+        return reportPayload(
+            PosixFiles(), scratch.path(), ProductSelection(products), {"app/", "video/", "photo/", "lr/"});
     }
 
     /// "path: message" of each warning, the path from the scratch folder on.
@@ -80,29 +80,6 @@ TEST_F(PayloadReportTest, warnsOfWhatWillNotGoAsItsMakerMeansIt)
         "e $/E.plugin/in/root: is a link that leaves its element: “/usr”",
         "photo/: is not created by the script when these products are installed together; it must be there already"};
     EXPECT_THAT(warnings(), testing::UnorderedElementsAreArray(expected));
-}
-
-TEST(RehearseOptions, areReadOrRefusedWithOneLine)
-{
-    const ScratchFolder scratch;
-    const auto parsed
-        = parseOptions({"--into", scratch.path() + "/x/../y//", "--select", "-a", "--script", "--", scratch.path()});
-    const auto& options = std::get<RehearseOptions>(parsed);
-    EXPECT_EQ(options.into, scratch.path() + "/x/../y");
-    EXPECT_EQ(options.select, std::vector<std::string>{"-a"});
-    EXPECT_TRUE(options.script);
-    EXPECT_EQ(options.productsFolder, scratch.path());
-    const auto errorOf = [](const std::vector<std::string>& arguments) {
-        const auto refused = parseOptions(arguments);
-        return std::get<UsageError>(refused).message;
-    };
-    EXPECT_EQ(errorOf({"--quick", "/"}), "unknown option “--quick”");
-    EXPECT_EQ(errorOf({"/", "--into"}), "--into needs a value");
-    EXPECT_EQ(errorOf({"/", "/usr"}), "one products folder is enough: “/usr”");
-    EXPECT_EQ(errorOf({scratch.path() + "/gone/"}), "“" + scratch.path() + "/gone” is no folder");
-    EXPECT_EQ(errorOf({"--agreement", "/a", "--into", "/b"}),
-        "an agreement is shown by itself, without products and what is done with them");
-    EXPECT_THAT(errorOf({}), testing::StartsWith("the products folder is missing; usage: rehearse "));
 }
 
 TEST(PrintableText, isOneLineOfUtf8)

@@ -1,3 +1,6 @@
+#include "platform/ScriptService.h"
+#include "platform/posix/UserAccount.h"
+#include "platform/script/DirectPrompt.h"
 #include "tests/FakePlatform.h"
 #include "tests/ScratchFolder.h"
 #include "tools/FolderTree.h"
@@ -58,11 +61,12 @@ public:
     /// The installation's message; empty when all went well.
     std::string run()
     {
-        FakeConsole console;
-        Rehearsal rehearsal(products(), into, console);
+        System system;
+        system.console = std::make_shared<FakeConsole>();
+        Rehearsal rehearsal(system, products(), into);
         rehearsal.install();
         EXPECT_EQ(rehearsal.settings().currentPage.get(), Page::summary);
-        return rehearsal.settings().logDetailsStr;
+        return *rehearsal.settings().logDetailsStr;
     }
 
     ScratchFolder scratch;
@@ -70,15 +74,18 @@ public:
     std::string into;
 };
 
+std::string outputOf(const std::string& command)
+{
+    return System().shell->run(command).value().output;
+}
+
 /// What Lua makes of the preset's path to the editor.
 std::string editorPathIn(const std::string& preset)
 {
-    PosixShell shell(realUser());
     const ScratchFolder scratch;
     fs::copy_file(preset, scratch.path() + "/preset.lua");
-    auto result = shell.run(
+    return outputOf(
         "lua5.4 -e 'dofile(\"" + scratch.path() + "/preset.lua\"); io.write(s.value.externalEditorFullPath)'");
-    return std::get<CommandResult>(result).output;
 }
 
 TEST(RealInstall, installsPhotoAndVideoElementsOfAnyName)
@@ -99,6 +106,7 @@ TEST(RealInstall, installsPhotoAndVideoElementsOfAnyName)
 
 TEST(RealInstall, installsLightroomElementsOfAnyName)
 {
+    ASSERT_NE(outputOf("command -v lua5.4"), "") << "lua5.4 is missing";
     for (const std::string& name : hostileNames()) {
         RealInstall install("Velvetgrain 3 Lightroom", name);
         ASSERT_EQ(install.run(), "") << name;
@@ -114,7 +122,7 @@ TEST(RealInstall, installsLightroomElementsOfAnyName)
 }
 
 /// Scripts of three elements, one of each kind, and what runs them with one command failing.
-class FailureTest : public testing::Test, AdministratorPrompt, FileManager {
+class FailureTest : public testing::Test {
 protected:
     FailureTest()
     {
@@ -136,8 +144,9 @@ protected:
         commandsUntilFailure = failing;
         begun.clear();
         target = into;
-        InterpretedScriptService service({shell, *this, *this, folders});
-        return service.create(script)->execute().result.value().text.value();
+        System system;
+        system.prompt = std::make_shared<script::DirectPrompt>(std::make_shared<FailingShell>(*this, system.shell));
+        return system.platform().scripts.create(script)->execute().result.value().text.value();
     }
 
     /// Paths, types and links, with one folder's name for the other's.
@@ -155,33 +164,26 @@ protected:
     }
 
     /// Runs one command without the means to open a file, so that it fails, and the others as they are.
-    struct FailingShell : Shell {
-        explicit FailingShell(FailureTest& owner)
+    struct FailingShell : script::Shell {
+        FailingShell(FailureTest& owner, std::shared_ptr<script::Shell> real)
             : test(owner)
+            , shell(std::move(real))
         {
         }
-        std::variant<CommandResult, ScriptError> run(const std::string& command) override
+        Expected<script::CommandResult> run(const std::string& command) override
         {
             test.begun.push_back(test.treeOf(test.target));
-            return test.shell.run(test.commandsUntilFailure-- == 0 ? "ulimit -n 3; " + command : command);
+            return shell->run(test.commandsUntilFailure-- == 0 ? "ulimit -n 3; " + command : command);
         }
         FailureTest& test;
+        std::shared_ptr<script::Shell> shell;
     };
 
-    std::variant<std::unique_ptr<Shell>, ScriptError> authorize() override
-    {
-        return std::make_unique<FailingShell>(*this);
-    }
-
-    bool acceptsRequests() override { return false; }
-
     ScratchFolder scratch;
-    PosixShell shell{realUser()};
     int commandsUntilFailure = -1;
     std::string target;
     /// What each command found.
     std::vector<std::vector<std::string>> begun;
-    FakeFolders folders;
 };
 
 TEST_F(FailureTest, stopsAtAnyFailingCommandAndIsHealedByASecondRun)

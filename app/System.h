@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/Platform.h"
+#include "platform/posix/WorkMeter.h"
+#include "platform/script/FileManager.h"
+#include "platform/script/Shell.h"
+
+#include <memory>
+
+namespace corvellane {
+
+/// All services of the system that the program was built for. Any of them may be exchanged before `platform` is asked
+/// for.
+struct System {
+    /// As a program without a window has them: no menu, no pasteboard, no one to open an address, and a file manager
+    /// that takes no requests.
+    System();
+
+    /// The services that stand here now. They live as long as this or a copy of it.
+    Platform platform();
+
+    std::shared_ptr<Application> application;
+    std::shared_ptr<Console> console;
+    std::shared_ptr<Files> files;
+    std::shared_ptr<StandardFolders> folders;
+    std::shared_ptr<Pasteboard> pasteboard;
+    std::shared_ptr<Resources> resources;
+    std::shared_ptr<Workspace> workspace;
+
+    /// What scripts reach where the system has no script service of its own.
+    std::shared_ptr<script::Shell> shell;
+    std::shared_ptr<script::AdministratorPrompt> prompt;
+    std::shared_ptr<script::FileManager> fileManager;
+    std::shared_ptr<WorkMeter> meter;
+
+    /// Made of the others by `platform` when there is none.
+    std::shared_ptr<ScriptService> scripts;
+    /// Goes first, because what it has still to do needs the others.
+    std::shared_ptr<Dispatcher> dispatcher;
+
+private:
+    // One file a system: SystemLinux.cpp, SystemWithScripts.cpp.
+    void addServicesOfItsOwn();
+    std::shared_ptr<ScriptService> makeScripts() const;
+};
+
+} // namespace corvellane

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include <optional>
+
+namespace corvellane {
+
+/// Refuses what is no value of an option: nothing, and an option of the program's, before which the value was
+/// forgotten. The program outlives it.
+CLI::Validator asValue(const CLI::App& program);
+
+/// The same, and makes the value an absolute path without a trailing "/". Links and ".." stay as they are: only the
+/// system knows where they lead.
+CLI::Validator asPath(const CLI::App& program);
+
+/// Reads the arguments as the program was told to. Gives the exit status when it is to end at once: 0 after the usage
+/// on standard output, 2 after one line on standard error that says what is wrong.
+std::optional<int> readArguments(CLI::App& program, int count, char** arguments);
+
+/// Says on standard error, in one line, what is wrong with the command line, and gives the exit status for that.
+int refuseUsage(const CLI::App& program, const std::string& reason);
+
+} // namespace corvellane
