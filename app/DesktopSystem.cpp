@@ -9,10 +9,11 @@
 namespace corvellane {
 
 DesktopSystem::DesktopSystem()
-    : desktop(std::make_shared<QtApplication>())
+    : qtApplication(std::make_shared<QtApplication>())
+    , qtDispatcher(std::make_shared<QtDispatcher>())
 {
-    application = desktop;
-    dispatcher = std::make_shared<QtDispatcher>();
+    application = qtApplication;
+    dispatcher = qtDispatcher;
     fileManager = std::make_shared<DBusFileManager>();
     pasteboard = std::make_shared<QtPasteboard>();
     workspace = std::make_shared<QtWorkspace>();

@@ -1,36 +1,30 @@
 #include "app/Installer.h"
 
 #include "app/AppDelegate.h"
-#include "platform/posix/DirectPrompt.h"
-#include "platform/posix/PkexecPrompt.h"
+#include "app/WaitingWindow.h"
+#include "platform/Resources.h"
+#include "platform/qt/QtApplication.h"
 
 #include <QApplication>
 
-#include <unistd.h>
-
 namespace corvellane {
-namespace {
 
-/// Root need not be asked.
-std::unique_ptr<AdministratorPrompt> makePrompt(const ExecutableBundle& bundle)
+Installer::Installer(const DesktopSystem& system, const std::string& translations)
+    : system_(system)
+    , translations_(translations, QLocale::system())
+    , scene_(system_.platform())
 {
-    if (geteuid() == 0) {
-        return std::make_unique<DirectPrompt>(realUser());
-    }
-    return std::make_unique<PkexecPrompt>(bundle.program("corvellane-command-runner"), bundle.folder("Products"));
+    AppDelegate::applicationDidFinishLaunching(*system_.application);
+    showWaits(*system_.qtDispatcher, window());
+    window().setPartDone([meter = system_.meter] { return meter->partDone(); });
+    system_.qtApplication->offerMainMenu(window(), [this] { return window().hears(); });
+    QApplication::setQuitOnLastWindowClosed(
+        AppDelegate::applicationShouldTerminateAfterLastWindowClosed(*system_.application));
 }
 
-} // namespace
-
-Installer::Installer()
-    : prompt_(makePrompt(bundle_))
-    , scripts_({shell_, *prompt_, fileManager_, folders_})
-    , translations_(bundle_.folder("translations").value_or(""), QLocale::system())
-    , scene_({application_, console_, dispatcher_, files_, pasteboard_, bundle_, scripts_, folders_, workspace_})
+Installer::Installer(const DesktopSystem& system)
+    : Installer(system, system.resources->folder("translations").value_or(""))
 {
-    AppDelegate::applicationDidFinishLaunching(application_);
-    application_.offerMainMenu(window());
-    QApplication::setQuitOnLastWindowClosed(AppDelegate::applicationShouldTerminateAfterLastWindowClosed(application_));
 }
 
 int Installer::run()

@@ -1,47 +1,27 @@
 #pragma once
 
 #include "app/CorvellaneInstallerApp.h"
-#include "platform/posix/ExecutableBundle.h"
-#include "platform/posix/PosixFiles.h"
-#include "platform/posix/PosixShell.h"
-#include "platform/posix/PosixStandardFolders.h"
-#include "platform/posix/StreamConsole.h"
-#include "platform/qt/DBusFileManager.h"
-#include "platform/qt/QtApplication.h"
-#include "platform/qt/QtDispatcher.h"
-#include "platform/qt/QtPasteboard.h"
-#include "platform/qt/QtWorkspace.h"
+#include "app/DesktopSystem.h"
 #include "platform/qt/Translations.h"
-#include "platform/script/InterpretedScriptService.h"
-
-#include <cstdio>
-#include <memory>
 
 namespace corvellane {
 
-/// The whole program: the system's real services and the scene on top of them. Needs the QApplication.
+/// The whole program: the scene on a desktop's services, with its menu and its translated texts. Needs the
+/// QApplication.
 class Installer {
 public:
-    Installer();
+    /// The tables of translated texts lie in the resource folder, or else where it is said.
+    explicit Installer(const DesktopSystem& system = {});
+    Installer(const DesktopSystem& system, const std::string& translations);
 
     /// Shows the window and returns when the program is to end, with the exit status.
     int run();
 
-    ViewHost& window() { return scene_.window(); }
+    AppSettings& settings() { return scene_.settings(); }
+    view::ViewHost& window() { return scene_.window(); }
 
 private:
-    QtApplication application_;
-    StreamConsole console_{stdout};
-    QtDispatcher dispatcher_;
-    PosixFiles files_;
-    QtPasteboard pasteboard_;
-    ExecutableBundle bundle_;
-    PosixStandardFolders folders_;
-    PosixShell shell_{realUser()};
-    std::unique_ptr<AdministratorPrompt> prompt_;
-    DBusFileManager fileManager_;
-    InterpretedScriptService scripts_;
-    QtWorkspace workspace_;
+    DesktopSystem system_;
     Translations translations_;
     CorvellaneInstallerApp scene_;
 };

@@ -39,7 +39,7 @@ struct System {
     std::shared_ptr<Dispatcher> dispatcher;
 
 private:
-    // One file a system: SystemLinux.cpp, SystemWithScripts.cpp.
+    // One file a system: SystemLinux.cpp, SystemOsascript.cpp.
     void addServicesOfItsOwn();
     std::shared_ptr<ScriptService> makeScripts() const;
 };

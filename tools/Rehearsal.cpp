@@ -39,6 +39,9 @@ void makeRehearsal(System& system, const std::string& productsFolder, const std:
     system.resources = std::make_shared<RehearsalResources>(productsFolder);
     system.folders = std::make_shared<PosixStandardFolders>(into);
     system.prompt = std::make_shared<script::DirectPrompt>(system.shell);
+    const System windowless;
+    system.workspace = windowless.workspace;
+    system.fileManager = windowless.fileManager;
 }
 
 Rehearsal::Rehearsal(const System& system, const std::string& productsFolder, const std::string& into)

@@ -9,9 +9,9 @@
 namespace corvellane {
 
 /// Gives a system what a rehearsal has of its own: the resources lie in and beside a products folder, wherever its
-/// maker keeps it, the host folders below a scratch folder, and nobody is asked for a password. What is installed
-/// really is, by the present user. Both folders are absolute paths without a trailing "/"; `into` may be empty, which
-/// leaves the host folders where the system has them.
+/// maker keeps it, the host folders below a scratch folder; nobody is asked for a password, nothing is opened, and no
+/// file manager takes requests. What is installed really is, by the present user. Both folders are absolute paths
+/// without a trailing "/"; `into` may be empty, which leaves the host folders where the system has them.
 void makeRehearsal(System& system, const std::string& productsFolder, const std::string& into);
 
 /// The installer's own state on a rehearsal's services, without a window.

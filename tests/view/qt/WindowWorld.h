@@ -2,7 +2,7 @@
 
 #include "app/CorvellaneInstallerApp.h"
 #include "tests/FakePlatform.h"
-#include "tools/WindowUser.h"
+#include "tests/tour/WindowUser.h"
 
 #include <QApplication>
 #include <QListView>
