@@ -1,10 +1,10 @@
 // Discovery, element listing and composition, each beside the least that could do the same.
 
+#include "app/System.h"
 #include "base/Observable.h"
 #include "install/InstallScript.h"
-#include "platform/posix/PosixFiles.h"
+#include "platform/Resources.h"
 #include "state/AppSettings.h"
-#include "tests/FakePlatform.h"
 
 #include <benchmark/benchmark.h>
 
@@ -16,6 +16,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <map>
 
 namespace corvellane {
 namespace {
@@ -62,14 +63,9 @@ void bareList(const std::string& folder, std::vector<std::string>& paths)
     std::sort(paths.begin() + static_cast<std::ptrdiff_t>(first), paths.end());
 }
 
-struct RealProducts : FakePlatform {
-    explicit RealProducts(const std::string& folder)
-        : located(folder)
-        , settings(std::make_shared<AppSettings>(
-              Platform{application, console, dispatcher, listing, pasteboard, located, scripts, folders, workspace}))
-    {
-    }
-
+/// The state on the real system, whose products lie in a folder of the benchmark's.
+std::shared_ptr<AppSettings> settingsOn(const std::string& folder)
+{
     struct Located : Resources {
         explicit Located(std::string folder)
             : path(std::move(folder))
@@ -79,11 +75,10 @@ struct RealProducts : FakePlatform {
         std::optional<std::string> file(const std::string&, const std::string&) const override { return std::nullopt; }
         std::string path;
     };
-
-    PosixFiles listing;
-    Located located;
-    std::shared_ptr<AppSettings> settings;
-};
+    static System system;
+    system.resources = std::make_shared<Located>(folder);
+    return std::make_shared<AppSettings>(system.platform());
+}
 
 void discoverBare(benchmark::State& state)
 {
@@ -98,9 +93,9 @@ BENCHMARK(discoverBare)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 void discover(benchmark::State& state)
 {
-    RealProducts products(productsFolder(static_cast<int>(state.range(0)), 0));
+    const auto settings = settingsOn(productsFolder(static_cast<int>(state.range(0)), 0));
     for (auto _ : state) {
-        benchmark::DoNotOptimize(products.settings->productsToInstall());
+        benchmark::DoNotOptimize(settings->productsToInstall());
     }
 }
 BENCHMARK(discover)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
@@ -122,10 +117,10 @@ BENCHMARK(listElementsBare)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond
 
 void listElements(benchmark::State& state)
 {
-    RealProducts products(productsFolder(static_cast<int>(state.range(0)), 3));
-    products.settings->refreshProducts();
+    const auto settings = settingsOn(productsFolder(static_cast<int>(state.range(0)), 3));
+    settings->refreshProducts();
     for (auto _ : state) {
-        benchmark::DoNotOptimize(products.settings->elementsToCopy());
+        benchmark::DoNotOptimize(settings->elementsToCopy());
     }
 }
 BENCHMARK(listElements)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);

@@ -6,10 +6,9 @@
 // --benchmark_enable_random_interleaving --benchmark_repetitions=12.
 
 #include "install/InstallScript.h"
+#include "platform/linux/PkexecPrompt.h"
+#include "platform/linux/ShellDialect.h"
 #include "platform/posix/ChildProcess.h"
-#include "platform/posix/PkexecPrompt.h"
-#include "platform/posix/PosixShell.h"
-#include "platform/script/ShellDialect.h"
 
 #include <benchmark/benchmark.h>
 
@@ -28,14 +27,14 @@ namespace fs = std::filesystem;
 
 std::string runnerPath;
 
-std::unique_ptr<Shell> runner()
+std::unique_ptr<script::Shell> runner()
 {
-    auto authorization = PkexecPrompt(runnerPath).authorize();
-    if (const auto* error = std::get_if<ScriptError>(&authorization)) {
-        std::cerr << error->message << '\n';
+    auto shell = PkexecPrompt(runnerPath).authorize();
+    if (!shell) {
+        std::cerr << shell.error().message << '\n';
         std::exit(1);
     }
-    return std::get<std::unique_ptr<Shell>>(std::move(authorization));
+    return *std::move(shell);
 }
 
 int runChild(const std::vector<std::string>& words)
@@ -43,7 +42,7 @@ int runChild(const std::vector<std::string>& words)
     const FileDescriptor nothing(open("/dev/null", O_RDWR | O_CLOEXEC));
     const auto child
         = startChild({words, {"PATH=/usr/bin:/bin", "USER=root"}}, {nothing.get(), nothing.get(), nothing.get()});
-    return exitStatusOf(std::get<pid_t>(child));
+    return exitStatusOf(*child);
 }
 
 /// The commands of an install script: what stands between "do shell script "" and its end, unescaped.
@@ -114,12 +113,12 @@ std::string shellScriptOf(const std::vector<std::string>& commands)
     return file;
 }
 
-void runAll(benchmark::State& state, Shell& shell, const std::vector<std::string>& commands)
+void runAll(benchmark::State& state, script::Shell& shell, const std::vector<std::string>& commands)
 {
     for (const std::string& command : commands) {
-        const auto result = shell.run(inBsdDialect(command));
-        if (std::get<CommandResult>(result).status != 0) {
-            state.SkipWithError(std::get<CommandResult>(result).errors.c_str());
+        const auto result = shell.run(command);
+        if (result->status != 0) {
+            state.SkipWithError(result->errors.c_str());
         }
     }
 }
@@ -166,17 +165,16 @@ void promptToFirstCommand(benchmark::State& state)
 }
 BENCHMARK(promptToFirstCommand)->UseRealTime()->Unit(benchmark::kMillisecond)->MinTime(2);
 
-std::string peakMemoryOf(Shell& shell)
+std::string peakMemoryOf(script::Shell& shell)
 {
-    const auto result = shell.run("sed -n 's/^VmHWM:[[:space:]]*//p' /proc/$PPID/status");
-    return std::get<CommandResult>(result).output;
+    return shell.run("sed -n 's/^VmHWM:[[:space:]]*//p' /proc/$PPID/status")->output;
 }
 
 void printPeakMemory()
 {
     const auto shell = runner();
     for (const std::string& command : sampleCommands()) {
-        benchmark::DoNotOptimize(shell->run(inBsdDialect(command)));
+        benchmark::DoNotOptimize(shell->run(command));
     }
     std::cout << "the runner's peak memory after the samples: " << peakMemoryOf(*shell);
     benchmark::DoNotOptimize(shell->run("head -c 100000000 /dev/zero; head -c 100000000 /dev/zero >&2"));

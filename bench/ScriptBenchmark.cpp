@@ -1,10 +1,9 @@
 // The script service beside bare process starts, and its parser by size.
 
-#include "platform/posix/DirectPrompt.h"
-#include "platform/script/FileManager.h"
-#include "platform/script/InterpretedScriptService.h"
+#include "app/System.h"
+#include "platform/ScriptService.h"
+#include "platform/script/DirectPrompt.h"
 #include "platform/script/Parser.h"
-#include "tests/FakePlatform.h"
 
 #include <benchmark/benchmark.h>
 
@@ -32,17 +31,11 @@ void spawnBare(benchmark::State& state)
 }
 BENCHMARK(spawnBare)->Unit(benchmark::kMillisecond)->UseRealTime()->MinTime(3);
 
-struct SilentFileManager : FileManager {
-    bool acceptsRequests() override { return false; }
-};
-
 void runScriptOfCommands(benchmark::State& state)
 {
-    PosixShell shell(realUser());
-    DirectPrompt prompt(realUser());
-    SilentFileManager fileManager;
-    const FakeFolders folders;
-    InterpretedScriptService service({shell, prompt, fileManager, folders});
+    System system;
+    system.prompt = std::make_shared<script::DirectPrompt>(system.shell);
+    ScriptService& service = system.platform().scripts;
     std::string source;
     for (int count = 0; count < commandCount; ++count) {
         source += "do shell script \"true\" with administrator privileges\n";
@@ -63,7 +56,7 @@ void parse(benchmark::State& state)
         source += line;
     }
     for (auto _ : state) {
-        benchmark::DoNotOptimize(parseScript(source));
+        benchmark::DoNotOptimize(script::parse(source));
     }
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(source.size()));
 }

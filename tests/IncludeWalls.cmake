@@ -1,6 +1,7 @@
 # Checks who includes whom: cmake -D ROOT=<source folder> -P IncludeWalls.cmake
 #
-# A folder may include itself, the folders listed for it, and headers of libraries. Qt stays at the edges.
+# A folder may include itself and the folders listed for it. Of headers from outside, those of the language stand open
+# to everybody, and any other only to the edge that is made of it.
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -26,27 +27,65 @@ set(may_include_app ${folders})
 set(may_include_helper "")
 set(may_include_tools ${folders})
 
+# What kind of header it is, and who may include that kind; the first row that fits holds.
+set(kinds qt linux mac rtf unicode failures options json posix)
+set(is_qt "^Q")
 set(may_use_qt platform/qt view/qt app tools)
+set(is_linux "^linux/|^sched.h|^sys/(epoll|eventfd|inotify|mount|prctl|sendfile|signalfd|syscall).h")
+set(may_use_linux platform/linux helper)
+set(is_mac "^mach-o/")
+set(may_use_mac app)
+set(is_rtf "^iconv.h")
+set(may_use_rtf rtf)
+set(is_unicode "^utf8proc.h")
+set(may_use_unicode products tools)
+set(is_failures "^tl/expected.hpp")
+set(may_use_failures base)
+set(is_options "^CLI/")
+set(may_use_options tools)
+set(is_json "^nlohmann/")
+set(may_use_json tools)
+set(is_posix "[./]")
+set(may_use_posix platform/posix platform/linux platform/osascript helper)
 
-function(check file folder)
-    file(STRINGS ${ROOT}/${file} lines REGEX "^#include")
-    foreach(line IN LISTS lines)
-        if(line MATCHES "^#include \"((.*)/[^/]*)\"")
-            if(NOT CMAKE_MATCH_2 STREQUAL folder AND NOT CMAKE_MATCH_1 IN_LIST may_include_${folder}
-                AND NOT CMAKE_MATCH_2 IN_LIST may_include_${folder})
-                message(SEND_ERROR "${file} must not include ${CMAKE_MATCH_1}")
+# Names that no header gives away: of Linux's file system, and of what only its C library has.
+set(linux_names "\"/proc/|_np\\(|pipe2\\(|SOCK_CLOEXEC")
+
+function(check_outside file folder header)
+    foreach(kind IN LISTS kinds)
+        if(header MATCHES "${is_${kind}}")
+            if(NOT folder IN_LIST may_use_${kind})
+                message(SEND_ERROR "${file} must not include <${header}>")
             endif()
-        elseif(line MATCHES "^#include \"")
-            message(SEND_ERROR "${file}: write includes from the source folder on: ${line}")
-        elseif(line MATCHES "^#include <Q" AND NOT folder IN_LIST may_use_qt)
-            message(SEND_ERROR "${file} must not use Qt")
+            return()
         endif()
     endforeach()
+endfunction()
+
+function(check_inside file folder header)
+    get_filename_component(from "${header}" DIRECTORY)
+    if(NOT from)
+        message(SEND_ERROR "${file}: write includes from the source folder on: ${header}")
+    elseif(NOT from STREQUAL folder AND NOT header IN_LIST may_include_${folder}
+        AND NOT from IN_LIST may_include_${folder})
+        message(SEND_ERROR "${file} must not include ${header}")
+    endif()
 endfunction()
 
 foreach(folder IN LISTS folders)
     file(GLOB files RELATIVE ${ROOT} ${ROOT}/${folder}/*.h ${ROOT}/${folder}/*.cpp)
     foreach(file IN LISTS files)
-        check(${file} ${folder})
+        file(STRINGS ${ROOT}/${file} includes REGEX "^#include")
+        foreach(line IN LISTS includes)
+            if(line MATCHES "\"(.*)\"")
+                check_inside(${file} ${folder} "${CMAKE_MATCH_1}")
+            elseif(line MATCHES "<(.*)>")
+                check_outside(${file} ${folder} "${CMAKE_MATCH_1}")
+            endif()
+        endforeach()
+        file(STRINGS ${ROOT}/${file} found REGEX "${linux_names}")
+        if(found AND NOT folder IN_LIST may_use_linux)
+            message(SEND_ERROR "${file}: only Linux has this: ${found}")
+        endif()
     endforeach()
 endforeach()

@@ -84,8 +84,8 @@ TEST_F(RunnerTest, keepsAMebibyteOfEachStreamAndWaitsForNothingInTheBackground)
 TEST_F(RunnerTest, saysWhatBecameOfACommandThatItCannotRunAndOfItself)
 {
     const auto shell = startShell();
-    EXPECT_EQ(shell->run(": " + std::string(200000, 'x'))->errors,
-        "The command could not be run: Argument list too long.\n");
+    EXPECT_EQ(
+        shell->run(": " + std::string(200000, 'x'))->errors, "The command could not be run: Argument list too long.\n");
     const auto ended = shell->run("kill -9 $PPID");
     EXPECT_EQ(ended.error().number, script::error_number::connectionInvalid);
     EXPECT_EQ(shell->run("true").error().number, script::error_number::connectionInvalid);

@@ -1,0 +1,41 @@
+#include "app/System.h"
+#include "platform/Resources.h"
+#include "platform/ScriptService.h"
+#include "tests/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <mach-o/dyld.h>
+
+namespace corvellane {
+namespace {
+
+std::string executable;
+
+/// What the system that has its own script service hands out, as far as that can be seen on another one.
+TEST(OtherSystem, runsScriptsByItsOwnServiceAndFindsItsBundle)
+{
+    const ScratchFolder scratch;
+    scratch.write("Contents/MacOS/Installer", "");
+    std::filesystem::create_symlink("Contents/MacOS/Installer", scratch.path() + "/link");
+    executable = scratch.path() + "/link";
+    System system;
+    EXPECT_EQ(system.resources->folder("Products"), scratch.path() + "/Contents/Resources/Products");
+    EXPECT_EQ(system.platform().scripts.create("return 1")->execute().errorDescription,
+        "/usr/bin/osascript could not be started");
+    executable = "/gone";
+    EXPECT_EQ(System().resources->folder("Products"), std::nullopt);
+}
+
+} // namespace
+} // namespace corvellane
+
+int _NSGetExecutablePath(char* path, std::uint32_t* size)
+{
+    const std::string& text = corvellane::executable;
+    if (text.size() >= *size) {
+        return -1;
+    }
+    path[text.copy(path, text.size())] = '\0';
+    return 0;
+}
