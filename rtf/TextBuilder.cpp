@@ -14,9 +14,9 @@ CharacterState visibleState(CharacterState state, const FontTable& fonts)
 {
     const Font& font = fonts.font(state.font);
     state.font = static_cast<std::int32_t>(font.family);
-    state[CharacterFlag::bold] |= static_cast<std::uint8_t>(font.bold);
-    state[CharacterFlag::italic] |= static_cast<std::uint8_t>(font.italic);
-    state[CharacterFlag::hidden] = 0;
+    state.bold = state.bold || font.bold;
+    state.italic = state.italic || font.italic;
+    state.hidden = false;
     return state;
 }
 

@@ -1,6 +1,6 @@
 #include "agreement/Document.h"
 #include "platform/posix/PosixFiles.h"
-#include "rtf/RtfReader.h"
+#include "rtf/Reader.h"
 #include "tests/FakePlatform.h"
 #include "tests/ScratchFolder.h"
 #include "tools/AgreementReport.h"
@@ -97,10 +97,10 @@ TEST_F(DocumentTest, forgivesWhatStandsAroundTheOuterGroup)
         }
     }
     for (const std::string_view wrong : {"\\rtf1 a", "{rtf1 a}", "{ \\rtf1 a}", "{\\rt", "x{\\rtf1 a}"}) {
-        EXPECT_EQ(rtf::readRtf(wrong).error(), rtf::RtfFailure::notRtf) << wrong;
+        EXPECT_EQ(rtf::read(wrong).error(), rtf::ReadFailure::notRtf) << wrong;
     }
     for (const std::string_view open : {"{\\rtf", "{\\rtf1 a\\", "{\\rtf1 a\\'", "{\\rtf1\\bin5 }}", "{\\rtf1 a\\}"}) {
-        EXPECT_EQ(rtf::readRtf(open).error(), rtf::RtfFailure::incomplete) << open;
+        EXPECT_EQ(rtf::read(open).error(), rtf::ReadFailure::incomplete) << open;
     }
 }
 

@@ -1,4 +1,4 @@
-#include "rtf/RtfReader.h"
+#include "rtf/Reader.h"
 
 #include <gtest/gtest.h>
 
@@ -9,15 +9,15 @@ namespace corvellane::rtf {
 namespace {
 
 /// The text of RTF whose outer group holds `body`.
-AttributedText read(const std::string& body)
+AttributedText readBody(const std::string& body)
 {
-    return readRtf("{\\rtf1\\ansi" + body + "}").value();
+    return read("{\\rtf1\\ansi" + body + "}").value();
 }
 
 /// How the one run of text looks that `body` gives.
 TextAttributes look(const std::string& body)
 {
-    const AttributedText text = read(body);
+    const AttributedText text = readBody(body);
     EXPECT_EQ(text.runs.size(), 1U) << body;
     return text.attributes.at(text.runs.at(0).attributes);
 }
@@ -25,13 +25,13 @@ TextAttributes look(const std::string& body)
 /// How the last paragraph is laid out.
 ParagraphFormat format(const std::string& body)
 {
-    const AttributedText text = read(body);
+    const AttributedText text = readBody(body);
     return text.formats.at(text.paragraphs.back().format);
 }
 
 std::string family(const std::string& body)
 {
-    const AttributedText text = read(body);
+    const AttributedText text = readBody(body);
     return text.families.at(text.attributes.at(text.runs.at(0).attributes).family);
 }
 
@@ -44,7 +44,7 @@ TEST(RtfFormat, takesABoldFaceApartFromBold)
     EXPECT_FALSE(look(fonts + "\\f0\\b\\f1\\b0 x").bold);
     EXPECT_TRUE(look(fonts + "\\f2\\i0\\b x").italic);
     EXPECT_EQ(family(fonts + "\\f0 x"), "Helvetica");
-    EXPECT_EQ(read(fonts + "\\f0 a\\f1\\b b\\f0\\b0 c").runs.size(), 1U);
+    EXPECT_EQ(readBody(fonts + "\\f0 a\\f1\\b b\\f0\\b0 c").runs.size(), 1U);
 }
 
 TEST(RtfFormat, namesTheFontAsItsAuthorKnowsIt)
@@ -136,7 +136,7 @@ TEST(RtfFormat, chainsTabStopsAndBoundsTheirNumber)
     for (int position = 1; position <= 100; ++position) {
         many += "\\tx" + std::to_string(position * 20);
     }
-    const AttributedText text = read(many + " a\\par{\\pard\\tqr\\tx40 b\\par}\\pard\\tx20\\tx40 c");
+    const AttributedText text = readBody(many + " a\\par{\\pard\\tqr\\tx40 b\\par}\\pard\\tx20\\tx40 c");
     const auto first = text.tabsOf(text.formats.at(text.paragraphs.at(0).format));
     ASSERT_EQ(first.size(), 64U);
     EXPECT_EQ(first.front().position, 1);
@@ -168,13 +168,13 @@ TEST(RtfFormat, leadsALinkWhereItsFieldSays)
         {"", ""},
     };
     for (const auto& [instruction, target] : rows) {
-        const AttributedText text = read("{\\field{\\*\\fldinst " + instruction + "}{\\fldrslt x}}");
+        const AttributedText text = readBody("{\\field{\\*\\fldinst " + instruction + "}{\\fldrslt x}}");
         EXPECT_EQ(text.links, target.empty() ? std::vector<std::string>{} : std::vector{target}) << instruction;
         EXPECT_EQ(text.text, "x") << instruction;
         EXPECT_EQ(text.attributes.at(text.runs.at(0).attributes).link.has_value(), !target.empty()) << instruction;
     }
     const AttributedText after
-        = read("{\\field{\\*\\fldinst HYPERLINK \"a\"}{\\fldrslt \\plain x}}y{\\*\\fldinst HYPERLINK \"b\"}z");
+        = readBody("{\\field{\\*\\fldinst HYPERLINK \"a\"}{\\fldrslt \\plain x}}y{\\*\\fldinst HYPERLINK \"b\"}z");
     ASSERT_EQ(after.runs.size(), 2U);
     EXPECT_EQ(after.textOf(after.runs[1]), "yz");
     EXPECT_FALSE(after.attributes.at(after.runs[1].attributes).link.has_value());

@@ -1,4 +1,4 @@
-#include "rtf/RtfLexer.h"
+#include "rtf/Lexer.h"
 #include "rtf/ByteScan.h"
 
 #include <gtest/gtest.h>
@@ -10,23 +10,23 @@
 namespace corvellane::rtf {
 namespace {
 
-std::string printed(const RtfToken& token)
+std::string printed(const Token& token)
 {
     const auto with = [&](const char* before) { return std::string(before).append(token.text); };
     switch (token.kind) {
-    case RtfToken::Kind::end:
+    case Token::Kind::end:
         return "end";
-    case RtfToken::Kind::open:
+    case Token::Kind::open:
         return "{";
-    case RtfToken::Kind::close:
+    case Token::Kind::close:
         return "}";
-    case RtfToken::Kind::word:
+    case Token::Kind::word:
         return token.hasParameter ? with("\\").append(1, '=').append(std::to_string(token.parameter)) : with("\\");
-    case RtfToken::Kind::symbol:
+    case Token::Kind::symbol:
         return token.text == "\n" ? "\\end-of-line" : with("\\");
-    case RtfToken::Kind::bytes:
+    case Token::Kind::bytes:
         return with("hex ");
-    case RtfToken::Kind::text:
+    case Token::Kind::text:
         return with(token.ascii ? "ascii " : "bytes ");
     }
     return "?";
@@ -34,15 +34,15 @@ std::string printed(const RtfToken& token)
 
 std::string tokens(std::string_view rtf)
 {
-    RtfLexer lexer(rtf);
+    Lexer lexer(rtf);
     std::string all;
-    for (const RtfToken* token = &lexer.next(); token->kind != RtfToken::Kind::end; token = &lexer.next()) {
+    for (const Token* token = &lexer.next(); token->kind != Token::Kind::end; token = &lexer.next()) {
         all.append(all.empty() ? "" : "|").append(printed(*token));
     }
     return all;
 }
 
-TEST(RtfLexer, cutsRtfIntoTokens)
+TEST(Lexer, cutsRtfIntoTokens)
 {
     const std::vector<std::pair<std::string, std::string>> rows = {
         {"", ""},
@@ -84,7 +84,7 @@ TEST(RtfLexer, cutsRtfIntoTokens)
     }
 }
 
-TEST(RtfLexer, keepsTheLow32BitsOfANumber)
+TEST(Lexer, keepsTheLow32BitsOfANumber)
 {
     const std::vector<std::pair<std::string, std::string>> rows = {
         {"2147483647", "2147483647"},
@@ -103,7 +103,7 @@ TEST(RtfLexer, keepsTheLow32BitsOfANumber)
     }
 }
 
-TEST(RtfLexer, tellsATrailByteFromAControl)
+TEST(Lexer, tellsATrailByteFromAControl)
 {
     const std::vector<std::pair<std::string, int>> rows = {
         {"", -1},
@@ -121,7 +121,7 @@ TEST(RtfLexer, tellsATrailByteFromAControl)
         {"\\}", '\\'},
     };
     for (const auto& [rest, expected] : rows) {
-        EXPECT_EQ(RtfLexer(rest).peekTrailByte(), expected) << rest;
+        EXPECT_EQ(Lexer(rest).peekTrailByte(), expected) << rest;
     }
 }
 

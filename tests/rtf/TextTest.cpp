@@ -1,4 +1,4 @@
-#include "rtf/RtfReader.h"
+#include "rtf/Reader.h"
 #include "tools/AgreementReport.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ namespace {
 /// The plain text of RTF whose outer group holds `body`; the reader's failure as a number where there is one.
 std::string plainText(const std::string& body)
 {
-    const auto result = readRtf("{\\rtf1" + body + "}");
+    const auto result = read("{\\rtf1" + body + "}");
     return result ? agreementPlainText(*result) : "failure " + std::to_string(static_cast<int>(result.error()));
 }
 
