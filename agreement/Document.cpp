@@ -15,7 +15,7 @@ namespace {
 Failure asFailure(const std::string& path, rtf::ReadFailure reason)
 {
     const char* const why = reason == rtf::ReadFailure::incomplete ? " because it isn’t in the correct format" : "";
-    return {"The file “" + std::string(lastPathComponent(path)) + "” couldn’t be opened" + why + ".", 0};
+    return {.message = "The file “" + std::string(lastPathComponent(path)) + "” couldn’t be opened" + why + "."};
 }
 
 } // namespace
@@ -37,14 +37,12 @@ Document::Document(const Resources& resources, const Files& files, Console& cons
 void Document::load(const std::string& file)
 {
     const auto path = resources_.file(file, "rtf");
-    if (!path) {
-        return console_.print("File not found");
+    auto text = path ? readAgreement(files_, *path) : Unexpected({.message = "File not found"});
+    if (text) {
+        data.set(*std::move(text));
+    } else {
+        console_.print(text.error().message);
     }
-    auto text = readAgreement(files_, *path);
-    if (!text) {
-        return console_.print(text.error().message);
-    }
-    data.set(*std::move(text));
 }
 
 } // namespace corvellane

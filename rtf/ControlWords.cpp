@@ -119,7 +119,7 @@ constexpr auto rows = std::to_array<ControlWord>({
 constexpr std::size_t wordCount = [] {
     std::size_t count = rows.size();
     for (const ControlWord& row : rows) {
-        count += static_cast<std::size_t>(std::count(row.name.begin(), row.name.end(), ' '));
+        count += static_cast<std::size_t>(std::ranges::count(row.name, ' '));
     }
     return count;
 }();
@@ -175,7 +175,7 @@ constexpr const ControlWord* find(std::string_view name)
     return nullptr;
 }
 
-static_assert(std::all_of(words.begin(), words.end(), [](auto& word) { return find(word.name) == &word; }));
+static_assert(std::ranges::all_of(words, [](auto& word) { return find(word.name) == &word; }));
 
 } // namespace
 

@@ -80,8 +80,7 @@ constexpr auto charsetMarks = std::to_array<std::string_view>({
 
 std::string_view familyOf(std::string_view postScript)
 {
-    const auto* const found
-        = std::find_if(familyNames.begin(), familyNames.end(), [&](auto& row) { return row.postScript == postScript; });
+    const auto* const found = std::ranges::find(familyNames, postScript, &FamilyName::postScript);
     return found == familyNames.end() ? postScript : found->family;
 }
 

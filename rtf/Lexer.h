@@ -29,7 +29,7 @@ struct Token {
     bool hasParameter = false;
     /// 0 where there is none.
     std::int32_t parameter = 0;
-    std::string_view text{};
+    std::string_view text;
 
     std::int32_t parameterOr(std::int32_t absent) const { return hasParameter ? parameter : absent; }
 };

@@ -147,7 +147,7 @@ void Interpreter::onText(const Token& token)
     std::string_view bytes = withoutFallback(token.text);
     const Destination to = writer_.group().destination;
     if (to == Destination::colorTable) {
-        for (auto entries = std::count(bytes.begin(), bytes.end(), ';'); entries > 0; --entries) {
+        for (auto entries = std::ranges::count(bytes, ';'); entries > 0; --entries) {
             writer_.colors.finishEntry();
         }
         return;

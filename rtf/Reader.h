@@ -4,12 +4,13 @@
 #include "rtf/AttributedText.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace corvellane::rtf {
 
 /// Why bytes are no RTF.
-enum class ReadFailure {
+enum class ReadFailure : std::uint8_t {
     /// They do not begin as RTF does, or are more than the reader takes.
     notRtf,
     /// The outer group never closes.

@@ -92,7 +92,7 @@ AttributedText TextBuilder::take(const FontTable& fonts)
 {
     const auto convert = [](const auto& states, auto& values, auto conversion) {
         values.reserve(states.size());
-        std::transform(states.begin(), states.end(), std::back_inserter(values), conversion);
+        std::ranges::transform(states, std::back_inserter(values), conversion);
     };
     convert(attributes_.values(), result_.attributes, textAttributes);
     convert(paragraphs_.values(), result_.formats, paragraphFormat);
