@@ -175,10 +175,10 @@ TEST_F(WindowWorld, readsTheOutcomeOut)
 
 TEST_F(WindowWorld, showsNamesAndLogsAsTheyStand)
 {
-    settings().products.set({{"/p/<b>Bold & Co", true}});
+    settings().products.set(ProductSelection({"/p/<b>Bold & Co"}));
     goTo(Page::products);
     EXPECT_EQ(user().list()->model()->index(0, 0).data(), "<b>Bold & Co");
-    settings().logDetailsStr = "<b>not bold</b>\n<img src=\"/etc/passwd\"> & more";
+    settings().logDetailsStr = std::string("<b>not bold</b>\n<img src=\"/etc/passwd\"> & more");
     goTo(Page::summary);
     show(settings().showLogDetailsWindow, true);
     auto* const log = named<LogView>("Details");
