@@ -30,6 +30,22 @@ void expectTexts(const std::vector<Row>& rows)
     }
 }
 
+TEST(RtfText, forgivesWhatStandsAroundTheOuterGroup)
+{
+    for (const std::string before : {"", " \r\n\t", "\xEF\xBB\xBF", "\xEF\xBB\xBF\n", " \xEF\xBB\xBF "}) {
+        for (const std::string_view after : {"", "\n", "}", "{\\b", "\x01"}) {
+            const auto text = read(std::string(before).append("{\\rtf1 a}").append(after));
+            EXPECT_EQ(agreementPlainText(text.value()), "a\n") << before << after;
+        }
+    }
+    for (const std::string_view wrong : {"", "\\rtf1 a", "{rtf1 a}", "{ \\rtf1 a}", "{\\rt", "x{\\rtf1 a}"}) {
+        EXPECT_EQ(read(wrong).error(), ReadFailure::notRtf) << wrong;
+    }
+    for (const std::string_view open : {"{\\rtf", "{\\rtf1 a\\", "{\\rtf1 a\\'", "{\\rtf1\\bin5 }}", "{\\rtf1 a\\}"}) {
+        EXPECT_EQ(read(open).error(), ReadFailure::incomplete) << open;
+    }
+}
+
 TEST(RtfText, endsParagraphsAndLines)
 {
     expectTexts({
