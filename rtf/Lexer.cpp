@@ -151,11 +151,7 @@ void Lexer::skipBinary()
 void Lexer::lexSymbol()
 {
     token_.kind = Token::Kind::symbol;
-    token_.text = bytes_.substr(position_, 1);
-    if (at(0, '\r')) {
-        position_ += at(1, '\n') ? 1 : 0;
-        token_.text = "\n";
-    }
+    token_.text = at(0, '\r') ? "\n" : bytes_.substr(position_, 1);
     ++position_;
 }
 

@@ -41,7 +41,6 @@ public:
 private:
     void carryOut(const Token& token, bool beginsGroup);
     void onWord(const Token& token);
-    void act(Action action, const Token& token);
     void onSymbol(const Token& token);
     void onText(const Token& token);
     std::string_view withoutFallback(std::string_view bytes);
@@ -108,20 +107,13 @@ void Interpreter::onWord(const Token& token)
     writer_.breakBytes();
     if (word != nullptr && word->character == 0) {
         writer_.fallback = 0;
-        act(word->action, token);
+        if (word->action != nullptr && writer_.group().destination != Destination::skipped) {
+            word->action(writer_, token);
+        }
     } else if (writer_.fallback > 0) {
         --writer_.fallback;
     } else if (word != nullptr) {
         writer_.put(word->character);
-    }
-}
-
-void Interpreter::act(Action action, const Token& token)
-{
-    const Destination to = writer_.group().destination;
-    const bool skips = to == Destination::skipped || to == Destination::alternative;
-    if (action != nullptr && (!skips || action == actions::unicodeAlternative)) {
-        action(writer_, token);
     }
 }
 

@@ -27,7 +27,6 @@ inline void fieldInstruction(Writer& writer, const Token&)
     }
 }
 
-/// Carried out where text is skipped for its alternative, too.
 inline void unicodeAlternative(Writer& writer, const Token&)
 {
     if (writer.group().destination == Destination::alternative) {

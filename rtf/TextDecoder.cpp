@@ -100,7 +100,6 @@ bool TextDecoder::completesCharacter(char byte, CodePage& page, const std::strin
 
 void TextDecoder::appendUnit(char32_t code, std::string& out)
 {
-    leadLength_ = 0;
     const char32_t high = highSurrogate_;
     highSurrogate_ = 0;
     if (code >= 0xD800 && code <= 0xDBFF) {

@@ -31,11 +31,8 @@ void Writer::closeGroup()
 {
     decoder_.breakBytes();
     fallback = 0;
-    if (groups_.depth() == 1) {
-        endedCells = 0;
-        if (!paragraphIsEmpty()) {
-            endParagraph();
-        }
+    if (groups_.depth() == 1 && !paragraphIsEmpty()) {
+        endParagraph();
     }
     const Destination left = group_.destination;
     if (left == Destination::fontTable) {

@@ -82,6 +82,11 @@ TEST(Lexer, cutsRtfIntoTokens)
     for (const auto& [rtf, expected] : rows) {
         EXPECT_EQ(tokens(rtf), expected) << rtf;
     }
+    std::string many;
+    for (int count = 0; count < 300; ++count) {
+        many += "\\'41";
+    }
+    EXPECT_EQ(tokens(many), "hex " + std::string(256, 'A') + "|hex " + std::string(44, 'A'));
 }
 
 TEST(Lexer, keepsTheLow32BitsOfANumber)

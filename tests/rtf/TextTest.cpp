@@ -97,6 +97,9 @@ TEST(RtfText, decodesAFontsOwnCharacterSet)
         {"\\fcharset204 A;}\\f3\\'e9", "\u0439\n"},
         {"\\fcharset0\\cpg1251 A;}\\f3\\'e9", "\u0439\n"},
         {"\\fcharset204 A;}{\\f3\\'e9}\\'e9", "\u0439\u00E9\n"},
+        {"\\fcharset204\\cpg77777 A;}\\f3\\'e9", "\u0439\n"},
+        {"\\fcharset204\\cpg1251 A;\\f4 B;}\\f4\\'e9", "\u00E9\n"},
+        {"\\fcharset204 A\\f4 B;}\\f3\\'e9", "\u0439\n"},
         {"\\fcharset2 Symbol;}\\f3\\'b7a\\u-3913?", "\u2022\u03B1\u2022\n"},
         {"\\fcharset2 Wingdings;}\\f3\\'a7\\'d8\\'fclnq\\u-3929?", "\u25AA\u27A2\u2713\u25CF\u25A0\u2751\u25AA\n"},
     };
@@ -123,6 +126,8 @@ TEST(RtfText, joinsTheBytesOfMultiByteCharactersHoweverTheyAreWritten)
         {"\\'82{\\'a0}{\\'82}\\'a0", "\uFFFD\uFFFD\uFFFD\uFFFD\n"},
         {"\\'82\\par x\\'82", "\uFFFD\nx\uFFFD\n"},
         {"{\\info{\\title \x95\x5C\x83\x7D}}a", "a\n"},
+        {"{\\info \x83\nb{c}}a", "a\n"},
+        {"\\uc0\\u55357\\'82\\u56832", "\uFFFD\uFFFD\uFFFD\n"},
     };
     for (const Row& row : japanese) {
         EXPECT_EQ(plainText("\\ansi{\\fonttbl{\\f0\\fcharset128 A;}}\\f0 " + row.body), row.text) << row.body;
@@ -144,7 +149,9 @@ TEST(RtfText, readsUnicodeAndPassesItsFallback)
         {"\\u8226\\foo x", "\u2022x\n"},
         {"\\u8226{\\'95 more}x", "\u2022x\n"},
         {"\\u8226\\~x\\u8226\\{x", "\u2022x\u2022x\n"},
-        {"\\u8226\\par x", "\u2022\nx\n"},
+        {"\\u8226\\par x\\u8226\\\nx", "\u2022\nx\u2022\nx\n"},
+        {"\\uc3\\uc\\u8226 ax", "\u2022x\n"},
+        {"\\u1114177 ?x", "Ax\n"},
         {"\\u8226\\bin3 }}}x", "\u2022x\n"},
         {"{\\u8226}x", "\u2022x\n"},
         {"{\\uc0{\\u8226 a}\\u8226 b}\\u8226 cd", "\u2022a\u2022b\u2022d\n"},
@@ -200,6 +207,8 @@ TEST(RtfText, putsATablesRowOnALine)
             "i\tj\no\ne\n"},
         {"\\pard\\intbl a\\cell\\pard b", "a\tb\n"},
         {"\\intbl a\\cell b\\cell", "a\tb\n"},
+        {"\\intbl a\\cell\\pard\\par b\\par\\itap-1 c\\par d", "a\nb\nc\nd\n"},
+        {"\\itap2 i\\nestcell\\nestrow n\\cell o\\cell\\row\\nestrow\\pard\\par\\intbl\\cell p", "i\nn\to\n\n\n\tp\n"},
     });
 }
 
