@@ -171,6 +171,7 @@ TEST(RtfFormat, leadsALinkWhereItsFieldSays)
         {"HYPERLINK \"C:\\\\\\\\a\\\\\"b\\\\\"\"", "C:\\a\"b\""},
         {"HYPERLINK \"http://a/\\u252 ?\"", "http://a/\u00FC"},
         {"HYPERLINK \"http://a", "http://a"},
+        {R"(HYPERLINK "\\\\\\\\a")", R"(\\a)"},
         {"HYPERLINK", ""},
         {"HYPERLINKS \"http://a\"", ""},
         {"PAGEREF \"http://a\"", ""},

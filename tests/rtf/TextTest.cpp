@@ -133,6 +133,7 @@ TEST(RtfText, joinsTheBytesOfMultiByteCharactersHoweverTheyAreWritten)
         EXPECT_EQ(plainText("\\ansi{\\fonttbl{\\f0\\fcharset128 A;}}\\f0 " + row.body), row.text) << row.body;
     }
     EXPECT_EQ(plainText("{\\fonttbl\\f0\\fcharset136 A;}\\f0\\'a4\\'a4\xA5\x5C"), "\u4E2D\u529F\n");
+    EXPECT_EQ(plainText("\\ansicpg932" + std::string(999, '\xB1')).size(), 999 * 3 + 1);
     EXPECT_EQ(plainText("\\ansicpg932{\\info \x95\x5C\x83\x7D}a"), "a\n");
 }
 
@@ -183,6 +184,7 @@ TEST(RtfText, keepsOutWhatIsNoText)
         {"{\\header h\\par}{\\footerr f}{\\headerf{\\b x}}a{\\footnote\\pard n\\par}b", "ab\n"},
         {"{\\*\\unknown a{b\\par{c}}d}e{\\* f}g", "eg\n"},
         {"{\\*\n\\unknown a}{ \\*\\unknown b}c", " bc\n"},
+        {"{\\*\\unknown\\ansicpg1251}{\\fonttbl{\\*\\ud b}}\\'e9", "\u00E9\n"},
         {"{\\pict\\wmetafile8 0102{\\*\\blipuid 03}04}{\\*\\shppict{\\pict 05}}{\\nonshppict{\\pict 06}}a", "a\n"},
         {"{\\pict\\bin5 {{}}}}a\\bin-4 b{\\pict\\bin4294967297 \x02}c", "abc\n"},
         {"{\\upr{ansi}{\\*\\ud{unic\\u246?de}}}.", "unic\u00F6de.\n"},
