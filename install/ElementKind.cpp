@@ -20,8 +20,7 @@ bool contains(std::string_view text, std::string_view word)
 
 ElementKind kindOf(std::string_view elementPath)
 {
-    return *std::find_if(
-        kinds.begin(), kinds.end(), [&](auto kind) { return contains(elementPath, traitsOf(kind).word); });
+    return *std::ranges::find_if(kinds, [&](auto kind) { return contains(elementPath, traitsOf(kind).word); });
 }
 
 LightroomGeneration generationOf(std::string_view elementPath)

@@ -17,7 +17,7 @@ public:
 
     std::string apply(std::string text) const
     {
-        if (std::all_of(text.begin(), text.end(), [&](char byte) { return replacementOf(byte).empty(); })) {
+        if (std::ranges::all_of(text, [&](char byte) { return replacementOf(byte).empty(); })) {
             return text;
         }
         std::string escaped;

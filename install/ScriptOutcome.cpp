@@ -7,11 +7,8 @@ std::optional<std::string> resultText(const ScriptExecution& execution)
     return execution.result ? execution.result->text : std::nullopt;
 }
 
-ScriptOutcome outcomeOf(const std::optional<std::string>& resultText)
+ScriptOutcome outcomeOf(const std::string& resultText)
 {
-    if (!resultText) {
-        return ScriptOutcome::unknown;
-    }
     if (resultText == "User canceled.") {
         return ScriptOutcome::canceled;
     }

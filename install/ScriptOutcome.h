@@ -9,8 +9,6 @@ namespace corvellane {
 
 /// What an installation's script has come to.
 enum class ScriptOutcome {
-    /// There is no result text to go by.
-    unknown,
     /// The person at the screen declined.
     canceled,
     succeeded,
@@ -21,6 +19,6 @@ enum class ScriptOutcome {
 std::optional<std::string> resultText(const ScriptExecution& execution);
 
 /// Decided by the whole result text: "Ok", "User canceled." or, for anything else, the failure's message.
-ScriptOutcome outcomeOf(const std::optional<std::string>& resultText);
+ScriptOutcome outcomeOf(const std::string& resultText);
 
 } // namespace corvellane

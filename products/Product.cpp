@@ -2,6 +2,21 @@
 
 namespace corvellane {
 
+std::string Product::applications() const
+{
+    return firstFolder(applications_, SearchDirectory::applications, SearchDomain::local);
+}
+
+std::string Product::applicationSupport() const
+{
+    return firstFolder(applicationSupport_, SearchDirectory::applicationSupport, SearchDomain::local);
+}
+
+std::string Product::userApplicationSupport() const
+{
+    return firstFolder(userApplicationSupport_, SearchDirectory::applicationSupport, SearchDomain::user);
+}
+
 std::string Product::appCorvellane() const
 {
     return applications() + "/Corvellane/";
@@ -22,13 +37,13 @@ std::string Product::userAppSuppLR() const
     return userApplicationSupport() + "/Adobe/Lightroom/";
 }
 
-const std::string& Product::path(BaseFolder& base) const
+std::string Product::firstFolder(LookUp& lookUp, SearchDirectory directory, SearchDomain domain) const
 {
-    std::call_once(base.asked, [&] {
-        const auto paths = folders_.searchPaths(base.directory, base.domain);
-        base.path = paths.empty() ? "" : paths.front();
+    std::call_once(lookUp.once, [&] {
+        const auto folders = folders_.searchPaths(directory, domain);
+        lookUp.folder = folders.empty() ? "" : folders.front();
     });
-    return base.path;
+    return lookUp.folder;
 }
 
 } // namespace corvellane

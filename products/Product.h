@@ -18,9 +18,9 @@ public:
     {
     }
 
-    std::string applications() const { return path(applications_); }
-    std::string applicationSupport() const { return path(applicationSupport_); }
-    std::string userApplicationSupport() const { return path(userApplicationSupport_); }
+    std::string applications() const;
+    std::string applicationSupport() const;
+    std::string userApplicationSupport() const;
 
     /// The maker's own folder, which receives every installed element.
     std::string appCorvellane() const;
@@ -32,19 +32,17 @@ public:
     std::string userAppSuppLR() const;
 
 private:
-    struct BaseFolder {
-        SearchDirectory directory;
-        SearchDomain domain;
-        std::once_flag asked{};
-        std::string path{};
+    struct LookUp {
+        std::once_flag once;
+        std::string folder;
     };
 
-    const std::string& path(BaseFolder& base) const;
+    std::string firstFolder(LookUp& lookUp, SearchDirectory directory, SearchDomain domain) const;
 
     const StandardFolders& folders_;
-    mutable BaseFolder applications_{SearchDirectory::applications, SearchDomain::local};
-    mutable BaseFolder applicationSupport_{SearchDirectory::applicationSupport, SearchDomain::local};
-    mutable BaseFolder userApplicationSupport_{SearchDirectory::applicationSupport, SearchDomain::user};
+    mutable LookUp applications_;
+    mutable LookUp applicationSupport_;
+    mutable LookUp userApplicationSupport_;
 };
 
 } // namespace corvellane

@@ -174,8 +174,10 @@ void AppSettings::applyOutcome(const ScriptExecution& execution)
         completedWithErrors.set(true);
     }
     const std::optional<std::string> text = resultText(execution);
-    switch (outcomeOf(text)) {
-    case ScriptOutcome::unknown:
+    if (!text) {
+        return;
+    }
+    switch (outcomeOf(*text)) {
     case ScriptOutcome::canceled:
         return;
     case ScriptOutcome::failed:
