@@ -112,14 +112,14 @@ TEST_F(WindowWorld, togglesARowWhereItIs)
     };
     EXPECT_EQ(click(18), Qt::Unchecked) << "on the symbol";
     EXPECT_EQ(list->verticalScrollBar()->value(), 200);
-    EXPECT_EQ(click(60), Qt::Checked) << "on the name";
-    EXPECT_EQ(click(list->width() - 30), Qt::Checked) << "beside the name";
     const QSignalSpy told(list->model(), &QAbstractItemModel::dataChanged);
+    EXPECT_EQ(click(60), Qt::Checked) << "on the name";
+    ASSERT_EQ(told.size(), 1) << "no more than the row that has changed";
+    EXPECT_EQ(told[0][0].toModelIndex(), row);
+    EXPECT_EQ(click(list->width() - 30), Qt::Checked) << "beside the name";
     QTest::mouseDClick(window().windowHandle(), Qt::LeftButton, {}, at(60));
     settle();
     EXPECT_EQ(row.data(Qt::CheckStateRole).toInt(), Qt::Checked) << "the second of two quick clicks";
-    ASSERT_EQ(told.size(), 2) << "no more than the row that has changed";
-    EXPECT_EQ(told[1][0].toModelIndex(), row);
     list->setFocus();
     list->setCurrentIndex(row);
     QTest::keyClick(window().windowHandle(), Qt::Key_Space);
