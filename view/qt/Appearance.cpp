@@ -61,9 +61,11 @@ QColor colorOf(Tint tint)
         return QColor::fromRgb(0xffd8d8d8);
     case Tint::windowBackground:
         return {241, 241, 241};
-    default:
-        return QColor::fromRgb(0xff000000);
+    case Tint::black:
+    case Tint::label:
+        break;
     }
+    return QColor::fromRgb(0xff000000);
 }
 
 QPalette lightPalette()
