@@ -167,7 +167,7 @@ char32_t CodePage::convertPair(char lead, char trail)
     pairs_.resize(std::size_t{256} * 256);
     const std::array bytes{lead, trail};
     const char32_t code = convert({bytes.data(), bytes.size()});
-    pairs_[static_cast<unsigned char>(lead) * 256U + static_cast<unsigned char>(trail)] = code;
+    pairs_[(static_cast<unsigned char>(lead) * 256U) + static_cast<unsigned char>(trail)] = code;
     return code;
 }
 

@@ -163,7 +163,7 @@ int Lexer::hexByteAt(std::size_t position) const
     }
     const int high = hexDigit(bytes_[position]);
     const int low = hexDigit(bytes_[position + 1]);
-    return high < 0 || low < 0 ? -1 : high * 16 + low;
+    return high < 0 || low < 0 ? -1 : (high * 16) + low;
 }
 
 /// Stands on the apostrophe. Of a byte without its digits nothing is left, not even a single digit.
