@@ -45,19 +45,16 @@ std::vector<std::string> enabledButtons(const ProductSelection& products)
 
 TEST(PageFlow, enablesTheButtonsByPageAndSelection)
 {
-    ProductSelection products;
-    EXPECT_THAT(enabledButtons(products),
-        ElementsAre(
-            "intro forward", "license back forward", "products back", "install back forward", "summary forward"));
-    products = ProductSelection({"/a", "/b"});
-    products.toggle("/a");
-    EXPECT_THAT(enabledButtons(products),
-        ElementsAre("intro forward", "license back forward", "products back forward all", "install back forward",
-            "summary forward"));
-    products.toggle("/b");
-    EXPECT_THAT(enabledButtons(products),
-        ElementsAre(
-            "intro forward", "license back forward", "products back all", "install back forward", "summary forward"));
+    ProductSelection unticked({"/a"});
+    unticked.toggle("/a");
+    ProductSelection ticked({"/a", "/b"});
+    ticked.toggle("/a");
+    const std::vector<std::pair<ProductSelection, std::string>> rows{
+        {{}, "products back"}, {unticked, "products back all"}, {ticked, "products back forward all"}};
+    for (const auto& [products, row] : rows) {
+        EXPECT_THAT(enabledButtons(products),
+            ElementsAre("intro forward", "license back forward", row, "install back forward", "summary forward"));
+    }
 }
 
 TEST(PageFlow, showsTheFirstAlertWhoseConditionHolds)

@@ -80,8 +80,8 @@ TEST_F(AlertViewTest, waitsForTheAutomationPermission)
             "To make changes with Installer please allow Finder access from Settings", "[Close]", "[Open settings]"));
     EXPECT_EQ(allOf<Button>(alert())[1].symbol, "gear");
     EXPECT_TRUE(press(alert(), "Open settings"));
-    EXPECT_THAT(platform.workspace.urls,
-        ElementsAre("x-apple.systempreferences:com.apple.preference.security?Privacy_Automation"));
+    EXPECT_THAT(platform.journal,
+        testing::Contains("open x-apple.systempreferences:com.apple.preference.security?Privacy_Automation"));
     EXPECT_TRUE(press(alert(), "Close"));
     EXPECT_EQ(platform.application.terminations, 1);
 }
