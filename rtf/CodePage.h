@@ -35,7 +35,7 @@ public:
     /// The character that two bytes stand for.
     char32_t decode(char lead, char trail)
     {
-        const std::size_t place = static_cast<unsigned char>(lead) * 256U + static_cast<unsigned char>(trail);
+        const std::size_t place = (static_cast<unsigned char>(lead) * 256U) + static_cast<unsigned char>(trail);
         const char32_t known = pairs_.empty() ? 0 : pairs_[place];
         return known != 0 ? known : convertPair(lead, trail);
     }

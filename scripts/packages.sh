@@ -1,6 +1,6 @@
 # The Debian packages that the scripts install; read by them with ".".
 # shellcheck shell=sh disable=SC2034
-build_packages="cmake ninja-build g++ pkg-config libutf8proc-dev libexpected-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev
+build_packages="cmake ninja-build g++ pkg-config libutf8proc-dev libexpected-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools"
 window_packages="xvfb xauth fonts-dejavu-core fonts-liberation"
 test_packages="$build_packages $window_packages clang-19 clang-tidy-19 clang-format-19 libclang-rt-19-dev libc++-19-dev libc++abi-19-dev googletest lua5.4

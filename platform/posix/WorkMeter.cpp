@@ -16,8 +16,8 @@ namespace {
 constexpr double weightOfACommand = 500'000;
 /// In seconds: times of files are cut off, on some file systems to even seconds.
 constexpr std::time_t coarsestTime = 2;
-/// Looking takes no more than this part of a processor's time.
-constexpr int leastPauseInLooks = 20;
+/// Times as long as a look took, so that looking takes two hundredths of a processor at most.
+constexpr int leastPauseInLooks = 50;
 
 /// Takes a shell's text in double quotes and what separates it from the next off the front; empty when there is none.
 std::string takeQuoted(std::string_view& rest)
@@ -52,7 +52,7 @@ WorkMeter::Work WorkMeter::workOf(const std::string& command)
     std::string source = takeQuoted(rest);
     std::string target = takeQuoted(rest);
     if (!source.ends_with('/')) {
-        target += "/" + std::string(lastPathComponent(source));
+        (target += '/') += lastPathComponent(source);
     }
     return {std::move(source), std::move(target), std::nullopt};
 }

@@ -21,6 +21,7 @@ TEST(Product, joinsTheFirstFolderOfTheSystemAndItsTailOnce)
 {
     const FakeFolders folders;
     const Product product(folders);
+    EXPECT_EQ(folders.requests, 0);
     EXPECT_EQ(product.appCorvellane(), "/Applications/Corvellane/");
     EXPECT_EQ(product.appSuppCorvellaneVideo(),
         "/Library/Application Support/Adobe/Common/Plug-ins/7.0/MediaCore/Corvellane/");
@@ -28,7 +29,6 @@ TEST(Product, joinsTheFirstFolderOfTheSystemAndItsTailOnce)
     EXPECT_EQ(product.userAppSuppLR(), "/Users/user/Library/Application Support/Adobe/Lightroom/");
     EXPECT_EQ(product.applications() + product.applicationSupport() + product.userApplicationSupport(),
         "/Applications/Library/Application Support/Users/user/Library/Application Support");
-    EXPECT_EQ(product.appCorvellane(), "/Applications/Corvellane/");
     EXPECT_EQ(folders.requests, 3);
 }
 

@@ -1,5 +1,4 @@
 #include "platform/posix/ExecutableBundle.h"
-#include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixStandardFolders.h"
 #include "platform/posix/RootOnly.h"
 #include "platform/posix/UserAccount.h"
@@ -13,53 +12,6 @@
 
 namespace corvellane {
 namespace {
-
-/// Takes root's rights away for as long as it lives; whoever has none keeps what there is.
-class Unprivileged {
-public:
-    Unprivileged() { EXPECT_TRUE(!hasRootRights() || seteuid(65534) == 0); }
-    Unprivileged(const Unprivileged&) = delete;
-    Unprivileged& operator=(const Unprivileged&) = delete;
-    ~Unprivileged() { EXPECT_TRUE(getuid() != 0 || seteuid(0) == 0); }
-};
-
-TEST(PosixFiles, tellsWhatIsInAFolderAndWhyItCannot)
-{
-    const ScratchFolder scratch;
-    scratch.write("locked/inside", "");
-    scratch.write("folder/b", "");
-    scratch.write("folder/a/x", "");
-    ASSERT_EQ(symlink("a", (scratch.path() + "/folder/.link").c_str()), 0);
-    const PosixFiles files;
-    for (const std::string end : {"", "/"}) {
-        const auto entries = files.list(scratch.path() + "/folder" + end);
-        ASSERT_EQ(entries->size(), 3);
-        const std::vector<std::pair<std::string, bool>> expected{{"/.link", false}, {"/a", true}, {"/b", false}};
-        for (std::size_t index = 0; index < expected.size(); ++index) {
-            EXPECT_EQ(entries->at(index).path, scratch.path() + "/folder" + expected[index].first);
-            EXPECT_EQ(entries->at(index).isFolder, expected[index].second);
-        }
-    }
-    chmod(scratch.path().c_str(), 0755);
-    chmod((scratch.path() + "/locked").c_str(), 0);
-    const Unprivileged unprivileged;
-    EXPECT_EQ(files.list(scratch.path() + "/locked").error().message,
-        "The file “locked” couldn’t be opened because you don’t have permission to view it.");
-}
-
-TEST(PosixFiles, readsRegularFilesUpToASize)
-{
-    const ScratchFolder scratch;
-    const std::string bytes = std::string("\xFF\0\n", 3) + std::string(100000, 'x');
-    scratch.write("file", bytes);
-    const PosixFiles files;
-    EXPECT_EQ(files.read(scratch.path() + "/file", bytes.size()).value(), bytes);
-    ASSERT_EQ(mkfifo((scratch.path() + "/pipe").c_str(), 0600), 0);
-    EXPECT_FALSE(files.read(scratch.path() + "/file", bytes.size() - 1));
-    EXPECT_FALSE(files.read(scratch.path() + "/pipe", 10));
-    EXPECT_EQ(files.read(scratch.path(), 1000000).error().message,
-        "The file “" + scratch.path().substr(scratch.path().rfind('/') + 1) + "” couldn’t be opened.");
-}
 
 TEST(StandardFolders, areInTheHomeOfThePasswordDatabaseWhateverTheEnvironmentSays)
 {

@@ -1,0 +1,81 @@
+#include "platform/posix/PosixFiles.h"
+#include "tests/ScratchFolder.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace corvellane {
+namespace {
+
+class FilesTest : public testing::Test {
+protected:
+    /// Fails unless reading the file of that name gives the failure.
+    void expectFailure(const std::string& name, const std::string& message, int number)
+    {
+        const auto bytes = PosixFiles().read(scratch.path() + "/" + name, 5);
+        ASSERT_FALSE(bytes) << name;
+        EXPECT_EQ(bytes.error().message, message);
+        EXPECT_EQ(bytes.error().number, number) << name;
+    }
+
+    ScratchFolder scratch;
+};
+
+TEST_F(FilesTest, readsRegularFilesUpToTheLargestSize)
+{
+    for (const std::string& bytes : {std::string(), std::string("\xFF\0\r\n\x80", 5)}) {
+        scratch.write("file", bytes);
+        EXPECT_EQ(PosixFiles().read(scratch.path() + "/file", 5).value(), bytes);
+    }
+    scratch.write("large", "123456");
+    expectFailure("large", "The file “large” couldn’t be opened.", EINVAL);
+}
+
+TEST_F(FilesTest, waitsForNothingThatIsNoRegularFile)
+{
+    ASSERT_EQ(mkfifo((scratch.path() + "/pipe").c_str(), 0600), 0);
+    std::filesystem::create_directory(scratch.path() + "/folder");
+    expectFailure("pipe", "The file “pipe” couldn’t be opened.", EINVAL);
+    expectFailure("folder", "The file “folder” couldn’t be opened.", EINVAL);
+    expectFailure("none", "The file “none” couldn’t be opened because there is no such file.", ENOENT);
+}
+
+TEST_F(FilesTest, listsAFolderByTheBytesOfTheNames)
+{
+    scratch.write("folder/b", "");
+    scratch.write("folder/a/x", "");
+    std::filesystem::create_symlink("a", scratch.path() + "/folder/.link");
+    for (const std::string end : {"", "/"}) {
+        const auto entries = PosixFiles().list(scratch.path() + "/folder" + end);
+        ASSERT_EQ(entries->size(), 3);
+        const std::vector<std::pair<std::string, bool>> expected{{"/.link", false}, {"/a", true}, {"/b", false}};
+        for (std::size_t index = 0; index < expected.size(); ++index) {
+            EXPECT_EQ(entries->at(index).path, scratch.path() + "/folder" + expected[index].first);
+            EXPECT_EQ(entries->at(index).isFolder, expected[index].second);
+        }
+    }
+}
+
+TEST_F(FilesTest, saysThatPermissionIsMissing)
+{
+    using std::filesystem::perms;
+    scratch.write("secret", "a");
+    scratch.write("locked/file", "");
+    std::filesystem::permissions(scratch.path() + "/secret", perms::none);
+    std::filesystem::permissions(scratch.path() + "/locked", perms::none);
+    std::filesystem::permissions(scratch.path(), perms::all);
+    // Root may read everything: for the moment of the test the process is somebody else.
+    const bool isRoot = geteuid() == 0;
+    ASSERT_TRUE(!isRoot || seteuid(65534) == 0);
+    expectFailure(
+        "secret", "The file “secret” couldn’t be opened because you don’t have permission to view it.", EACCES);
+    EXPECT_EQ(PosixFiles().list(scratch.path() + "/locked").error().message,
+        "The file “locked” couldn’t be opened because you don’t have permission to view it.");
+    ASSERT_TRUE(!isRoot || seteuid(0) == 0);
+    std::filesystem::permissions(scratch.path() + "/locked", perms::owner_all);
+}
+
+} // namespace
+} // namespace corvellane
