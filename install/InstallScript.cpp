@@ -4,6 +4,7 @@
 #include "install/ElementKind.h"
 #include "install/ScriptEscapes.h"
 
+#include <initializer_list>
 #include <utility>
 
 namespace corvellane {
@@ -15,11 +16,8 @@ return errMsg
 end try
 return "Ok")";
 
-/// A text in double quotes for the shell, inside a literal of the script.
-std::string quoted(const std::string& text)
-{
-    return R"(\")" + text + R"(\")";
-}
+/// What stands around a text in double quotes for the shell, inside a literal of the script.
+constexpr const char* quote = R"(\")";
 
 /// A text in double quotes for Lua, inside such a text.
 std::string luaQuoted(const std::string& text)
@@ -86,26 +84,32 @@ private:
         copy(installed + "/" + title + "/", presets);
         createFolder(modules);
         link(plugin, modules);
-        append("echo " + quoted(asEchoedText(unescaped)) + " > " + quoted(plugin + "/Path.txt"), "  ");
-        append("echo " + quoted(editorPreset(generation.presetIdentifier, title, application)) + " > "
-            + quoted(editors + title + ".lrtemplate"));
+        append({"echo ", quote, asEchoedText(unescaped), quote, " > ", quote, plugin, "/Path.txt", quote}, "  ");
+        append({"echo ", quote, editorPreset(generation.presetIdentifier, title, application), quote, " > ", quote,
+            editors, title, ".lrtemplate", quote});
         for (const std::string& folder : {editors, presets, modules}) {
-            append("chown -R $USER " + quoted(folder));
+            append({"chown -R $USER ", quote, folder, quote});
         }
     }
 
-    void createFolder(const std::string& folder) { append("mkdir -p " + quoted(folder)); }
-    void copy(const std::string& from, const std::string& to) { append("cp -R -f " + quoted(from) + " " + quoted(to)); }
-    void remove(const std::string& bundle) { append("rm -R -f " + quoted(bundle)); }
-    void link(const std::string& to, const std::string& at)
+    void createFolder(std::string_view folder) { append({"mkdir -p ", quote, folder, quote}); }
+    void copy(std::string_view from, std::string_view to)
     {
-        append("ln -f -h -s " + quoted(to) + " " + quoted(at), "  ");
+        append({"cp -R -f ", quote, from, quote, " ", quote, to, quote});
+    }
+    void remove(std::string_view bundle) { append({"rm -R -f ", quote, bundle, quote}); }
+    void link(std::string_view to, std::string_view at)
+    {
+        append({"ln -f -h -s ", quote, to, quote, " ", quote, at, quote}, "  ");
     }
 
-    void append(const std::string& command, const char* space = " ")
+    void append(std::initializer_list<std::string_view> command, std::string_view space = " ")
     {
-        script_.append("do shell script \"").append(command).append("\"").append(space);
-        script_.append("with administrator privileges\n");
+        script_ += "do shell script \"";
+        for (const std::string_view part : command) {
+            script_ += part;
+        }
+        script_.append("\"").append(space).append("with administrator privileges\n");
     }
 
     const HostPaths& hosts_;
