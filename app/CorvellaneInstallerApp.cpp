@@ -1,6 +1,7 @@
 #include "app/CorvellaneInstallerApp.h"
 
-#include "view/Build.h"
+#include "platform/Resources.h"
+#include "view/Metrics.h"
 
 namespace corvellane {
 namespace {
@@ -19,20 +20,19 @@ std::shared_ptr<AppSettings> filledSettings(const Platform& platform)
 
 CorvellaneInstallerApp::CorvellaneInstallerApp(const Platform& platform)
     : settings_(filledSettings(platform))
-    , contentView_(platform.resources, platform.console)
-    , window_([this] { return body(); }, platform.resources)
+    , contentView_(platform.resources, platform.files, platform.console)
+    , window_([this] { return body(); },
+          [&resources = platform.resources](
+              const std::string& name) { return resources.file(name, "svg").value_or(""); })
 {
     contentView_.observe(*settings_, [this] { window_.scheduleRedraw(); });
     window_.setWindowTitle(QStringLiteral("Corvellane Plugin Installer"));
     window_.resize(leastWidth, leastHeight);
 }
 
-View CorvellaneInstallerApp::body()
+view::View CorvellaneInstallerApp::body()
 {
-    const auto framed = [this](AppSettings& settings) {
-        return contentView_.body(settings).withFrame({leastWidth, unbounded, leastHeight, unbounded});
-    };
-    return holding(Environment{settings_.get(), {framed}});
+    return contentView_.body(*settings_).withFrame({leastWidth, view::unbounded, leastHeight, view::unbounded});
 }
 
 } // namespace corvellane

@@ -18,14 +18,14 @@ public:
     CorvellaneInstallerApp& operator=(const CorvellaneInstallerApp&) = delete;
 
     AppSettings& settings() { return *settings_; }
-    ViewHost& window() { return window_; }
+    view::ViewHost& window() { return window_; }
 
 private:
-    View body();
+    view::View body();
 
     std::shared_ptr<AppSettings> settings_;
     ContentView contentView_;
-    ViewHost window_;
+    view::ViewHost window_;
 };
 
 } // namespace corvellane

@@ -1,6 +1,7 @@
 #include "app/Installer.h"
 
 #include "app/AppDelegate.h"
+#include "app/WaitingWindow.h"
 #include "platform/posix/DirectPrompt.h"
 #include "platform/posix/PkexecPrompt.h"
 
@@ -29,7 +30,8 @@ Installer::Installer()
     , scene_({application_, console_, dispatcher_, files_, pasteboard_, bundle_, scripts_, folders_, workspace_})
 {
     AppDelegate::applicationDidFinishLaunching(application_);
-    application_.offerMainMenu(window());
+    showWaits(dispatcher_, window());
+    application_.offerMainMenu(window(), [this] { return window().hears(); });
     QApplication::setQuitOnLastWindowClosed(AppDelegate::applicationShouldTerminateAfterLastWindowClosed(application_));
 }
 

@@ -27,7 +27,7 @@ public:
     /// Shows the window and returns when the program is to end, with the exit status.
     int run();
 
-    ViewHost& window() { return scene_.window(); }
+    view::ViewHost& window() { return scene_.window(); }
 
 private:
     QtApplication application_;

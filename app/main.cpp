@@ -8,6 +8,6 @@ int main(int count, char** arguments)
     corvellane::setUpProcess();
     QGuiApplication::setDesktopFileName("com.corvellane.PluginInstaller");
     const QApplication platform(count, arguments);
-    corvellane::ViewHost::prepareApplication();
+    corvellane::view::ViewHost::prepareApplication();
     return corvellane::Installer().run();
 }

@@ -6,7 +6,7 @@
 int main(int count, char** arguments)
 {
     const QApplication platform(count, arguments);
-    corvellane::ViewHost::prepareApplication();
+    corvellane::view::ViewHost::prepareApplication();
     corvellane::Installer installer;
     const corvellane::EndAtFirstPaint end;
     return installer.run();

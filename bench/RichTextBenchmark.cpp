@@ -1,6 +1,5 @@
 #include "bench/RtfSamples.h"
 #include "rtf/RtfReader.h"
-#include "view/qt/RichTextDocument.h"
 #include "view/qt/RichTextViewer.h"
 
 #include <QApplication>
@@ -15,6 +14,8 @@
 // of the layout, which goes on in the background; beside a bare QTextEdit that is handed the finished document.
 
 namespace corvellane {
+
+using namespace view;
 namespace {
 
 constexpr std::size_t agreementSize = 50'000;

@@ -124,10 +124,11 @@ void openALog(benchmark::State& state)
 {
     Wizard wizard(1);
     AppSettings& settings = wizard.scene->settings();
+    std::string log;
     for (std::int64_t line = 0; line < state.range(0); ++line) {
-        settings.logDetailsStr += "cp: cannot stat the file of a line of a log, number " + std::to_string(line) + "\n";
+        log += "cp: cannot stat the file of a line of a log, number " + std::to_string(line) + "\n";
     }
-    settings.logDetailsStr += std::string(1'000'000, 'm');
+    settings.logDetailsStr = log + std::string(1'000'000, 'm');
     settings.currentPage.set(Page::summary);
     for (auto _ : state) {
         settings.showLogDetailsWindow.set(true);
@@ -150,7 +151,7 @@ BENCHMARK(openALog)->Arg(0)->Arg(200'000)->Unit(benchmark::kMillisecond);
 int main(int count, char** arguments)
 {
     const QApplication platform(count, arguments);
-    corvellane::ViewHost::prepareApplication();
+    corvellane::view::ViewHost::prepareApplication();
     benchmark::Initialize(&count, arguments);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -170,7 +170,7 @@ void Tour::seeLog(Visit& visit)
     expect(visit.user.canPress("Copy to Clipboard"), "the details open by the keyboard");
     picture(visit, "log-details");
     click(visit, "Copy to Clipboard");
-    expect(QApplication::clipboard()->text().toStdString() == visit.wizard.settings().logDetailsStr,
+    expect(QApplication::clipboard()->text().toStdString() == *visit.wizard.settings().logDetailsStr,
         "the whole log is copied");
     click(visit, "Close");
     expect(!visit.user.canPress("Copy to Clipboard"), "the details close");

@@ -1,5 +1,7 @@
 #include "tools/WindowRehearsal.h"
 
+#include "app/WaitingWindow.h"
+
 namespace corvellane {
 
 WindowRehearsal::WindowRehearsal(
@@ -8,6 +10,7 @@ WindowRehearsal::WindowRehearsal(
     , folders_(into)
     , scene_({application, console, dispatcher_, files_, pasteboard_, resources_, scripts_, folders_, workspace_})
 {
+    showWaits(dispatcher_, window());
 }
 
 } // namespace corvellane

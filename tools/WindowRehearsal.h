@@ -27,7 +27,7 @@ public:
         const std::string& productsFolder, const std::string& into, Application& application, Console& console);
 
     AppSettings& settings() { return scene_.settings(); }
-    ViewHost& window() { return scene_.window(); }
+    view::ViewHost& window() { return scene_.window(); }
 
     /// What the wizard wanted to have opened last.
     const std::string& openedUrl() const { return workspace_.url; }

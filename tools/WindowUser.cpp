@@ -1,6 +1,6 @@
 #include "tools/WindowUser.h"
 
-#include "view/qt/Words.h"
+#include "view/qt/Appearance.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -30,7 +30,7 @@ bool WindowUser::reads(const std::string& text) const
 {
     const QList<QLabel*> labels = visible<QLabel>(window_);
     return std::any_of(
-        labels.begin(), labels.end(), [&](const QLabel* label) { return label->text() == localized(text); });
+        labels.begin(), labels.end(), [&](const QLabel* label) { return label->text() == view::localized(text); });
 }
 
 /// Where several have the label, the one in front.
@@ -38,7 +38,7 @@ QWidget* WindowUser::button(const std::string& label) const
 {
     QWidget* found = nullptr;
     for (QAbstractButton* const each : visible<QAbstractButton>(window_)) {
-        if (each->accessibleName() == localized(label) && (found == nullptr || each->isEnabled())) {
+        if (each->accessibleName() == view::localized(label) && (found == nullptr || each->isEnabled())) {
             found = each;
         }
     }

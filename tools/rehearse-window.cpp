@@ -80,7 +80,7 @@ int show(const Options& options, Console& console)
     QtApplication application;
     WindowRehearsal rehearsal(options.products.toStdString(), options.into.toStdString(), application, console);
     AppDelegate::applicationDidFinishLaunching(application);
-    application.offerMainMenu(rehearsal.window());
+    application.offerMainMenu(rehearsal.window(), [&] { return rehearsal.window().hears(); });
     rehearsal.window().show();
     return QApplication::exec();
 }
@@ -98,7 +98,7 @@ int rehearse()
     }
     QDir().mkpath(options.into);
     imitateDesktop(options);
-    ViewHost::prepareApplication();
+    view::ViewHost::prepareApplication();
     const Translations translations(options.translations.toStdString(), QLocale::system());
     StreamConsole console(stdout);
     return options.tour.isEmpty() ? show(options, console) : tour(options, console);

@@ -121,7 +121,8 @@ int rehearse(const std::vector<std::string>& arguments)
     }
     StreamConsole console(stdout);
     const bool asText = options.subject == RehearseOptions::Subject::agreementText;
-    return reportAgreement(options.agreement, asText ? AgreementForm::plainText : AgreementForm::json, console);
+    return reportAgreement(
+        PosixFiles(), options.agreement, asText ? AgreementForm::plainText : AgreementForm::json, console);
 }
 
 } // namespace

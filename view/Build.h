@@ -66,9 +66,12 @@ inline View symbol(std::string name, Tint tint, int size)
     return holding(Symbol{std::move(name), tint, size}).withSize(size, size);
 }
 
-inline View button(std::string label, std::function<void()> action, bool enabled = true)
+/// A push button that performs an operation on something: button<&Lamp::light>("Light", lamp).
+template <auto Operation, typename Receiver>
+View button(std::string label, Receiver& receiver, bool enabled = true)
 {
-    return holding(Button{std::move(label), {std::move(action)}, enabled, Button::Style::push, {}});
+    return holding(
+        Button{std::move(label), Action<void()>::calling<Operation>(receiver), enabled, Button::Style::push, {}});
 }
 
 } // namespace corvellane::view

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "products/ProductSelection.h"
+#include "base/Snapshot.h"
+#include "rtf/AttributedText.h"
+#include "view/Action.h"
 #include "view/Metrics.h"
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -11,17 +12,6 @@
 #include <vector>
 
 namespace corvellane::view {
-
-class AppSettings;
-
-struct View;
-
-/// What a control does. All actions compare equal: no widget is touched because an action was made anew.
-template <typename Function>
-struct Action {
-    std::function<Function> run;
-    bool operator==(const Action&) const { return true; }
-};
 
 /// The colours by their names; the host knows their tones.
 enum class Tint { black, white, blue, gray, green, red, label, secondaryLabel, separator, windowBackground };
@@ -115,25 +105,19 @@ struct Button {
     bool operator==(const Button&) const = default;
 };
 
-/// One row of a list: a symbol and a name, shown as it stands.
-struct ListRow {
-    std::string identity;
-    Symbol symbol;
-    Text name;
-    /// Absent for a row that cannot be ticked.
-    std::optional<bool> ticked;
-    bool operator==(const ListRow&) const = default;
-};
-
-/// A scrolling list of products in display order. Its rows are made one by one, when they are looked at.
+/// A scrolling list of files or folders by their paths, a row each in the order of the paths: a symbol and the path's
+/// last component, shown as it stands.
 struct List {
     /// What the list is called for those who do not see it; shown as it stands.
     std::string name;
-    /// Borrowed; stays valid, and may change, for as long as the state lives.
-    const ProductSelection* products = nullptr;
-    bool onlyTicked = false;
-    ListRow (*row)(const std::string& location, bool ticked) = nullptr;
-    /// Called with a location when its row is clicked; empty in a list whose rows do not react.
+    Snapshot<std::vector<std::string>> paths;
+    /// Whether each row is ticked; empty in a list whose rows cannot be.
+    std::vector<bool> ticks;
+    /// The symbol of the rows that are not ticked, and of those that are.
+    Symbol plain;
+    Symbol ticked;
+    Font font = standardFont;
+    /// Called with a path when its row is clicked; none in a list whose rows do not react.
     Action<void(const std::string&)> toggle;
     bool operator==(const List&) const = default;
 };
@@ -141,16 +125,15 @@ struct List {
 /// Formatted text, read-only. Keeps the text it was first shown with for as long as it stays.
 struct RichText {
     std::string name;
-    /// Borrowed; stays valid for as long as the state lives.
-    const AttributedText* text = nullptr;
+    Snapshot<rtf::AttributedText> text;
     bool operator==(const RichText&) const = default;
 };
 
 /// Unformatted text at its natural size that scrolls both ways; centred where it is smaller than the area.
 struct LogArea {
     std::string name;
-    /// Borrowed, UTF-8 or any bytes; stays valid, and may change, for as long as the state lives.
-    const std::string* text = nullptr;
+    /// UTF-8, or any bytes.
+    Snapshot<std::string> text;
     bool operator==(const LogArea&) const = default;
 };
 
@@ -161,15 +144,8 @@ struct Timer {
     bool operator==(const Timer&) const = default;
 };
 
-/// Hands the state to the views below it.
-struct Environment {
-    AppSettings* settings = nullptr;
-    Action<View(AppSettings&)> content;
-    bool operator==(const Environment&) const = default;
-};
-
-using Element = std::variant<Nothing, Stack, Layers, Gap, Fill, Text, Symbol, Image, Button, List, RichText, LogArea,
-    Timer, Environment>;
+using Element
+    = std::variant<Nothing, Stack, Layers, Gap, Fill, Text, Symbol, Image, Button, List, RichText, LogArea, Timer>;
 
 struct Padding {
     int left = 0;

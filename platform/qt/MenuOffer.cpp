@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <utility>
 
 namespace corvellane {
 
@@ -25,10 +26,11 @@ bool asksForMenu(const QEvent& event)
 
 } // namespace
 
-MenuOffer::MenuOffer(const QtMenu& menu, QWidget& window)
+MenuOffer::MenuOffer(const QtMenu& menu, QWidget& window, std::function<bool()> hears)
     : QObject(&window)
     , menu_(menu)
     , window_(window)
+    , hears_(std::move(hears))
 {
     window.installEventFilter(this);
     // Finding out whether the desktop has a menu bar of its own asks the session bus; the first picture goes first.
@@ -43,7 +45,7 @@ void MenuOffer::exportToDesktop()
         delete bar;
         return;
     }
-    for (QMenu* const menu : menu_.makeMenus(window_, bar)) {
+    for (QMenu* const menu : menu_.makeMenus(window_, bar, hears_)) {
         bar->addMenu(menu);
     }
 }
@@ -61,7 +63,7 @@ void MenuOffer::popUp()
 {
     auto* popup = new QMenu(&window_);
     popup->setAttribute(Qt::WA_DeleteOnClose);
-    for (QMenu* const menu : menu_.makeMenus(window_, popup)) {
+    for (QMenu* const menu : menu_.makeMenus(window_, popup, hears_)) {
         popup->addMenu(menu);
     }
     popup->popup(window_.mapToGlobal(QPoint(0, 0)));

@@ -37,9 +37,9 @@ void QtApplication::terminate()
     requestEnd();
 }
 
-void QtApplication::offerMainMenu(QWidget& window)
+void QtApplication::offerMainMenu(QWidget& window, std::function<bool()> hears)
 {
-    new MenuOffer(menu_, window);
+    new MenuOffer(menu_, window, std::move(hears));
 }
 
 } // namespace corvellane

@@ -17,8 +17,8 @@ public:
 
     /// Makes the main menu, as it stands at that moment, reachable from the window: as the desktop's global menu bar
     /// where there is one, and otherwise as a menu that F10 or the menu key opens at the window's top left. The window
-    /// gives no room to it. This must outlive the window.
-    void offerMainMenu(QWidget& window);
+    /// gives no room to it. While `hears` gives false its commands do nothing. This must outlive the window.
+    void offerMainMenu(QWidget& window, std::function<bool()> hears);
 
 private:
     QtMenu menu_;

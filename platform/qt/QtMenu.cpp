@@ -28,14 +28,18 @@ void QtMenu::removeItem(std::size_t index)
     items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(index));
 }
 
-QList<QMenu*> QtMenu::makeMenus(QWidget& window, QWidget* parent) const
+QList<QMenu*> QtMenu::makeMenus(QWidget& window, QWidget* parent, const std::function<bool()>& hears) const
 {
     QList<QMenu*> menus;
     for (const Item& item : items_) {
         auto* menu = new QMenu(shown(item.title), parent);
         for (const Command& command : item.commands) {
             QObject::connect(menu->addAction(shown(command.title)), &QAction::triggered, &window,
-                [&window, perform = command.perform] { perform(window); });
+                [&window, hears, perform = command.perform] {
+                    if (hears()) {
+                        perform(window);
+                    }
+                });
         }
         menus.append(menu);
     }

@@ -32,8 +32,9 @@ public:
     std::vector<std::string> itemTitles() const override;
     void removeItem(std::size_t index) override;
 
-    /// The items as they stand now, one menu each, owned by `parent`; their commands act on `window`.
-    QList<QMenu*> makeMenus(QWidget& window, QWidget* parent) const;
+    /// The items as they stand now, one menu each, owned by `parent`; their commands act on `window`, and do nothing
+    /// while `hears` gives false.
+    QList<QMenu*> makeMenus(QWidget& window, QWidget* parent, const std::function<bool()>& hears) const;
 
 private:
     std::vector<Item> items_;

@@ -83,6 +83,10 @@
         <source>Copy to Clipboard</source>
         <translation>In die Zwischenablage kopieren</translation>
     </message>
+    <message>
+        <source>Progress of the installation</source>
+        <translation>Fortschritt der Installation</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

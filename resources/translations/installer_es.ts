@@ -83,6 +83,10 @@
         <source>Copy to Clipboard</source>
         <translation>Copiar al portapapeles</translation>
     </message>
+    <message>
+        <source>Progress of the installation</source>
+        <translation>Progreso de la instalación</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -83,6 +83,10 @@
         <source>Copy to Clipboard</source>
         <translation>Copier dans le presse-papiers</translation>
     </message>
+    <message>
+        <source>Progress of the installation</source>
+        <translation>Progression de l’installation</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -83,6 +83,10 @@
         <source>Copy to Clipboard</source>
         <translation>クリップボードにコピー</translation>
     </message>
+    <message>
+        <source>Progress of the installation</source>
+        <translation>インストールの進行状況</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -83,6 +83,10 @@
         <source>Copy to Clipboard</source>
         <translation>复制到剪贴板</translation>
     </message>
+    <message>
+        <source>Progress of the installation</source>
+        <translation>安装进度</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -18,13 +18,14 @@ class PayloadReportTest : public testing::Test {
 protected:
     PayloadReport report()
     {
-        ProductSelection products;
+        std::vector<std::string> products;
         for (const auto& entry : fs::directory_iterator(scratch.path())) {
             if (entry.is_directory()) {
-                products[entry.path().native()] = true;
+                products.push_back(entry.path().native());
             }
         }
-        return reportPayload(PosixFiles(), scratch.path(), products, {"app/", "video/", "photo/", "lr/"});
+        return reportPayload(
+            PosixFiles(), scratch.path(), ProductSelection(products), {"app/", "video/", "photo/", "lr/"});
     }
 
     /// "path: message" of each warning, the path from the scratch folder on.

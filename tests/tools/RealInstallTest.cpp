@@ -62,7 +62,7 @@ public:
         Rehearsal rehearsal(products(), into, console);
         rehearsal.install();
         EXPECT_EQ(rehearsal.settings().currentPage.get(), Page::summary);
-        return rehearsal.settings().logDetailsStr;
+        return *rehearsal.settings().logDetailsStr;
     }
 
     ScratchFolder scratch;

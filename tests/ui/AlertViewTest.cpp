@@ -93,26 +93,26 @@ TEST_F(AlertViewTest, probesOnceATickUntilAllowed)
     const Timer timer = allOf<Timer>(alert()).at(0);
     EXPECT_EQ(timer.seconds, 1.0);
     platform.scripts.answerText("0");
-    EXPECT_TRUE(timer.tick.run());
+    EXPECT_TRUE(timer.tick());
     EXPECT_EQ(platform.scripts.sources.size(), 1U);
     settings->accessType.set(FinderAccess::allowed);
-    EXPECT_FALSE(timer.tick.run());
+    EXPECT_FALSE(timer.tick());
     EXPECT_EQ(platform.scripts.sources.size(), 1U);
 }
 
 TEST_F(AlertViewTest, showsAndCopiesTheLog)
 {
-    settings->logDetailsStr = "cp: <b>no</b> & such\nfile";
+    settings->logDetailsStr = std::string("cp: <b>no</b> & such\nfile");
     settings->currentPage.set(Page::summary);
     settings->showLogDetailsWindow.set(true);
     expectCard("logDetails", {{}, 500, {}, 400}, Tint::windowBackground);
     EXPECT_THAT(wordsOf(alert()), ElementsAre("[Copy to Clipboard]", "[Close]"));
     const View log = viewsOf<LogArea>(alert()).at(0);
     EXPECT_EQ(log.frame, (Frame{500, 500, 300, 300}));
-    EXPECT_EQ(*std::get<LogArea>(log.element).text, settings->logDetailsStr);
+    EXPECT_EQ(std::get<LogArea>(log.element).text, settings->logDetailsStr);
     EXPECT_TRUE(press(alert(), "Copy to Clipboard"));
     EXPECT_EQ(platform.pasteboard.clearings, 1);
-    EXPECT_EQ(platform.pasteboard.contents, settings->logDetailsStr);
+    EXPECT_EQ(platform.pasteboard.contents, *settings->logDetailsStr);
     EXPECT_EQ(alert().identity, "logDetails") << "stays open";
     EXPECT_TRUE(press(alert(), "Close"));
     EXPECT_FALSE(settings->showLogDetailsWindow.get());

@@ -1,52 +1,44 @@
 #include "tests/ui/WizardWorld.h"
-#include "view/ListRows.h"
+#include <set>
 
 namespace corvellane {
 namespace {
 
-using testing::ElementsAre;
-
-std::vector<std::string> namesOf(const std::vector<ListRow>& rows)
-{
-    std::vector<std::string> names;
-    for (const ListRow& row : rows) {
-        names.push_back(row.name.text);
-    }
-    return names;
-}
-
 TEST_F(WizardWorld, listsProductsByTheirNames)
 {
-    settings->products.set({{"/x/b.plugin", true}, {"/y/A.plugin", false}, {"/a/a.plugin", true}, {"/z/Suite/", true}});
+    ProductSelection products({"/x/b.plugin", "/y/A.plugin", "/a/a.plugin", "/z/Suite"});
+    products.toggle("/y/A.plugin");
+    settings->products.set(products);
     settings->currentPage.set(Page::products);
-    const std::vector<ListRow> rows = rowsOf(allOf<List>(body()).at(0));
-    EXPECT_THAT(namesOf(rows), ElementsAre("A.plugin", "Suite", "a.plugin", "b.plugin"));
-    EXPECT_EQ(rows[0].identity, "/y/A.plugin");
-    EXPECT_EQ(rows[0].symbol, (Symbol{"square", Tint::secondaryLabel, 14}));
-    EXPECT_EQ(rows[1].symbol, (Symbol{"checkmark.square.fill", Tint::blue, 14}));
-    EXPECT_EQ(rows[1].ticked, true);
-    EXPECT_EQ(rows[1].name, (Text{"Suite", false, Font{14, false}})) << "names are never translated";
+    const List list = allOf<List>(body()).at(0);
+    EXPECT_EQ(*list.paths, (std::vector<std::string>{"/y/A.plugin", "/z/Suite", "/a/a.plugin", "/x/b.plugin"}));
+    EXPECT_EQ(list.ticks, (std::vector<bool>{false, true, true, true}));
+    EXPECT_EQ(list.plain, (Symbol{"square", Tint::secondaryLabel, 14}));
+    EXPECT_EQ(list.ticked, (Symbol{"checkmark.square.fill", Tint::blue, 14}));
+    EXPECT_EQ(list.font, (Font{14, false}));
 
     settings->currentPage.set(Page::install);
-    const std::vector<ListRow> selected = rowsOf(allOf<List>(body()).at(0));
-    EXPECT_THAT(namesOf(selected), ElementsAre("Suite", "a.plugin", "b.plugin"));
-    EXPECT_EQ(selected[0].identity, "Suite");
-    EXPECT_EQ(selected[0].symbol.tint, Tint::gray);
-    EXPECT_EQ(selected[0].ticked, std::nullopt);
+    const List selected = allOf<List>(body()).at(0);
+    EXPECT_EQ(*selected.paths, (std::vector<std::string>{"/z/Suite", "/a/a.plugin", "/x/b.plugin"}));
+    EXPECT_EQ(selected.plain.tint, Tint::gray);
+    EXPECT_TRUE(selected.ticks.empty());
+    EXPECT_FALSE(selected.toggle);
 }
 
-TEST_F(WizardWorld, togglesOneProductAtAClick)
+TEST_F(WizardWorld, togglesOneProductAtAClickAndLeavesEarlierTreesAsTheyWere)
 {
     addProducts({"A", "B"});
     settings->currentPage.set(Page::products);
-    const List list = allOf<List>(body()).at(0);
-    list.toggle.run("/Resources/Products/B");
-    EXPECT_FALSE(rowsOf(list)[1].ticked.value());
-    EXPECT_TRUE(rowsOf(list)[0].ticked.value());
-    list.toggle.run("/Resources/Products/B");
-    EXPECT_TRUE(rowsOf(list)[1].ticked.value());
-    settings->currentPage.set(Page::install);
-    EXPECT_EQ(allOf<List>(body()).at(0).toggle.run, nullptr);
+    const View before = body();
+    const List list = allOf<List>(before).at(0);
+    list.toggle("/Resources/Products/B");
+    const View after = body();
+    EXPECT_NE(after, before);
+    EXPECT_EQ(allOf<List>(before).at(0).ticks, (std::vector<bool>{true, true}));
+    EXPECT_EQ(allOf<List>(after).at(0).ticks, (std::vector<bool>{true, false}));
+    EXPECT_TRUE(allOf<List>(after).at(0).paths.isSame(list.paths)) << "the paths are not copied";
+    list.toggle("/Resources/Products/B");
+    EXPECT_EQ(body(), before);
 }
 
 TEST_F(WizardWorld, showsBothOutcomes)

@@ -13,6 +13,8 @@
 
 namespace corvellane {
 
+using namespace view;
+
 /// The wizard's state and trees on a world without a window.
 class WizardWorld : public testing::Test {
 protected:
@@ -32,7 +34,7 @@ protected:
 
     FakePlatform platform;
     std::shared_ptr<AppSettings> settings = std::make_shared<AppSettings>(platform.services());
-    ContentView contentView{platform.resources, platform.console};
+    ContentView contentView{platform.resources, platform.files, platform.console};
 };
 
 } // namespace corvellane

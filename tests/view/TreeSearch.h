@@ -61,7 +61,7 @@ inline bool press(const View& view, const std::string& label)
     const std::vector<Button> buttons = allOf<Button>(view);
     for (auto button = buttons.rbegin(); button != buttons.rend(); ++button) {
         if (button->label == label && button->enabled) {
-            button->action.run();
+            button->action();
             return true;
         }
     }

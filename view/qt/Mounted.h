@@ -1,6 +1,8 @@
 #pragma once
 
 #include "view/View.h"
+#include "view/qt/Layout.h"
+#include "view/qt/Widgets.h"
 
 #include <QWidget>
 
@@ -22,6 +24,9 @@ struct Mounted {
     {
         return std::get_if<Kind>(&shown.element);
     }
+
+    /// Where it stands in its parent's layout.
+    Slot slot() const;
 };
 
 /// Calls `visit` with every mounted view, in reading order.
@@ -33,5 +38,13 @@ void forEachMounted(const Mounted& mounted, const Visit& visit)
         forEachMounted(*child, visit);
     }
 }
+
+/// Brings what is mounted to what `view` shows; true when anything at all had to be changed. A view stays the same
+/// where the one at its place before was of the same kind and identity: its widget then keeps focus, selection and
+/// scroll position. An empty pointer is filled.
+bool bring(std::unique_ptr<Mounted>& mounted, View view, QWidget* parent, const Widgets& widgets);
+
+/// Takes what is mounted from the screen. The widgets outlive the click that may have led here.
+void retire(const Mounted& mounted);
 
 } // namespace corvellane::view

@@ -1,7 +1,7 @@
 #include "view/qt/Panel.h"
 
-#include "view/qt/Tones.h"
-#include "view/qt/ViewLayout.h"
+#include "view/qt/Appearance.h"
+#include "view/qt/Layout.h"
 
 #include <QPainter>
 
@@ -21,6 +21,14 @@ Panel::Panel(QWidget* parent)
 {
 }
 
+void Panel::present(const ViewLayout::Arrangement& arrangement, const Backdrop& backdrop, bool modal)
+{
+    layout_->setArrangement(arrangement);
+    showBackdrop(backdrop);
+    modal_ = modal;
+    setAttribute(Qt::WA_NoMousePropagation, modal);
+}
+
 void Panel::showBackdrop(const Backdrop& backdrop)
 {
     if (backdrop != backdrop_) {
@@ -30,12 +38,6 @@ void Panel::showBackdrop(const Backdrop& backdrop)
         setContentsMargins(line, line, line, line);
         update();
     }
-}
-
-void Panel::setModal(bool modal)
-{
-    modal_ = modal;
-    setAttribute(Qt::WA_NoMousePropagation, modal);
 }
 
 Extent Panel::widthExtent() const

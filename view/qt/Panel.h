@@ -1,23 +1,19 @@
 #pragma once
 
 #include "view/View.h"
-#include "view/qt/Measurable.h"
+#include "view/qt/Layout.h"
 
 #include <QWidget>
 
 namespace corvellane::view {
-
-class ViewLayout;
 
 /// The widget of a view that holds others; draws the view's backdrop.
 class Panel : public QWidget, public Measurable {
 public:
     explicit Panel(QWidget* parent);
 
-    void showBackdrop(const Backdrop& backdrop);
-
     /// A modal panel lets no click through to what lies behind it, and is a dialogue to those who do not see it.
-    void setModal(bool modal);
+    void present(const ViewLayout::Arrangement& arrangement, const Backdrop& backdrop, bool modal);
     bool isModal() const { return modal_; }
 
     ViewLayout& viewLayout() { return *layout_; }
@@ -28,6 +24,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void showBackdrop(const Backdrop& backdrop);
+
     ViewLayout* layout_;
     Backdrop backdrop_;
     bool modal_ = false;

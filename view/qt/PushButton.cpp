@@ -1,8 +1,7 @@
 #include "view/qt/PushButton.h"
 
-#include "view/qt/TintedPicture.h"
-#include "view/qt/Tones.h"
-#include "view/qt/Words.h"
+#include "view/qt/Appearance.h"
+#include "view/qt/Pictures.h"
 
 #include <QIcon>
 #include <QPainter>
@@ -24,19 +23,22 @@ QString withoutMnemonics(QString label)
 
 } // namespace
 
-PushButton::PushButton(QWidget* parent)
+PushButton::PushButton(QWidget* parent, const bool& deaf)
     : QPushButton(parent)
+    , deaf_(deaf)
 {
     setAutoDefault(false);
     connect(this, &QPushButton::clicked, this, [this] {
-        if (const auto run = action_.run) {
-            run();
+        const Action<void()> action = action_;
+        if (!deaf_) {
+            action();
         }
     });
 }
 
 void PushButton::present(const Button& button)
 {
+    action_ = button.action;
     const QString label = localized(button.label);
     isLink_ = button.style == Button::Style::link;
     setFont(fontOf({standardFont.size, button.style == Button::Style::emphasised}));

@@ -1,19 +1,19 @@
 #pragma once
 
 #include "view/View.h"
-#include "view/qt/Measurable.h"
+#include "view/qt/Layout.h"
 
 #include <QPushButton>
 
 namespace corvellane::view {
 
-/// The widget of a button. No shortcut, no mnemonic, never a default button; the space bar presses it.
+/// The widget of a button. No shortcut, no mnemonic, never a default button; the space bar presses it. Performs nothing
+/// while `deaf`.
 class PushButton : public QPushButton, public Measurable {
 public:
-    explicit PushButton(QWidget* parent);
+    PushButton(QWidget* parent, const bool& deaf);
 
     void present(const Button& button);
-    void setAction(const Action<void()>& action) { action_ = action; }
 
     Extent widthExtent() const override;
     Extent heightExtent(int width) const override;
@@ -27,6 +27,7 @@ protected:
 private:
     void paintLink();
 
+    const bool& deaf_;
     Action<void()> action_;
     bool isLink_ = false;
 };

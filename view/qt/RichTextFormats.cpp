@@ -1,7 +1,7 @@
 #include "view/qt/RichTextFormats.h"
 
+#include "view/qt/Appearance.h"
 #include "view/qt/FontSubstitutes.h"
-#include "view/qt/TextScale.h"
 
 #include <QFontMetricsF>
 #include <QTextOption>

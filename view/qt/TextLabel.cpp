@@ -1,7 +1,6 @@
 #include "view/qt/TextLabel.h"
 
-#include "view/qt/Tones.h"
-#include "view/qt/Words.h"
+#include "view/qt/Appearance.h"
 
 #include <QTextBoundaryFinder>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "view/View.h"
-#include "view/qt/Measurable.h"
+#include "view/qt/Layout.h"
 
 #include <QLabel>
 

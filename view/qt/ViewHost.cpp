@@ -1,7 +1,7 @@
 #include "view/qt/ViewHost.h"
 
 #include "view/qt/Accessibility.h"
-#include "view/qt/Tones.h"
+#include "view/qt/Appearance.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -13,9 +13,10 @@
 
 namespace corvellane::view {
 
-ViewHost::ViewHost(std::function<View()> body, const Resources& resources)
+ViewHost::ViewHost(std::function<View()> body, Widgets::ImageFiles imageFiles)
     : body_(std::move(body))
-    , reconciler_(resources)
+    , wait_(*this)
+    , widgets_(std::move(imageFiles), wait_.isDeaf())
 {
     redraw();
 }
@@ -29,27 +30,80 @@ void ViewHost::prepareApplication()
     installAccessibility();
 }
 
+// Drawing
+
 void ViewHost::scheduleRedraw()
 {
-    if (!std::exchange(scheduled_, true)) {
+    if (!std::exchange(scheduled_, true) && !frozen_) {
         QMetaObject::invokeMethod(this, [this] { redraw(); }, Qt::QueuedConnection);
     }
 }
 
 void ViewHost::redraw()
 {
+    if (frozen_) {
+        return;
+    }
     scheduled_ = false;
     focus_.remember();
-    if (reconciler_.update(root_, body_(), this)) {
+    if (bring(root_, body_(), this, widgets_)) {
+        changed_ = true;
         setLeastSize();
         layOut();
         focus_.settle(*root_);
     }
 }
 
+void ViewHost::rebuild()
+{
+    if (frozen_) {
+        outdated_ = true;
+        return;
+    }
+    retire(*root_);
+    root_ = nullptr;
+    redraw();
+}
+
+// Waiting
+
+void ViewHost::beginWait()
+{
+    changed_ = changed_ && !hears();
+    frozen_ = true;
+    wait_.begin();
+}
+
+void ViewHost::endWait()
+{
+    frozen_ = false;
+    if (std::exchange(outdated_, false)) {
+        rebuild();
+    } else if (std::exchange(scheduled_, false)) {
+        scheduleRedraw();
+    }
+}
+
+void ViewHost::showOutcome()
+{
+    if (scheduled_) {
+        redraw();
+    }
+    if (changed_) {
+        repaint();
+    }
+    // What was done before this is on the screen has arrived after it, and is dropped.
+    QGuiApplication::sync();
+    if (!frozen_) {
+        wait_.end(changed_);
+    }
+}
+
+// The window
+
 void ViewHost::setLeastSize()
 {
-    const Slot slot = Reconciler::slotOf(*root_);
+    const Slot slot = root_->slot();
     const int width = slot.widthExtent().minimum;
     const QSize least(width, slot.heightExtent(std::max(width, this->width())).minimum);
     setMinimumSize(least);
@@ -57,7 +111,7 @@ void ViewHost::setLeastSize()
 
 void ViewHost::layOut()
 {
-    Reconciler::slotOf(*root_).place(rect(), Placement::centre, Placement::centre);
+    root_->slot().place(rect(), Placement::centre, Placement::centre);
     if (QLayout* const layout = root_->widget->layout()) {
         layout->setGeometry(root_->widget->contentsRect());
     }
@@ -69,6 +123,7 @@ void ViewHost::resizeEvent(QResizeEvent* event)
         setLeastSize();
     }
     layOut();
+    wait_.place();
 }
 
 void ViewHost::changeEvent(QEvent* event)
@@ -77,8 +132,7 @@ void ViewHost::changeEvent(QEvent* event)
     const bool looksDifferent
         = event->type() == QEvent::ApplicationFontChange || event->type() == QEvent::LanguageChange;
     if (looksDifferent && root_ != nullptr) {
-        root_->shown.identity += '*';
-        scheduleRedraw();
+        QMetaObject::invokeMethod(this, [this] { rebuild(); }, Qt::QueuedConnection);
     }
 }
 

@@ -2,7 +2,9 @@
 
 #include "view/View.h"
 #include "view/qt/FocusKeeper.h"
-#include "view/qt/Reconciler.h"
+#include "view/qt/Mounted.h"
+#include "view/qt/Wait.h"
+#include "view/qt/Widgets.h"
 
 #include <QWidget>
 
@@ -11,21 +13,37 @@
 
 namespace corvellane::view {
 
-class Resources;
-
 /// A window that shows a tree of views. The light scheme, whatever the desktop's is. The minimum of the tree's own
 /// frame is the window's least size.
 class ViewHost : public QWidget {
 public:
-    /// `body` makes the tree anew, from the state as it is then. The resources outlive the window.
-    ViewHost(std::function<View()> body, const Resources& resources);
+    /// `body` makes the tree anew, from the state as it is then.
+    ViewHost(std::function<View()> body, Widgets::ImageFiles imageFiles);
     ~ViewHost() override;
 
     /// Has the tree made and shown when the event loop is next reached, once for any number of calls.
     void scheduleRedraw();
 
-    /// Shows the tree as it is now.
+    /// Shows the tree as it is now; during a wait, once that has ended.
     void redraw();
+
+    /// Makes all widgets anew, as a new size of text needs it.
+    void rebuild();
+
+    /// The program waits from now on: the window keeps showing what it shows, makes no tree and hears no person.
+    void beginWait();
+
+    /// The wait has ended, and trees are made again.
+    void endWait();
+
+    /// What the wait has led to is in the state: shows it, and hears the person again once it is on the screen.
+    void showOutcome();
+
+    /// How the window learns how much of the work that is waited for is done.
+    void setPartDone(Wait::PartDone partDone) { wait_.setPartDone(std::move(partDone)); }
+
+    /// Whether what a person does counts.
+    bool hears() const { return !wait_.isDeaf(); }
 
     /// Gives every window of the program the light scheme. Called once, after the QApplication was made.
     static void prepareApplication();
@@ -39,10 +57,16 @@ private:
     void setLeastSize();
 
     std::function<View()> body_;
-    Reconciler reconciler_;
+    Wait wait_;
+    Widgets widgets_;
     FocusKeeper focus_{*this};
     std::unique_ptr<Mounted> root_;
     bool scheduled_ = false;
+    bool frozen_ = false;
+    /// The widgets are to be made anew when the wait has ended.
+    bool outdated_ = false;
+    /// Since the wait began.
+    bool changed_ = false;
 };
 
 } // namespace corvellane::view

@@ -2,36 +2,34 @@
 
 #include "view/View.h"
 
-class QString;
+#include <QString>
+
+#include <functional>
+
 class QWidget;
 
 namespace corvellane::view {
 
-class Resources;
-
 /// The one place that knows which kind of widget stands for which kind of element.
 class Widgets {
 public:
-    /// The resources outlive this.
-    explicit Widgets(const Resources& resources)
-        : resources_(resources)
+    /// The path of an image of the program's resources by its name; empty where there is none.
+    using ImageFiles = std::function<std::string(const std::string& name)>;
+
+    /// While `deaf` is true, no widget performs an action. It outlives all widgets.
+    Widgets(ImageFiles imageFiles, const bool& deaf)
+        : imageFiles_(std::move(imageFiles))
+        , deaf_(deaf)
     {
     }
 
-    /// A widget that shows the element, inside `parent`; null for an element without one.
-    QWidget* make(const Element& element, QWidget* parent) const;
-
-    /// Makes a widget that was made for an element of the same kind show this one.
-    void change(QWidget& widget, const Element& element) const;
-
-    /// Has the widget follow what a new element brings along although it compares equal: its action, and what it only
-    /// borrows.
-    static void follow(QWidget& widget, const Element& element);
+    /// Has `standing`, the widget of a view of the same kind, show this one; without it a widget is made inside
+    /// `parent`. Null for an element without a widget.
+    QWidget* present(const View& view, QWidget* standing, QWidget* parent) const;
 
 private:
-    QString imageFile(const std::string& name) const;
-
-    const Resources& resources_;
+    ImageFiles imageFiles_;
+    const bool& deaf_;
 };
 
 } // namespace corvellane::view

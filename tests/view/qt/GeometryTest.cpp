@@ -1,7 +1,7 @@
 #include "tests/view/qt/WindowWorld.h"
-#include "view/qt/LogText.h"
+#include "view/qt/Appearance.h"
+#include "view/qt/LogView.h"
 #include "view/qt/Panel.h"
-#include "view/qt/Words.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -82,7 +82,7 @@ TEST_F(WindowWorld, givesCardsTheWindowUpToTheirSize)
     show(settings().showPermanentlyAlert, false);
     show(settings().showFinderAlert, true);
     EXPECT_EQ(cardOf(window()).size(), QSize(500, 150));
-    settings().logDetailsStr = "message";
+    settings().logDetailsStr = std::string("message");
     goTo(Page::summary);
     show(settings().showLogDetailsWindow, true);
     EXPECT_EQ(cardOf(window()).width(), 500);
@@ -124,10 +124,11 @@ TEST(LogText, findsThePiecesInSight)
 
 TEST_F(WindowWorld, opensLongLogsAndScrollsThem)
 {
-    settings().logDetailsStr = std::string(1'000'000, 'm') + "\n";
+    std::string text = std::string(1'000'000, 'm') + "\n";
     for (int line = 0; line < 200'000; ++line) {
-        settings().logDetailsStr += "cp: cannot stat a file of line " + std::to_string(line) + "\n";
+        text += "cp: cannot stat a file of line " + std::to_string(line) + "\n";
     }
+    settings().logDetailsStr = text;
     goTo(Page::summary);
     show(settings().showLogDetailsWindow, true);
     auto* const log = named<QAbstractScrollArea>("Details");
@@ -135,11 +136,11 @@ TEST_F(WindowWorld, opensLongLogsAndScrollsThem)
     EXPECT_EQ(log->verticalScrollBar()->value(), 0);
     EXPECT_GT(log->verticalScrollBar()->maximum(), 200'000 * 10);
     EXPECT_GT(log->horizontalScrollBar()->maximum(), 1'000'000 * 5);
-    QTest::keyClick(log, Qt::Key_End);
+    QTest::keyClick(window().windowHandle(), Qt::Key_End);
     EXPECT_EQ(log->verticalScrollBar()->value(), log->verticalScrollBar()->maximum());
     log->horizontalScrollBar()->setValue(log->horizontalScrollBar()->maximum());
     settle();
-    settings().logDetailsStr = "short";
+    settings().logDetailsStr = std::string("short");
     show(settings().showLogDetailsWindow, true);
     EXPECT_EQ(log->verticalScrollBar()->maximum(), 0);
 }

@@ -1,4 +1,6 @@
-#include "view/qt/TintedPicture.h"
+#include "view/qt/Pictures.h"
+
+#include "view/qt/Appearance.h"
 
 #include <QPainter>
 #include <QPixmapCache>
@@ -41,6 +43,19 @@ QPixmap tintedPicture(const QString& file, const QColor& tint, const QSize& size
     }
     picture.setDevicePixelRatio(devicePixelRatio);
     return picture;
+}
+
+void Picture::present(const QString& file, Tint tint)
+{
+    file_ = file;
+    tint_ = tint;
+    update();
+}
+
+void Picture::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, tintedPicture(file_, colorOf(tint_), size(), devicePixelRatioF()));
 }
 
 } // namespace corvellane::view

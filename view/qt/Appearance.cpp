@@ -1,5 +1,9 @@
-#include "view/qt/Tones.h"
+#include "view/qt/Appearance.h"
 
+#include <QApplication>
+#include <QFontInfo>
+
+#include <algorithm>
 #include <array>
 
 namespace corvellane::view {
@@ -33,6 +37,9 @@ constexpr std::array<RoleColor, 20> lightColors{{
     {QPalette::PlaceholderText, 0xff6e6e73},
 }};
 
+/// Desktops set their text at 9 to 11 points of 96 dots an inch; what is larger has been asked for.
+constexpr double largestUsualPixelSize = 15;
+
 } // namespace
 
 QColor colorOf(Tint tint)
@@ -54,9 +61,11 @@ QColor colorOf(Tint tint)
         return QColor::fromRgb(0xffd8d8d8);
     case Tint::windowBackground:
         return {241, 241, 241};
-    default:
-        return QColor::fromRgb(0xff000000);
+    case Tint::black:
+    case Tint::label:
+        break;
     }
+    return QColor::fromRgb(0xff000000);
 }
 
 QPalette lightPalette()
@@ -67,6 +76,24 @@ QPalette lightPalette()
     }
     palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor::fromRgb(0xffa8a8ac));
     return palette;
+}
+
+QString localized(const std::string& key)
+{
+    return QCoreApplication::translate("Installer", key.c_str());
+}
+
+QFont fontOf(const Font& font)
+{
+    QFont result = QApplication::font();
+    result.setPixelSize(qRound(font.size * textScale()));
+    result.setBold(font.bold);
+    return result;
+}
+
+double textScale()
+{
+    return std::max(1.0, QFontInfo(QApplication::font()).pixelSize() / largestUsualPixelSize);
 }
 
 } // namespace corvellane::view

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "view/View.h"
+
 #include <QColor>
 #include <QPixmap>
 #include <QSize>
 #include <QString>
+#include <QWidget>
 
 namespace corvellane::view {
 
@@ -13,5 +16,23 @@ QString symbolFile(const std::string& name);
 /// The SVG picture in one colour, stretched to `size` device-independent pixels and drawn for the screen's own pixels;
 /// empty when it cannot be read. Drawn once and kept.
 QPixmap tintedPicture(const QString& file, const QColor& tint, const QSize& size, double devicePixelRatio);
+
+/// The widget of a symbol or of an image of the resources; fills its frame.
+class Picture : public QWidget {
+public:
+    explicit Picture(QWidget* parent)
+        : QWidget(parent)
+    {
+    }
+
+    void present(const QString& file, Tint tint);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString file_;
+    Tint tint_ = Tint::label;
+};
 
 } // namespace corvellane::view

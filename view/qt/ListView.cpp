@@ -1,0 +1,200 @@
+#include "view/qt/ListView.h"
+
+#include "base/PathNames.h"
+#include "view/qt/Appearance.h"
+#include "view/qt/Pictures.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <utility>
+
+namespace corvellane::view {
+namespace {
+
+constexpr int inset = 10;
+constexpr int aboveName = 4;
+
+/// A symbol grows with the text beside it.
+QRect symbolArea(const QRect& row, const Symbol& symbol)
+{
+    const int size = qRound(symbol.size * textScale());
+    return {row.left() + inset, row.top() + (row.height() - size) / 2, size, size};
+}
+
+/// The name's own area; a name longer than the row ends at the row's end.
+QRect nameArea(const QRect& row, const Symbol& symbol, const QFontMetrics& metrics, const QString& name)
+{
+    const int left = symbolArea(row, symbol).right() + 1 + standardSpacing;
+    const int natural = metrics.horizontalAdvance(name);
+    return {left, row.top(), std::max(0, std::min(natural + 1, row.right() - inset - left)), row.height()};
+}
+
+void paintFocus(QPainter& painter, const QRect& row)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colorOf(Tint::blue), 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(row).adjusted(3.5, 0.5, -3.5, -0.5), 4, 4);
+}
+
+bool isHit(const RowModel& model, const QModelIndex& index, const QRect& row, const QPoint& point)
+{
+    const Symbol& symbol = model.symbolAt(index.row());
+    const QRect symbolColumn = symbolArea(row, symbol);
+    const QFontMetrics metrics(fontOf(model.list().font));
+    return QRect(symbolColumn.left(), row.top(), symbolColumn.width(), row.height()).contains(point)
+        || nameArea(row, symbol, metrics, model.nameAt(index.row())).contains(point);
+}
+
+} // namespace
+
+// Rows
+
+void RowModel::present(const List& list)
+{
+    const bool hasSameRows = list.paths == list_.paths && list.ticks.size() == list_.ticks.size();
+    if (!hasSameRows) {
+        beginResetModel();
+        list_ = list;
+        return endResetModel();
+    }
+    const List before = std::exchange(list_, list);
+    tellTicks(before.ticks);
+}
+
+void RowModel::tellTicks(const std::vector<bool>& before)
+{
+    auto [was, is] = std::mismatch(before.begin(), before.end(), list_.ticks.begin());
+    while (was != before.end()) {
+        const QModelIndex changed = index(static_cast<int>(was - before.begin()));
+        Q_EMIT dataChanged(changed, changed, {Qt::CheckStateRole});
+        std::tie(was, is) = std::mismatch(was + 1, before.end(), is + 1);
+    }
+}
+
+QString RowModel::nameAt(int row) const
+{
+    const std::string_view name = lastPathComponent(pathAt(row));
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+int RowModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(list_.paths->size());
+}
+
+QVariant RowModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid()) {
+        return {};
+    }
+    if (role == Qt::DisplayRole) {
+        return nameAt(index.row());
+    }
+    if (role == Qt::CheckStateRole && canTick()) {
+        return isTicked(index.row()) ? Qt::Checked : Qt::Unchecked;
+    }
+    return {};
+}
+
+bool RowModel::setData(const QModelIndex& index, const QVariant&, int role)
+{
+    if (role != Qt::CheckStateRole || !index.isValid() || !list_.toggle || deaf_) {
+        return false;
+    }
+    const Action<void(const std::string&)> toggle = list_.toggle;
+    const std::string path = pathAt(index.row());
+    toggle(path);
+    return true;
+}
+
+Qt::ItemFlags RowModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid()) {
+        return Qt::NoItemFlags;
+    }
+    const Qt::ItemFlags always = Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
+    return canTick() ? always | Qt::ItemIsUserCheckable : always;
+}
+
+// Drawing and clicks
+
+void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const Symbol& symbol = model_.symbolAt(index.row());
+    const QRect picture = symbolArea(option.rect, symbol);
+    painter->save();
+    painter->drawPixmap(picture.topLeft(),
+        tintedPicture(
+            symbolFile(symbol.name), colorOf(symbol.tint), picture.size(), painter->device()->devicePixelRatioF()));
+    const QFont font = fontOf(model_.list().font);
+    const QFontMetrics metrics(font);
+    const QString name = model_.nameAt(index.row());
+    const QRect area = nameArea(option.rect, symbol, metrics, name);
+    painter->setFont(font);
+    painter->setPen(colorOf(Tint::label));
+    painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+        metrics.elidedText(name, Qt::ElideMiddle, area.width()));
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
+        paintFocus(*painter, option.rect);
+    }
+    painter->restore();
+}
+
+QSize RowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const
+{
+    const int symbol = symbolArea({}, model_.list().plain).height();
+    return {inset, std::max(symbol, QFontMetrics(fontOf(model_.list().font)).height()) + 2 * aboveName};
+}
+
+bool RowDelegate::editorEvent(
+    QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const auto toggle = [&] { return model->setData(index, {}, Qt::CheckStateRole); };
+    const auto isInside = [&] {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        return mouse->button() == Qt::LeftButton && isHit(model_, index, option.rect, mouse->position().toPoint());
+    };
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        pressedInside_ = isInside();
+        return false;
+    case QEvent::MouseButtonRelease:
+        return std::exchange(pressedInside_, false) && isInside() && toggle();
+    case QEvent::KeyPress:
+        return static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space && toggle();
+    default:
+        return false;
+    }
+}
+
+// The list
+
+ListView::ListView(QWidget* parent, const bool& deaf)
+    : QListView(parent)
+    , model_(deaf)
+    , delegate_(model_)
+{
+    setFrameShape(QFrame::NoFrame);
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setUniformItemSizes(true);
+    setTabKeyNavigation(false);
+    setViewportMargins(0, 0, 0, 0);
+    setItemDelegate(&delegate_);
+    setModel(&model_);
+}
+
+void ListView::present(const List& list)
+{
+    setAccessibleName(QString::fromStdString(list.name));
+    model_.present(list);
+}
+
+} // namespace corvellane::view

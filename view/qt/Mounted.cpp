@@ -1,0 +1,141 @@
+#include "view/qt/Mounted.h"
+
+#include "view/qt/Panel.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace corvellane::view {
+namespace {
+
+bool canStay(const Mounted& mounted, const View& view)
+{
+    return mounted.shown.element.index() == view.element.index() && mounted.shown.identity == view.identity;
+}
+
+bool takesRoom(const Mounted& mounted)
+{
+    return mounted.as<Nothing>() == nullptr && mounted.as<Timer>() == nullptr;
+}
+
+/// The widget of a view that holds others; null for every other kind.
+Panel* panelOf(const Mounted& mounted)
+{
+    const bool holds = mounted.as<Stack>() != nullptr || mounted.as<Layers>() != nullptr;
+    return holds ? static_cast<Panel*>(mounted.widget) : nullptr;
+}
+
+/// Puts the children's widgets into the order of the tree: the one in which they are read out, and the last in front.
+void restack(const Mounted& mounted)
+{
+    QObjectList wanted;
+    for (const auto& child : mounted.children) {
+        if (child->widget != nullptr && takesRoom(*child)) {
+            wanted.append(child->widget);
+        }
+    }
+    QObjectList standing = mounted.widget->children();
+    standing.removeIf([&](QObject* object) { return !wanted.contains(object); });
+    if (standing != wanted) {
+        for (QObject* const object : wanted) {
+            static_cast<QWidget*>(object)->raise();
+        }
+    }
+}
+
+void arrange(const Mounted& mounted)
+{
+    Panel* const panel = panelOf(mounted);
+    if (panel == nullptr) {
+        return;
+    }
+    std::vector<Slot> slotsOfChildren;
+    for (const auto& child : mounted.children) {
+        if (takesRoom(*child)) {
+            slotsOfChildren.push_back(child->slot());
+        }
+    }
+    restack(mounted);
+    panel->viewLayout().arrange(std::move(slotsOfChildren));
+}
+
+/// The view without its children, which are given back.
+std::vector<View> takeChildren(View& view)
+{
+    return std::exchange(view.children, {});
+}
+
+std::unique_ptr<Mounted> mount(View view, QWidget* parent, const Widgets& widgets)
+{
+    auto mounted = std::make_unique<Mounted>();
+    mounted->widget = widgets.present(view, nullptr, parent);
+    for (View& child : takeChildren(view)) {
+        bring(mounted->children.emplace_back(), std::move(child), mounted->widget, widgets);
+    }
+    mounted->shown = std::move(view);
+    arrange(*mounted);
+    if (mounted->widget != nullptr) {
+        mounted->widget->setVisible(true);
+    }
+    return mounted;
+}
+
+bool bringChildren(Mounted& mounted, std::vector<View> children, const Widgets& widgets)
+{
+    bool changed = mounted.children.size() > children.size();
+    std::for_each(
+        mounted.children.begin() + static_cast<std::ptrdiff_t>(std::min(mounted.children.size(), children.size())),
+        mounted.children.end(), [](const auto& child) { retire(*child); });
+    mounted.children.resize(children.size());
+    for (std::size_t index = 0; index < children.size(); ++index) {
+        changed = bring(mounted.children[index], std::move(children[index]), mounted.widget, widgets) || changed;
+    }
+    return changed;
+}
+
+/// Where only a view's contents differ its widget is told; where it stands is its parent's matter.
+bool change(Mounted& mounted, View view, const Widgets& widgets)
+{
+    const bool differs = mounted.shown != view;
+    if (differs) {
+        widgets.present(view, mounted.widget, nullptr);
+        mounted.shown = std::move(view);
+    }
+    return differs;
+}
+
+} // namespace
+
+Slot Mounted::slot() const
+{
+    const auto* const gap = as<Gap>();
+    return {widget, gap != nullptr ? *gap : Gap{0, 0}, shown.frame, shown.padding, shown.priority};
+}
+
+bool bring(std::unique_ptr<Mounted>& mounted, View view, QWidget* parent, const Widgets& widgets)
+{
+    if (mounted == nullptr || !canStay(*mounted, view)) {
+        if (mounted != nullptr) {
+            retire(*mounted);
+        }
+        mounted = mount(std::move(view), parent, widgets);
+        return true;
+    }
+    std::vector<View> children = takeChildren(view);
+    const bool differs = change(*mounted, std::move(view), widgets);
+    const bool childrenDiffer = bringChildren(*mounted, std::move(children), widgets);
+    if (differs || childrenDiffer) {
+        arrange(*mounted);
+    }
+    return differs || childrenDiffer;
+}
+
+void retire(const Mounted& mounted)
+{
+    if (mounted.widget != nullptr) {
+        mounted.widget->hide();
+        mounted.widget->deleteLater();
+    }
+}
+
+} // namespace corvellane::view
