@@ -6,6 +6,7 @@ import subprocess
 import sys
 
 from desktop import HOST_FOLDERS, Desktop, Wizard, wait_for
+from impatience import Screen, try_everything
 
 BUNDLE, AGENT, HOLD = sys.argv[1:]
 RUNNER = BUNDLE + "/bin/corvellane-command-runner"
@@ -58,6 +59,10 @@ def killed_while_it_asks(desktop):
     wizard = start(desktop, "wait")
     install(wizard)
     wait_for("the prompt", lambda: prompts(wizard))
+    screen = Screen(wizard)
+    try_everything(wizard, screen)
+    screen.answers_a_ping()
+    assert "push button Install focused" in wizard.said(), "nobody is heard while the password is asked for"
     kill(wizard)
     wait_until_gone("/usr/bin/pkexec")
     assert not os.path.exists(MAKER)

@@ -1,90 +1,17 @@
-"""A copy that takes long: the window stays alive and hears nobody until the outcome is on the screen."""
+"""Installations that take long: the window stays alive and hears nobody until the outcome is on the screen."""
 
 import os
-import subprocess
+import shutil
 import sys
 import time
 
 from desktop import HOST_FOLDERS, Desktop, Wizard, wait_for
-from Xlib import X, display, protocol
+from impatience import Screen, click, clicking, try_everything
 
-HELD = "/Applications/Corvellane/Velvetgrain 3 Lightroom/Velvetgrain3.app/Contents/Info.txt"
+BUNDLE = sys.argv[1]
+ELEMENT = "/Applications/Corvellane/Velvetgrain 3 Lightroom"
+HELD = ELEMENT + "/Velvetgrain3.app/Contents/Info.txt"
 BAR = "progress bar Progress of the installation"
-INSTALLING = "push button Install focused"
-
-
-class Screen:
-    """The wizard's window as the window manager and the person before it have it."""
-
-    def __init__(self, wizard):
-        self.wizard = wizard
-        self.display = display.Display()
-        self.root = self.display.screen().root
-        name = wizard.window.name
-        found = subprocess.run(["xdotool", "search", "--name", f"^{name}$"], capture_output=True, check=True).stdout
-        self.window = self.display.create_resource_object("window", int(found.split()[0]))
-
-    def ask(self, protocol_name, *data):
-        """Sends a request of the window manager's protocols."""
-        kind = self.display.intern_atom("WM_PROTOCOLS")
-        words = [self.display.intern_atom(protocol_name), X.CurrentTime, *data, 0, 0, 0][:5]
-        self.window.send_event(protocol.event.ClientMessage(window=self.window, client_type=kind, data=(32, words)))
-        self.display.flush()
-
-    def answers_a_ping(self):
-        self.root.change_attributes(event_mask=X.StructureNotifyMask | X.SubstructureNotifyMask)
-        ping = self.display.intern_atom("_NET_WM_PING")
-        self.ask("_NET_WM_PING", self.window.id)
-
-        def is_answered():
-            while self.display.pending_events():
-                event = self.display.next_event()
-                if event.type & 0x7F == X.ClientMessage and event.data[1][0] == ping:
-                    return True
-            return False
-
-        wait_for("the answer to a ping", is_answered)
-
-    def picture(self):
-        """The window's pixels, without the bar at its lower edge."""
-        size = self.window.get_geometry()
-        return self.window.get_image(0, 0, size.width, size.height - 8, X.ZPixmap, 0xFFFFFFFF).data
-
-    def bar(self):
-        size = self.window.get_geometry()
-        return self.window.get_image(0, size.height - 4, size.width, 4, X.ZPixmap, 0xFFFFFFFF).data
-
-    def cover_and_uncover(self):
-        """Has another window stand in front for a moment."""
-        size = self.window.get_geometry()
-        at = self.root.translate_coords(self.window, 0, 0)
-        cover = self.root.create_window(
-            -at.x, -at.y, size.width, size.height, 0, X.CopyFromParent, background_pixel=0xFF00FF, override_redirect=True
-        )
-        cover.map()
-        self.display.sync()
-        time.sleep(0.2)
-        assert self.picture() != self.before, "the cover is in front"
-        cover.destroy()
-        self.display.sync()
-
-    def remember(self):
-        self.before = self.picture()
-
-    def is_painted_again(self):
-        wait_for("the window to be painted again", lambda: self.picture() == self.before)
-
-
-def clicking(wizard, name, times=1):
-    """The clicks of somebody who does not wait, as a process."""
-    button = wait_for(name, lambda: wizard.while_it_stands(lambda: [node for node in wizard.nodes() if node.name == name]))
-    box = button[-1].queryComponent().getExtents(0)
-    point = [str(box.x + box.width // 2), str(box.y + box.height // 2)]
-    return subprocess.Popen(["xdotool", "mousemove", *point, "click", "--repeat", str(times), "--delay", "120", "1"])
-
-
-def click(wizard, name, times=1):
-    assert clicking(wizard, name, times).wait() == 0
 
 
 def hold(path):
@@ -98,28 +25,9 @@ def let_go(path):
         held.read()
 
 
-def try_everything(wizard, screen):
-    """What an impatient person does while the window only waits."""
-    usable = [node for node in wizard.nodes() if node.name in ("Cancel", "Install")]
-    click(wizard, "Next", 4)
-    click(wizard, "Install")
-    for key in ["Escape", "Return", "space", "F10", "Tab"]:
-        wizard.key(key)
-    for button in usable:
-        button.queryAction().doAction(0)
-    screen.ask("WM_DELETE_WINDOW")
-
-
-with Desktop() as desktop:
-    for folder in HOST_FOLDERS:
-        os.makedirs(folder)
-    hold(HELD)
-    wizard = Wizard(desktop, sys.argv[1], "/Applications/output")
-    wizard.walk_to_the_confirmation()
-    screen = Screen(wizard)
-    click(wizard, "Install")
+def look_at_the_wait(wizard, screen):
     wait_for("the progress bar", lambda: BAR in wizard.said())
-    assert INSTALLING in wizard.said(), "the confirmation stays until the wait is over"
+    assert "push button Install focused" in wizard.said(), "the confirmation stays until the wait is over"
     screen.remember()
     screen.answers_a_ping()
     screen.cover_and_uncover()
@@ -129,13 +37,31 @@ with Desktop() as desktop:
     try_everything(wizard, screen)
     screen.answers_a_ping()
     screen.is_painted_again()
+
+
+def waits_until(desktop, outcome):
+    hold(HELD)
+    wizard = Wizard(desktop, BUNDLE, "/Applications/output")
+    wizard.walk_to_the_confirmation()
+    screen = Screen(wizard)
+    click(wizard, "Install")
+    look_at_the_wait(wizard, screen)
     impatient = clicking(wizard, "Next", 20)
     time.sleep(0.6)
     let_go(HELD)
     impatient.wait()
-    wait_for("the outcome", lambda: any("successfully installed" in words for words in wizard.said()))
+    wait_for("the outcome", lambda: any(outcome in words for words in wizard.said()))
     assert BAR not in wizard.said()
     assert wizard.process.poll() is None, "the outcome is there to be seen"
     time.sleep(1)  # a pause: from now on a click is meant for what is shown now
     click(wizard, "Close")
     wizard.ends()
+    shutil.rmtree(ELEMENT)
+
+
+with Desktop() as desktop:
+    for folder in HOST_FOLDERS:
+        os.makedirs(folder)
+    waits_until(desktop, "You have been successfully installed selected products.")
+    shutil.rmtree(BUNDLE + "/Resources/Products/Velvetgrain Lightroom/Velvetgrain 3 Lightroom/Corvellane Velvetgrain 3")
+    waits_until(desktop, "The installation was not completed successfully.")
