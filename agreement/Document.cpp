@@ -4,7 +4,7 @@
 #include "platform/Console.h"
 #include "platform/Files.h"
 #include "platform/Resources.h"
-#include "rtf/RtfReader.h"
+#include "rtf/Reader.h"
 
 #include <utility>
 
@@ -12,18 +12,18 @@ namespace corvellane {
 namespace {
 
 /// What is no rich text at all is no more than a file that does not open.
-Failure asFailure(const std::string& path, rtf::RtfFailure reason)
+Failure asFailure(const std::string& path, rtf::ReadFailure reason)
 {
-    const char* const why = reason == rtf::RtfFailure::incomplete ? " because it isn’t in the correct format" : "";
-    return {"The file “" + std::string(lastPathComponent(path)) + "” couldn’t be opened" + why + ".", 0};
+    const char* const why = reason == rtf::ReadFailure::incomplete ? " because it isn’t in the correct format" : "";
+    return {.message = "The file “" + std::string(lastPathComponent(path)) + "” couldn’t be opened" + why + "."};
 }
 
 } // namespace
 
 Expected<rtf::AttributedText> readAgreement(const Files& files, const std::string& path)
 {
-    return files.read(path, rtf::largestRtf).and_then([&](const std::string& bytes) {
-        return rtf::readRtf(bytes).map_error([&](rtf::RtfFailure reason) { return asFailure(path, reason); });
+    return files.read(path, rtf::largestInput).and_then([&](const std::string& bytes) {
+        return rtf::read(bytes).map_error([&](rtf::ReadFailure reason) { return asFailure(path, reason); });
     });
 }
 
@@ -37,14 +37,12 @@ Document::Document(const Resources& resources, const Files& files, Console& cons
 void Document::load(const std::string& file)
 {
     const auto path = resources_.file(file, "rtf");
-    if (!path) {
-        return console_.print("File not found");
+    auto text = path ? readAgreement(files_, *path) : Unexpected({.message = "File not found"});
+    if (text) {
+        data.set(*std::move(text));
+    } else {
+        console_.print(text.error().message);
     }
-    auto text = readAgreement(files_, *path);
-    if (!text) {
-        return console_.print(text.error().message);
-    }
-    data.set(*std::move(text));
 }
 
 } // namespace corvellane

@@ -1,5 +1,5 @@
 #include "bench/RtfSamples.h"
-#include "rtf/RtfReader.h"
+#include "rtf/Reader.h"
 
 #include <benchmark/benchmark.h>
 
@@ -29,7 +29,7 @@ void readWhole(benchmark::State& state, Sample sample)
 {
     const std::string bytes = sample(bytesOf(state));
     for ([[maybe_unused]] auto _ : state) {
-        auto result = rtf::readRtf(bytes);
+        auto result = rtf::read(bytes);
         if (!result) {
             state.SkipWithError("not read");
         }
@@ -42,7 +42,7 @@ void scan(benchmark::State& state, Sample sample)
 {
     const std::string bytes = sample(bytesOf(state));
     for ([[maybe_unused]] auto _ : state) {
-        benchmark::DoNotOptimize(scanForControls(rtf));
+        benchmark::DoNotOptimize(scanForControls(bytes));
     }
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
 }

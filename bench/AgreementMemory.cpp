@@ -1,5 +1,6 @@
-#include "agreement/AgreementFile.h"
+#include "agreement/Document.h"
 #include "bench/RtfSamples.h"
+#include "platform/posix/PosixFiles.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -26,8 +27,7 @@ long peakMemory(const std::filesystem::path& path)
 {
     const pid_t child = fork();
     if (child == 0) {
-        const auto result = readAgreement(path.string());
-        _exit(std::holds_alternative<rtf::AttributedText>(result) ? 0 : 1);
+        _exit(readAgreement(PosixFiles(), path.string()) ? 0 : 1);
     }
     int status = 0;
     rusage usage{};

@@ -1,5 +1,5 @@
 #include "bench/RtfSamples.h"
-#include "rtf/RtfReader.h"
+#include "rtf/Reader.h"
 #include "view/qt/RichTextViewer.h"
 
 #include <QApplication>
@@ -23,7 +23,7 @@ constexpr QSize pageSize(448, 290);
 
 const rtf::AttributedText& agreement()
 {
-    static const rtf::AttributedText text = rtf::readRtf(agreementSample(agreementSize)).value();
+    static const rtf::AttributedText text = rtf::read(agreementSample(agreementSize)).value();
     return text;
 }
 

@@ -1,4 +1,4 @@
-#include "rtf/RtfReader.h"
+#include "rtf/Reader.h"
 #include "tools/AgreementReport.h"
 
 #include <cstdint>
@@ -89,7 +89,7 @@ void requireBounded(const rtf::AttributedText& text, std::size_t size)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    if (const auto text = corvellane::rtf::readRtf(bytes)) {
+    if (const auto text = corvellane::rtf::read(bytes)) {
         corvellane::requireWhole(*text);
         corvellane::requireBounded(*text, size);
         corvellane::agreementJson(*text);

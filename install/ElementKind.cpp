@@ -1,7 +1,15 @@
 #include "install/ElementKind.h"
 
+#include "base/Enumerators.h"
+
+#include <algorithm>
+
 namespace corvellane {
 namespace {
+
+constexpr std::array kinds = enumerators<ElementKind, nameOf>;
+
+static_assert(traitsOf(kinds.back()).word.empty(), "the last kind takes what no other does");
 
 bool contains(std::string_view text, std::string_view word)
 {
@@ -12,10 +20,7 @@ bool contains(std::string_view text, std::string_view word)
 
 ElementKind kindOf(std::string_view elementPath)
 {
-    if (contains(elementPath, "Lightroom")) {
-        return ElementKind::lightroom;
-    }
-    return contains(elementPath, "Tessellane") ? ElementKind::video : ElementKind::photo;
+    return *std::ranges::find_if(kinds, [&](auto kind) { return contains(elementPath, traitsOf(kind).word); });
 }
 
 LightroomGeneration generationOf(std::string_view elementPath)
@@ -26,7 +31,7 @@ LightroomGeneration generationOf(std::string_view elementPath)
     return {"4", "E70E900E-6A66-4882-B59A-2B05764B1430"};
 }
 
-std::string_view supersededSuffix(std::string_view elementName)
+std::string supersededSuffix(std::string_view elementName)
 {
     return contains(elementName, "2") ? "2" : "";
 }

@@ -3,47 +3,11 @@
 #include "base/PathNames.h"
 #include "install/ElementKind.h"
 #include "install/ScriptEscapes.h"
-#include "install/ScriptTemplate.h"
+
+#include <utility>
 
 namespace corvellane {
 namespace {
-
-const ScriptTemplate header(R"(try
-do shell script "mkdir -p \"[APP]\"" with administrator privileges
-)");
-
-const ScriptTemplate videoFolder(R"(do shell script "mkdir -p \"[MC]\"" with administrator privileges
-)");
-
-const ScriptTemplate videoElement(R"(do shell script "cp -R -f \"[P]\" \"[APP]\"" with administrator privileges
-do shell script "rm -R -f \"[MC]Glintmotion[S].plugin\"" with administrator privileges
-do shell script "rm -R -f \"[MC]Velvetgrain[S].plugin\"" with administrator privileges
-do shell script "ln -f -h -s \"[APP][N]\" \"[MC][N]\""  with administrator privileges
-)");
-
-const ScriptTemplate photoFolder(R"(do shell script "mkdir -p \"[CC]\"" with administrator privileges
-)");
-
-const ScriptTemplate photoElement(R"(do shell script "cp -R -f \"[P]\" \"[APP]\"" with administrator privileges
-do shell script "ln -f -h -s \"[APP][N]\" \"[CC][N]\""  with administrator privileges
-)");
-
-// clang-format off
-    const ScriptTemplate lightroomElement(R"(do shell script "cp -R -f \"[P]\" \"[APP]\"" with administrator privileges
-do shell script "mkdir -p \"[LR]External Editor Presets/Corvellane/\"" with administrator privileges
-do shell script "mkdir -p \"[LR]Export Presets/Corvellane Velvetgrain [D]/\"" with administrator privileges
-do shell script "cp -R -f \"[APP][N]/Corvellane Velvetgrain [D]/\" \"[LR]Export Presets/Corvellane Velvetgrain [D]/\"" with administrator privileges
-do shell script "mkdir -p \"[LR]Modules/\"" with administrator privileges
-do shell script "ln -f -h -s \"[APP][N]/velvetgrain[D].lrdevplugin\" \"[LR]Modules/\""  with administrator privileges
-do shell script "echo \"[echo APP N]\" > \"[APP][N]/velvetgrain[D].lrdevplugin/Path.txt\""  with administrator privileges
-do shell script "echo \"s = {id = \\\"[ID]\\\",internalName = \\\"Corvellane Velvetgrain [D]\\\",title = \\\"Corvellane Velvetgrain [D]\\\",type = \\\"ExternalEditor\\\",value = {
-externalEditingFormat = \\\"TIFF_None_16_ProPhotoRGB\\\",externalEditingFormat_dpi = 240,externalEditorFullPath = \\\"[Lua APP N]/Velvetgrain[D].app\\\",
-},version = 0,}\" > \"[LR]External Editor Presets/Corvellane/Corvellane Velvetgrain [D].lrtemplate\"" with administrator privileges
-do shell script "chown -R $USER \"[LR]External Editor Presets/Corvellane/\"" with administrator privileges
-do shell script "chown -R $USER \"[LR]Export Presets/Corvellane Velvetgrain [D]/\"" with administrator privileges
-do shell script "chown -R $USER \"[LR]Modules/\"" with administrator privileges
-)");
-// clang-format on
 
 constexpr const char* closing = R"(
 on error errMsg
@@ -51,67 +15,102 @@ return errMsg
 end try
 return "Ok")";
 
+/// A text in double quotes for the shell, inside a literal of the script.
+std::string quoted(const std::string& text)
+{
+    return R"(\")" + text + R"(\")";
+}
+
+/// A text in double quotes for Lua, inside such a text.
+std::string luaQuoted(const std::string& text)
+{
+    return R"(\\\")" + text + R"(\\\")";
+}
+
+/// What Lightroom reads to offer an external editor.
+std::string editorPreset(const std::string& identifier, const std::string& title, const std::string& application)
+{
+    return "s = {id = " + luaQuoted(identifier) + ",internalName = " + luaQuoted(title) + ",title = " + luaQuoted(title)
+        + ",type = " + luaQuoted("ExternalEditor")
+        + ",value = {\nexternalEditingFormat = " + luaQuoted("TIFF_None_16_ProPhotoRGB")
+        + ",externalEditingFormat_dpi = 240,externalEditorFullPath = " + luaQuoted(application) + ",\n},version = 0,}";
+}
+
+/// Writes the script command by command. What a command quotes has been escaped for it before.
 class Composer {
 public:
     explicit Composer(const HostPaths& hosts)
         : hosts_(hosts)
+        , escaped_{asArgument(hosts.application), asArgument(hosts.video), asArgument(hosts.photo),
+              asArgument(hosts.lightroom)}
     {
-        fillings_[Place::application] = asArgument(hosts.application);
-        fillings_[Place::video] = asArgument(hosts.video);
-        fillings_[Place::photo] = asArgument(hosts.photo);
-        fillings_[Place::lightroom] = asArgument(hosts.lightroom);
-        append(header);
+        createFolder(escaped_.application);
     }
 
     void appendElement(const std::string& path)
     {
-        const std::string_view name = lastPathComponent(path);
-        fillings_[Place::element] = asArgument(path);
-        fillings_[Place::name] = asArgument(name);
-        switch (kindOf(path)) {
+        const std::string ownName(lastPathComponent(path));
+        const std::string name = asArgument(ownName);
+        const ElementKind kind = kindOf(path);
+        const std::string& host = escaped_.*traitsOf(kind).folder;
+        if (kind != ElementKind::lightroom && std::exchange(createsFolder_, false)) {
+            createFolder(host);
+        }
+        copy(asArgument(path), escaped_.application);
+        switch (kind) {
         case ElementKind::lightroom:
-            return appendLightroomElement(path, name);
+            return appendLightroomLines(generationOf(path), hosts_.application + ownName, escaped_.application + name);
         case ElementKind::video:
-            fillings_[Place::suffix] = supersededSuffix(name);
-            return appendLinkedElement(videoFolder, videoElement);
+            remove(host + "Glintmotion" + supersededSuffix(ownName) + ".plugin");
+            remove(host + "Velvetgrain" + supersededSuffix(ownName) + ".plugin");
+            return link(escaped_.application + name, host + name);
         case ElementKind::photo:
-            return appendLinkedElement(photoFolder, photoElement);
+            return link(escaped_.application + name, host + name);
         }
     }
 
-    std::string finish()
-    {
-        script_ += closing;
-        return std::move(script_);
-    }
+    std::string finish() { return std::move(script_ += closing); }
 
 private:
-    void append(const ScriptTemplate& lines) { lines.appendTo(script_, fillings_); }
-
-    void appendLinkedElement(const ScriptTemplate& folder, const ScriptTemplate& element)
+    void appendLightroomLines(
+        const LightroomGeneration& generation, const std::string& unescaped, const std::string& installed)
     {
-        if (createsFolder_) {
-            append(folder);
-            createsFolder_ = false;
+        const std::string title = "Corvellane Velvetgrain " + generation.digit;
+        const std::string editors = escaped_.lightroom + "External Editor Presets/Corvellane/";
+        const std::string presets = escaped_.lightroom + "Export Presets/" + title + "/";
+        const std::string modules = escaped_.lightroom + "Modules/";
+        const std::string plugin = installed + "/velvetgrain" + generation.digit + ".lrdevplugin";
+        const std::string application = asEchoedLuaString(unescaped) + "/Velvetgrain" + generation.digit + ".app";
+        createFolder(editors);
+        createFolder(presets);
+        copy(installed + "/" + title + "/", presets);
+        createFolder(modules);
+        link(plugin, modules);
+        append("echo " + quoted(asEchoedText(unescaped)) + " > " + quoted(plugin + "/Path.txt"), "  ");
+        append("echo " + quoted(editorPreset(generation.presetIdentifier, title, application)) + " > "
+            + quoted(editors + title + ".lrtemplate"));
+        for (const std::string& folder : {editors, presets, modules}) {
+            append("chown -R $USER " + quoted(folder));
         }
-        append(element);
     }
 
-    void appendLightroomElement(std::string_view path, std::string_view name)
+    void createFolder(const std::string& folder) { append("mkdir -p " + quoted(folder)); }
+    void copy(const std::string& from, const std::string& to) { append("cp -R -f " + quoted(from) + " " + quoted(to)); }
+    void remove(const std::string& bundle) { append("rm -R -f " + quoted(bundle)); }
+    void link(const std::string& to, const std::string& at)
     {
-        const LightroomGeneration generation = generationOf(path);
-        std::string installed = hosts_.application;
-        installed += name;
-        fillings_[Place::digit] = generation.digit;
-        fillings_[Place::identifier] = generation.presetIdentifier;
-        fillings_[Place::echoedInstalledElement] = asEchoedText(installed);
-        fillings_[Place::luaInstalledElement] = asEchoedLuaString(installed);
-        append(lightroomElement);
+        append("ln -f -h -s " + quoted(to) + " " + quoted(at), "  ");
+    }
+
+    void append(const std::string& command, const char* space = " ")
+    {
+        script_.append("do shell script \"").append(command).append("\"").append(space);
+        script_.append("with administrator privileges\n");
     }
 
     const HostPaths& hosts_;
-    Fillings fillings_;
-    std::string script_;
+    HostPaths escaped_;
+    std::string script_ = "try\n";
     bool createsFolder_ = true;
 };
 

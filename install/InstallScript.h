@@ -1,21 +1,11 @@
 #pragma once
 
+#include "install/HostPaths.h"
+
 #include <string>
 #include <vector>
 
 namespace corvellane {
-
-/// The folders that an installation writes to; each ends with "/".
-struct HostPaths {
-    /// Receives every element.
-    std::string application;
-    /// Receives links to the video elements.
-    std::string video;
-    /// Receives links to the photo elements.
-    std::string photo;
-    /// Receives the Lightroom elements' presets and a link to their plug-in.
-    std::string lightroom;
-};
 
 /// The whole automation script that installs the elements, in their order; ends without a line feed.
 ///

@@ -6,48 +6,32 @@
 namespace corvellane {
 namespace {
 
-/// What each byte becomes; most stay as they are.
+/// What each byte becomes; those without a replacement stay as they are.
 class Escapes {
 public:
     constexpr Escapes& with(char character, std::string_view replacement)
     {
         replacements_[static_cast<unsigned char>(character)] = replacement;
-        isPlain_[static_cast<unsigned char>(character)] = false;
         return *this;
     }
 
     std::string apply(std::string text) const
     {
-        const auto firstEscaped = std::find_if_not(text.begin(), text.end(), [&](char byte) { return isPlain(byte); });
-        if (firstEscaped == text.end()) {
+        if (std::ranges::all_of(text, [&](char byte) { return replacementOf(byte).empty(); })) {
             return text;
         }
-        std::string escaped(text.begin(), firstEscaped);
-        std::for_each(firstEscaped, text.end(), [&](char byte) { append(escaped, byte); });
+        std::string escaped;
+        for (const char byte : text) {
+            const std::string_view replacement = replacementOf(byte);
+            escaped += replacement.empty() ? std::string_view(&byte, 1) : replacement;
+        }
         return escaped;
     }
 
 private:
-    bool isPlain(char byte) const { return isPlain_[static_cast<unsigned char>(byte)]; }
-
-    void append(std::string& escaped, char byte) const
-    {
-        if (isPlain(byte)) {
-            escaped += byte;
-        } else {
-            escaped += replacements_[static_cast<unsigned char>(byte)];
-        }
-    }
-
-    static constexpr std::array<bool, 256> allPlain()
-    {
-        std::array<bool, 256> plain{};
-        plain.fill(true);
-        return plain;
-    }
+    std::string_view replacementOf(char byte) const { return replacements_[static_cast<unsigned char>(byte)]; }
 
     std::array<std::string_view, 256> replacements_{};
-    std::array<bool, 256> isPlain_ = allPlain();
 };
 
 constexpr Escapes luaEscapes = Escapes().with('\\', R"(\\)").with('"', R"(\")").with('\n', R"(\n)").with('\r', R"(\r)");

@@ -1,29 +1,18 @@
 #include "install/ScriptOutcome.h"
 
-#include <utility>
-
 namespace corvellane {
-namespace {
 
-ScriptOutcome::Ending endingOf(const std::string& resultText)
+std::optional<std::string> resultText(const ScriptExecution& execution)
 {
-    if (resultText == "User canceled.") {
-        return ScriptOutcome::Ending::canceled;
-    }
-    return resultText == "Ok" ? ScriptOutcome::Ending::succeeded : ScriptOutcome::Ending::failed;
+    return execution.result ? execution.result->text : std::nullopt;
 }
 
-} // namespace
-
-ScriptOutcome outcomeOf(ScriptExecution execution)
+ScriptOutcome outcomeOf(const std::string& resultText)
 {
-    ScriptOutcome outcome;
-    outcome.errorDescription = std::move(execution.errorDescription);
-    if (execution.result && execution.result->text) {
-        outcome.resultText = *std::move(execution.result->text);
-        outcome.ending = endingOf(outcome.resultText);
+    if (resultText == "User canceled.") {
+        return ScriptOutcome::canceled;
     }
-    return outcome;
+    return resultText == "Ok" ? ScriptOutcome::succeeded : ScriptOutcome::failed;
 }
 
 } // namespace corvellane

@@ -1,34 +1,49 @@
 #include "products/Product.h"
 
-#include "platform/StandardFolders.h"
-
 namespace corvellane {
-namespace {
 
-LazyText baseFolder(const StandardFolders& folders, SearchDirectory directory, SearchDomain domain)
+std::string Product::applications() const
 {
-    return LazyText([&folders, directory, domain] {
-        const auto paths = folders.searchPaths(directory, domain);
-        return paths.empty() ? std::string() : paths.front();
+    return firstFolder(applications_, SearchDirectory::applications, SearchDomain::local);
+}
+
+std::string Product::applicationSupport() const
+{
+    return firstFolder(applicationSupport_, SearchDirectory::applicationSupport, SearchDomain::local);
+}
+
+std::string Product::userApplicationSupport() const
+{
+    return firstFolder(userApplicationSupport_, SearchDirectory::applicationSupport, SearchDomain::user);
+}
+
+std::string Product::appCorvellane() const
+{
+    return applications() + "/Corvellane/";
+}
+
+std::string Product::appSuppCorvellaneVideo() const
+{
+    return applicationSupport() + "/Adobe/Common/Plug-ins/7.0/MediaCore/Corvellane/";
+}
+
+std::string Product::appSuppCorvellane() const
+{
+    return applicationSupport() + "/Adobe/Plug-Ins/CC/Corvellane/";
+}
+
+std::string Product::userAppSuppLR() const
+{
+    return userApplicationSupport() + "/Adobe/Lightroom/";
+}
+
+std::string Product::firstFolder(LookUp& lookUp, SearchDirectory directory, SearchDomain domain) const
+{
+    std::call_once(lookUp.once, [&] {
+        const auto folders = folders_.searchPaths(directory, domain);
+        lookUp.folder = folders.empty() ? "" : folders.front();
     });
-}
-
-LazyText folderBelow(const LazyText& base, const char* tail)
-{
-    return LazyText([&base, tail] { return base.get() + tail; });
-}
-
-} // namespace
-
-Product::Product(const StandardFolders& folders)
-    : applications_(baseFolder(folders, SearchDirectory::applications, SearchDomain::local))
-    , applicationSupport_(baseFolder(folders, SearchDirectory::applicationSupport, SearchDomain::local))
-    , userApplicationSupport_(baseFolder(folders, SearchDirectory::applicationSupport, SearchDomain::user))
-    , appCorvellane_(folderBelow(applications_, "/Corvellane/"))
-    , appSuppCorvellaneVideo_(folderBelow(applicationSupport_, "/Adobe/Common/Plug-ins/7.0/MediaCore/Corvellane/"))
-    , appSuppCorvellane_(folderBelow(applicationSupport_, "/Adobe/Plug-Ins/CC/Corvellane/"))
-    , userAppSuppLR_(folderBelow(userApplicationSupport_, "/Adobe/Lightroom/"))
-{
+    return lookUp.folder;
 }
 
 } // namespace corvellane

@@ -1,64 +1,48 @@
 #pragma once
 
-#include <functional>
+#include "platform/StandardFolders.h"
+
 #include <mutex>
 #include <string>
 
 namespace corvellane {
 
-class StandardFolders;
-
-/// A text that is worked out at its first reading, once, whichever threads read it.
-class LazyText {
-public:
-    explicit LazyText(std::function<std::string()> compute)
-        : compute_(std::move(compute))
-    {
-    }
-
-    const std::string& get() const
-    {
-        std::call_once(computed_, [this] { text_ = compute_(); });
-        return text_;
-    }
-
-private:
-    std::function<std::string()> compute_;
-    mutable std::once_flag computed_;
-    mutable std::string text_;
-};
-
 /// The places that products are installed into, as path texts. The three base folders have no trailing "/" and are
-/// empty when the system names none; the four derived folders always end with "/". Each is asked for at most once;
-/// any thread may read.
+/// empty when the system names none; the four derived folders always end with "/". The system is asked for each base
+/// folder at its first reading and never again; any thread may read.
 class Product {
 public:
     /// The folders must outlive the product.
-    explicit Product(const StandardFolders& folders);
-    Product(const Product&) = delete;
-    Product& operator=(const Product&) = delete;
+    explicit Product(const StandardFolders& folders)
+        : folders_(folders)
+    {
+    }
 
-    const std::string& applications() const { return applications_.get(); }
-    const std::string& applicationSupport() const { return applicationSupport_.get(); }
-    const std::string& userApplicationSupport() const { return userApplicationSupport_.get(); }
+    std::string applications() const;
+    std::string applicationSupport() const;
+    std::string userApplicationSupport() const;
 
     /// The maker's own folder, which receives every installed element.
-    const std::string& appCorvellane() const { return appCorvellane_.get(); }
+    std::string appCorvellane() const;
     /// Where the video applications look for plug-ins.
-    const std::string& appSuppCorvellaneVideo() const { return appSuppCorvellaneVideo_.get(); }
+    std::string appSuppCorvellaneVideo() const;
     /// Where the photo applications look for plug-ins.
-    const std::string& appSuppCorvellane() const { return appSuppCorvellane_.get(); }
+    std::string appSuppCorvellane() const;
     /// Lightroom's folder of the user.
-    const std::string& userAppSuppLR() const { return userAppSuppLR_.get(); }
+    std::string userAppSuppLR() const;
 
 private:
-    LazyText applications_;
-    LazyText applicationSupport_;
-    LazyText userApplicationSupport_;
-    LazyText appCorvellane_;
-    LazyText appSuppCorvellaneVideo_;
-    LazyText appSuppCorvellane_;
-    LazyText userAppSuppLR_;
+    struct LookUp {
+        std::once_flag once;
+        std::string folder;
+    };
+
+    std::string firstFolder(LookUp& lookUp, SearchDirectory directory, SearchDomain domain) const;
+
+    const StandardFolders& folders_;
+    mutable LookUp applications_;
+    mutable LookUp applicationSupport_;
+    mutable LookUp userApplicationSupport_;
 };
 
 } // namespace corvellane

@@ -15,13 +15,13 @@ ProductSelection::ProductSelection(std::vector<std::string> locations)
 
 bool ProductSelection::isTicked(const std::string& location) const
 {
-    const auto found = std::find(locations_->begin(), locations_->end(), location);
+    const auto found = std::ranges::find(*locations_, location);
     return found != locations_->end() && ticks_[static_cast<std::size_t>(found - locations_->begin())];
 }
 
 bool ProductSelection::anyTicked() const
 {
-    return std::find(ticks_.begin(), ticks_.end(), true) != ticks_.end();
+    return std::ranges::find(ticks_, true) != ticks_.end();
 }
 
 std::vector<std::string> ProductSelection::ticked() const
@@ -37,7 +37,7 @@ std::vector<std::string> ProductSelection::ticked() const
 
 void ProductSelection::toggle(const std::string& location)
 {
-    const auto found = std::find(locations_->begin(), locations_->end(), location);
+    const auto found = std::ranges::find(*locations_, location);
     if (found == locations_->end()) {
         return add(location);
     }

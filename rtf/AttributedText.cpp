@@ -10,7 +10,7 @@ std::vector<TabStop> AttributedText::tabsOf(const ParagraphFormat& format) const
     for (std::uint32_t next = format.lastTab; next != 0; next = stops.back().previous) {
         stops.push_back(tabStops[next - 1]);
     }
-    std::reverse(stops.begin(), stops.end());
+    std::ranges::reverse(stops);
     return stops;
 }
 

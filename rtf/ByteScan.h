@@ -8,19 +8,16 @@
 
 namespace corvellane::rtf {
 
-/// True for a byte that RTF takes as text: no control character but the tab, no backslash, no brace.
-constexpr bool isRtfText(char byte)
-{
-    return (static_cast<unsigned char>(byte) >= 0x20 || byte == '\t') && byte != '\\' && byte != '{' && byte != '}';
-}
-
 /// Which bytes a scan goes over.
 enum class TextBytes : bool { all, ascii };
 
+/// True for a byte that RTF takes as text: no control character but the tab, no backslash, no brace.
 template <TextBytes Kind>
 constexpr bool isTextByte(char byte)
 {
-    return isRtfText(byte) && (Kind == TextBytes::all || static_cast<unsigned char>(byte) < 0x80);
+    const auto code = static_cast<unsigned char>(byte);
+    return (code >= 0x20 || byte == '\t') && byte != '\\' && byte != '{' && byte != '}'
+        && (Kind == TextBytes::all || code < 0x80);
 }
 
 /// True when eight bytes, in any order, are all text. A false answer may be wrong.

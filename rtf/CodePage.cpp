@@ -106,8 +106,7 @@ iconv_t handle(void* converter)
 
 int codePageOfCharset(int charset)
 {
-    const auto* const found
-        = std::find_if(charsetPages.begin(), charsetPages.end(), [&](auto& row) { return row.charset == charset; });
+    const auto* const found = std::ranges::find(charsetPages, charset, &CharsetPage::charset);
     return found == charsetPages.end() ? 0 : found->page;
 }
 
@@ -116,8 +115,7 @@ std::unique_ptr<CodePage> CodePage::open(int number)
     if (number == symbolPage || number == wingdingsPage) {
         return std::make_unique<CodePage>(number == symbolPage ? symbolCharacters : wingdingsCharacters);
     }
-    const auto* const found
-        = std::find_if(pageNames.begin(), pageNames.end(), [&](auto& row) { return row.number == number; });
+    const auto* const found = std::ranges::find(pageNames, number, &PageName::number);
     if (found == pageNames.end()) {
         return nullptr;
     }
@@ -135,7 +133,7 @@ CodePage::CodePage(std::u32string_view charactersFromSpace)
     for (char32_t code = 0; code < 0x20; ++code) {
         singles_[code] = code;
     }
-    std::copy(charactersFromSpace.begin(), charactersFromSpace.end(), singles_.begin() + 0x20);
+    std::ranges::copy(charactersFromSpace, singles_.begin() + 0x20);
 }
 
 CodePage::CodePage(void* converter)
@@ -179,7 +177,7 @@ char32_t CodePage::convert(std::string_view bytes)
         return invalid;
     }
     std::array<char, 4> in{};
-    std::copy(bytes.begin(), bytes.end(), in.begin());
+    std::ranges::copy(bytes, in.begin());
     std::array<unsigned char, 16> out{};
     char* from = in.data();
     char* to = reinterpret_cast<char*>(out.data());

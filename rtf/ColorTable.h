@@ -23,10 +23,11 @@ public:
         entry_ = 0;
     }
 
+    /// None for an index below zero or beyond the table, too.
     std::uint32_t color(std::int32_t index) const
     {
         const auto place = static_cast<std::size_t>(index);
-        return index >= 0 && place < colors_.size() ? colors_[place] : 0;
+        return place < colors_.size() ? colors_[place] : 0;
     }
 
 private:

@@ -12,6 +12,7 @@ struct StyleWord {
     bool italic;
 };
 
+/// None stands after one that it begins with.
 constexpr auto styleWords = std::to_array<StyleWord>({
     {"Regular", false, false},
     {"Roman", false, false},
@@ -80,8 +81,7 @@ constexpr auto charsetMarks = std::to_array<std::string_view>({
 
 std::string_view familyOf(std::string_view postScript)
 {
-    const auto* const found
-        = std::find_if(familyNames.begin(), familyNames.end(), [&](auto& row) { return row.postScript == postScript; });
+    const auto* const found = std::ranges::find(familyNames, postScript, &FamilyName::postScript);
     return found == familyNames.end() ? postScript : found->family;
 }
 
@@ -89,17 +89,14 @@ std::string_view familyOf(std::string_view postScript)
 bool readStyle(std::string_view style, FontFace& face)
 {
     while (!style.empty()) {
-        const StyleWord* best = nullptr;
-        for (const StyleWord& candidate : styleWords) {
-            const bool longer = best == nullptr || candidate.word.size() > best->word.size();
-            best = longer && style.starts_with(candidate.word) ? &candidate : best;
-        }
-        if (best == nullptr) {
+        const auto* const found
+            = std::ranges::find_if(styleWords, [&](auto& row) { return style.starts_with(row.word); });
+        if (found == styleWords.end()) {
             return false;
         }
-        face.bold = face.bold || best->bold;
-        face.italic = face.italic || best->italic;
-        style.remove_prefix(best->word.size());
+        face.bold = face.bold || found->bold;
+        face.italic = face.italic || found->italic;
+        style.remove_prefix(found->word.size());
     }
     return true;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "rtf/RtfState.h"
+#include "rtf/State.h"
 
 #include <cstddef>
 #include <vector>

@@ -14,9 +14,9 @@ CharacterState visibleState(CharacterState state, const FontTable& fonts)
 {
     const Font& font = fonts.font(state.font);
     state.font = static_cast<std::int32_t>(font.family);
-    state[CharacterFlag::bold] |= static_cast<std::uint8_t>(font.bold);
-    state[CharacterFlag::italic] |= static_cast<std::uint8_t>(font.italic);
-    state[CharacterFlag::hidden] = 0;
+    state.bold = state.bold || font.bold;
+    state.italic = state.italic || font.italic;
+    state.hidden = false;
     return state;
 }
 
@@ -92,7 +92,7 @@ AttributedText TextBuilder::take(const FontTable& fonts)
 {
     const auto convert = [](const auto& states, auto& values, auto conversion) {
         values.reserve(states.size());
-        std::transform(states.begin(), states.end(), std::back_inserter(values), conversion);
+        std::ranges::transform(states, std::back_inserter(values), conversion);
     };
     convert(attributes_.values(), result_.attributes, textAttributes);
     convert(paragraphs_.values(), result_.formats, paragraphFormat);

@@ -3,7 +3,7 @@
 #include "rtf/AttributedText.h"
 #include "rtf/FontTable.h"
 #include "rtf/Interner.h"
-#include "rtf/RtfState.h"
+#include "rtf/State.h"
 
 #include <cstdint>
 #include <string>

@@ -42,14 +42,14 @@ std::size_t TextDecoder::appendCharacters(std::string_view bytes, CodePage& page
     while (
         from != end && to + longestUtf8 <= buffer.data() + buffer.size() && static_cast<unsigned char>(*from) >= 0x80) {
         char32_t code = page.decode(*from);
-        if (code <= 0x10FFFF) {
-            from += 1;
-        } else if (code == CodePage::incomplete && end - from > 1
-            && (code = page.decode(from[0], from[1])) <= 0x10FFFF) {
-            from += 2;
-        } else {
+        const bool isPair = code == CodePage::incomplete && end - from > 1;
+        if (isPair) {
+            code = page.decode(from[0], from[1]);
+        }
+        if (code > 0x10FFFF) {
             break;
         }
+        from += isPair ? 2 : 1;
         to += writeUtf8(to, code);
     }
     out.append(buffer.data(), static_cast<std::size_t>(to - buffer.data()));
@@ -100,7 +100,6 @@ bool TextDecoder::completesCharacter(char byte, CodePage& page, const std::strin
 
 void TextDecoder::appendUnit(char32_t code, std::string& out)
 {
-    leadLength_ = 0;
     const char32_t high = highSurrogate_;
     highSurrogate_ = 0;
     if (code >= 0xD800 && code <= 0xDBFF) {

@@ -6,12 +6,12 @@
 #include "platform/Console.h"
 #include "platform/Dispatcher.h"
 #include "platform/Pasteboard.h"
+#include "platform/ScriptService.h"
 #include "platform/Workspace.h"
 #include "products/Discovery.h"
 
 #include <algorithm>
 #include <iterator>
-#include <latch>
 #include <utility>
 
 namespace corvellane {
@@ -39,15 +39,15 @@ void AppSettings::nextAction()
         if (!agreeWithTerms.get()) {
             return showLicenseAlert.set(true);
         }
-        break;
+        [[fallthrough]];
+    case Page::intro:
+    case Page::products:
+        return currentPage.set(pageAfter(currentPage.get()));
     case Page::install:
         return showPermanentlyAlert.set(true);
     case Page::summary:
         return terminateApp();
-    default:
-        break;
     }
-    currentPage.set(pageAfter(currentPage.get()));
 }
 
 void AppSettings::goBack()
@@ -110,12 +110,7 @@ void AppSettings::refreshProducts()
 
 ProductSelection AppSettings::productsToInstall()
 {
-    auto discovered = discoverProducts(platform_.resources, platform_.files);
-    if (!discovered) {
-        printFailure(discovered.error());
-        return {};
-    }
-    return ProductSelection(*std::move(discovered));
+    return ProductSelection(foldersOrNone(discoverProducts(platform_.resources, platform_.files)));
 }
 
 bool AppSettings::selectedExist() const
@@ -137,19 +132,18 @@ std::vector<std::string> AppSettings::elementsToCopy()
 {
     std::vector<std::string> elements;
     for (const std::string& location : products.get().ticked()) {
-        auto found = foldersIn(platform_.files, location);
-        if (!found) {
-            printFailure(found.error());
-            continue;
-        }
-        std::move(found->begin(), found->end(), std::back_inserter(elements));
+        std::ranges::move(foldersOrNone(foldersIn(platform_.files, location)), std::back_inserter(elements));
     }
     return elements;
 }
 
-void AppSettings::printFailure(const Failure& failure)
+std::vector<std::string> AppSettings::foldersOrNone(Expected<std::vector<std::string>> folders)
 {
-    platform_.console.print("Fail__ " + failure.message);
+    if (!folders) {
+        platform_.console.print("Fail__ " + folders.error().message);
+        return {};
+    }
+    return *std::move(folders);
 }
 
 // Installation
@@ -170,32 +164,35 @@ void AppSettings::installSelectedProducts()
 
 void AppSettings::performScript(std::string script)
 {
-    runInBackground(
-        std::move(script), [this](ScriptExecution execution) { applyOutcome(outcomeOf(std::move(execution))); });
+    runInBackground(std::move(script), &AppSettings::applyOutcome);
 }
 
-void AppSettings::applyOutcome(const ScriptOutcome& outcome)
+void AppSettings::applyOutcome(const ScriptExecution& execution)
 {
-    using Ending = ScriptOutcome::Ending;
-    if (outcome.errorDescription) {
-        platform_.console.print("Error: " + *outcome.errorDescription);
+    if (execution.errorDescription) {
+        platform_.console.print("Error: " + *execution.errorDescription);
         completedWithErrors.set(true);
     }
-    if (outcome.ending == Ending::unknown || outcome.ending == Ending::canceled) {
+    const std::optional<std::string> text = resultText(execution);
+    if (!text) {
         return;
     }
-    if (outcome.ending == Ending::failed) {
+    switch (outcomeOf(*text)) {
+    case ScriptOutcome::canceled:
+        return;
+    case ScriptOutcome::failed:
         completedWithErrors.set(true);
-        logDetailsStr = outcome.resultText;
+        logDetailsStr = *text;
+        [[fallthrough]];
+    case ScriptOutcome::succeeded:
+        currentPage.set(Page::summary);
+        platform_.console.print("ERROR VALUE " + *text);
     }
-    currentPage.set(Page::summary);
-    platform_.console.print("ERROR VALUE " + outcome.resultText);
 }
 
 void AppSettings::checkAccess()
 {
-    runInBackground(
-        std::string(accessProbeScript), [this](const ScriptExecution& execution) { applyProbe(execution); });
+    runInBackground(std::string(accessProbeScript), &AppSettings::applyProbe);
 }
 
 void AppSettings::applyProbe(const ScriptExecution& execution)
@@ -205,35 +202,36 @@ void AppSettings::applyProbe(const ScriptExecution& execution)
         platform_.console.print("Error: " + *execution.errorDescription);
         return;
     }
-    if (!execution.result || !execution.result->text) {
+    const std::optional<std::string> text = resultText(execution);
+    if (!text) {
         return;
     }
-    accessType.set(finderAccessFromRawValue(*execution.result->text).value_or(FinderAccess::unknown));
+    accessType.set(finderAccessFromRawValue(*text).value_or(FinderAccess::unknown));
     if (accessType.get() == FinderAccess::allowed) {
         installSelectedProducts();
-        showFinderAlert.set(false);
-    } else {
-        showFinderAlert.set(true);
     }
+    showFinderAlert.set(accessType.get() != FinderAccess::allowed);
 }
 
 /// Blocks until the script has ended; `completion` follows on the main queue, unless the service makes no script.
-void AppSettings::runInBackground(std::string source, std::function<void(ScriptExecution)> completion)
+void AppSettings::runInBackground(std::string source, Completion completion)
 {
-    const auto ended = std::make_shared<std::latch>(1);
+    const std::shared_ptr<WaitGroup> group = platform_.dispatcher.makeWaitGroup();
+    group->enter();
     platform_.dispatcher.submitToBackground(
-        [self = shared_from_this(), source = std::move(source), completion = std::move(completion), ended]() mutable {
+        [self = shared_from_this(), group, completion, source = std::move(source)]() mutable {
             const auto script = self->platform_.scripts.create(std::move(source));
-            if (script == nullptr) {
-                return ended->count_down();
+            auto execution = script ? std::optional(script->execute()) : std::nullopt;
+            group->leave();
+            if (execution) {
+                Dispatcher& dispatcher = self->platform_.dispatcher;
+                // Moved on, so that the main thread is the last to hold the state.
+                dispatcher.submitToMain([self = std::move(self), completion, execution = *std::move(execution)] {
+                    ((*self).*completion)(execution);
+                });
             }
-            auto execution = std::make_shared<ScriptExecution>(script->execute());
-            ended->count_down();
-            Dispatcher& dispatcher = self->platform_.dispatcher;
-            dispatcher.submitToMain([self = std::move(self), completion = std::move(completion),
-                                        execution = std::move(execution)] { completion(std::move(*execution)); });
         });
-    ended->wait();
+    group->wait();
 }
 
 } // namespace corvellane

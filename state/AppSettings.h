@@ -6,21 +6,19 @@
 #include "base/Snapshot.h"
 #include "install/InstallScript.h"
 #include "platform/Platform.h"
-#include "platform/ScriptService.h"
 #include "products/Product.h"
 #include "products/ProductSelection.h"
 #include "state/FinderAccess.h"
 #include "state/Page.h"
 #include "state/PageFlow.h"
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace corvellane {
 
-struct ScriptOutcome;
+struct ScriptExecution;
 
 /// The one state object of a run of the installer, and everything that writes it. Made as a `std::shared_ptr`; main
 /// thread only. The background work it starts keeps it alive until that work's results have been written.
@@ -93,10 +91,13 @@ public:
     void checkAccess();
 
 private:
-    void runInBackground(std::string source, std::function<void(ScriptExecution)> completion);
-    void applyOutcome(const ScriptOutcome& outcome);
+    using Completion = void (AppSettings::*)(const ScriptExecution&);
+
+    void runInBackground(std::string source, Completion completion);
+    void applyOutcome(const ScriptExecution& execution);
     void applyProbe(const ScriptExecution& execution);
-    void printFailure(const Failure& failure);
+    /// Says on the console why there are none.
+    std::vector<std::string> foldersOrNone(Expected<std::vector<std::string>> folders);
 
     Platform platform_;
     Product product_;

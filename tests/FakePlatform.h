@@ -13,7 +13,10 @@
 #include "platform/Workspace.h"
 
 #include <deque>
+#include <functional>
+#include <initializer_list>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -21,54 +24,90 @@
 
 namespace corvellane {
 
+/// All that happens in a small world, in its order, a line each.
+using Journal = std::vector<std::string>;
+
+/// Part of a world, whose journal it writes; alone it has one of its own.
+struct Witness {
+    void note(std::string line) const { journal->push_back(std::move(line)); }
+    std::shared_ptr<Journal> journal = std::make_shared<Journal>();
+};
+
 struct FakeMenu : Menu {
     std::vector<std::string> itemTitles() const override { return titles; }
     void removeItem(std::size_t index) override { titles.erase(titles.begin() + static_cast<std::ptrdiff_t>(index)); }
     std::vector<std::string> titles;
 };
 
-struct FakeApplication : Application {
-    void terminate() override { ++terminations; }
+struct FakeApplication : Application, Witness {
+    void terminate() override
+    {
+        note("terminate");
+        ++terminations;
+    }
     Menu* mainMenu() override { return menu ? &*menu : nullptr; }
     int terminations = 0;
     std::optional<FakeMenu> menu;
 };
 
-struct FakeConsole : Console {
-    void print(std::string_view text) override { lines.emplace_back(text); }
+struct FakeConsole : Console, Witness {
+    void print(std::string_view text) override
+    {
+        lines.emplace_back(text);
+        note("print " + lines.back());
+    }
     std::vector<std::string> lines;
 };
 
-/// Everything that is waited for has ended before the wait begins.
-struct FakeWaitGroup : WaitGroup {
-    void enter() override { ++inside; }
-    void leave() override { --inside; }
-    void wait() override { }
-    int inside = 0;
-};
-
-/// Runs background tasks at their submission and keeps those of the main queue until they are asked for.
-struct FakeDispatcher : Dispatcher {
-    void submitToBackground(Task task) override { task(); }
-    void submitToMain(Task task) override { mainQueue.push_back(std::move(task)); }
-    std::shared_ptr<WaitGroup> makeWaitGroup() override { return std::make_shared<FakeWaitGroup>(); }
-
-    void runMainQueue()
+/// Keeps background tasks until somebody waits, and those of the main queue until they are asked for; is its own and
+/// only wait group.
+struct FakeDispatcher : Dispatcher, WaitGroup, Witness {
+    void submitToBackground(Task task) override
     {
-        while (!mainQueue.empty()) {
-            const Task task = std::move(mainQueue.front());
-            mainQueue.pop_front();
-            task();
+        note("submit to the background");
+        background.push_back(std::move(task));
+    }
+    void submitToMain(Task task) override
+    {
+        note("submit to the main queue");
+        mainQueue.push_back(std::move(task));
+    }
+    std::shared_ptr<WaitGroup> makeWaitGroup() override { return {std::shared_ptr<void>(), this}; }
+
+    void enter() override { count("enter", 1); }
+    void leave() override { count("leave", -1); }
+    void wait() override
+    {
+        note("wait");
+        run(background);
+        note(inside == 0 ? "wait is over" : "wait never ends");
+    }
+
+    void count(std::string line, int change)
+    {
+        note(std::move(line));
+        inside += change;
+    }
+
+    void runMainQueue() { run(mainQueue); }
+
+    static void run(std::deque<Task>& tasks)
+    {
+        for (; !tasks.empty(); tasks.pop_front()) {
+            std::exchange(tasks.front(), nullptr)();
         }
     }
 
+    std::deque<Task> background;
     std::deque<Task> mainQueue;
+    int inside = 0;
 };
 
 /// Folders and files by their paths; nothing else can be listed or read.
-struct FakeFiles : Files {
+struct FakeFiles : Files, Witness {
     Expected<std::vector<FolderEntry>> list(const std::string& folder) const override
     {
+        note("list " + folder);
         const auto found = folders.find(folder);
         if (found == folders.end()) {
             return Unexpected({"no folder " + folder, 0});
@@ -93,15 +132,20 @@ struct FakeFiles : Files {
     std::map<std::string, std::string> contents;
 };
 
-struct FakePasteboard : Pasteboard {
-    void clearContents() override { ++clearings; }
+/// What is set is added to what is there until that is cleared.
+struct FakePasteboard : Pasteboard, Witness {
+    void clearContents() override
+    {
+        note("clear the pasteboard");
+        contents.clear();
+    }
     bool setString(const std::string& text) override
     {
-        contents = text;
+        note("paste " + text);
+        contents += text;
         return true;
     }
-    int clearings = 0;
-    std::string contents;
+    std::string contents = "what was copied before";
 };
 
 struct FakeResources : Resources {
@@ -120,23 +164,24 @@ struct FakeResources : Resources {
 };
 
 /// Answers every script with the next of the prepared executions; makes no script when none is left.
-struct FakeScripts : ScriptService {
+struct FakeScripts : ScriptService, Witness {
     struct Prepared : Script {
-        explicit Prepared(ScriptExecution prepared)
-            : execution(std::move(prepared))
-        {
-        }
-        ScriptExecution execute() override { return execution; }
-        ScriptExecution execution;
+        ScriptExecution execute() override { return run(); }
+        std::function<ScriptExecution()> run;
     };
 
     std::unique_ptr<Script> create(std::string source) override
     {
+        note("make script " + source);
         sources.push_back(std::move(source));
         if (executions.empty()) {
             return nullptr;
         }
-        auto script = std::make_unique<Prepared>(std::move(executions.front()));
+        auto script = std::make_unique<Prepared>();
+        script->run = [this, execution = std::move(executions.front())] {
+            note("execute");
+            return execution;
+        };
         executions.pop_front();
         return script;
     }
@@ -162,17 +207,26 @@ struct FakeFolders : StandardFolders {
         {{SearchDirectory::applicationSupport, SearchDomain::user}, {"/Users/user/Library/Application Support"}}};
 };
 
-struct FakeWorkspace : Workspace {
+struct FakeWorkspace : Workspace, Witness {
     bool openUrl(const std::string& url) override
     {
+        note("open " + url);
         urls.push_back(url);
         return false;
     }
     std::vector<std::string> urls;
 };
 
-/// One complete small world that records what was asked of it.
+/// One complete small world and the one journal of all that happens in it.
 struct FakePlatform {
+    FakePlatform()
+    {
+        for (Witness* each :
+            std::initializer_list<Witness*>{&application, &console, &dispatcher, &files, &pasteboard, &workspace}) {
+            each->journal = scripts.journal;
+        }
+    }
+
     FakeApplication application;
     FakeConsole console;
     FakeDispatcher dispatcher;
@@ -182,6 +236,7 @@ struct FakePlatform {
     FakeScripts scripts;
     FakeFolders folders;
     FakeWorkspace workspace;
+    Journal& journal = *scripts.journal;
 
     Platform services()
     {

@@ -2,24 +2,92 @@
 
 #include "agreement/Document.h"
 #include "platform/Console.h"
-#include "tools/JsonObject.h"
 
-#include <array>
+#include <nlohmann/json.hpp>
+
 #include <string_view>
 
 namespace corvellane {
 namespace {
 
-constexpr std::array alignmentNames{"", "left", "right", "centre", "justified"};
-constexpr std::array lineHeightNames{"", "multiple", "atLeast", "exactly"};
-constexpr std::array tabNames{"left", "centre", "right", "decimal"};
-constexpr std::array scriptNames{"", "super", "sub"};
-constexpr std::array capitalsNames{"", "small", "all"};
+using Json = nlohmann::ordered_json;
 
-template <typename Kind, std::size_t Count>
-std::string_view nameOf(Kind kind, const std::array<const char*, Count>& names)
+std::string_view nameOf(rtf::Alignment kind)
 {
-    return names[static_cast<std::size_t>(kind)];
+    using enum rtf::Alignment;
+    switch (kind) {
+    case natural:
+        break;
+    case left:
+        return "left";
+    case right:
+        return "right";
+    case centre:
+        return "centre";
+    case justified:
+        return "justified";
+    }
+    return {};
+}
+
+std::string_view nameOf(rtf::LineHeight::Kind kind)
+{
+    using enum rtf::LineHeight::Kind;
+    switch (kind) {
+    case natural:
+        break;
+    case multiple:
+        return "multiple";
+    case atLeast:
+        return "atLeast";
+    case exactly:
+        return "exactly";
+    }
+    return {};
+}
+
+std::string_view nameOf(rtf::TabKind kind)
+{
+    using enum rtf::TabKind;
+    switch (kind) {
+    case left:
+        return "left";
+    case centre:
+        return "centre";
+    case right:
+        return "right";
+    case decimal:
+        return "decimal";
+    }
+    return {};
+}
+
+std::string_view nameOf(rtf::VerticalPosition kind)
+{
+    using enum rtf::VerticalPosition;
+    switch (kind) {
+    case normal:
+        break;
+    case superscript:
+        return "super";
+    case subscript:
+        return "sub";
+    }
+    return {};
+}
+
+std::string_view nameOf(rtf::Capitals kind)
+{
+    using enum rtf::Capitals;
+    switch (kind) {
+    case asTyped:
+        break;
+    case small:
+        return "small";
+    case all:
+        return "all";
+    }
+    return {};
 }
 
 std::string colorName(const std::optional<rtf::Color>& color)
@@ -35,90 +103,89 @@ std::string colorName(const std::optional<rtf::Color>& color)
     return name;
 }
 
-void addAttributes(JsonObject& object, const rtf::AttributedText& text, std::uint32_t index)
+/// Leaves out the key of a value that says nothing.
+template <typename Value>
+void add(Json& object, const char* key, const Value& value)
+{
+    if (value != Value{}) {
+        object[key] = value;
+    }
+}
+
+void addAttributes(Json& object, const rtf::AttributedText& text, std::uint32_t index)
 {
     const rtf::TextAttributes& attributes = text.attributes[index];
-    object.addText("font", text.families[attributes.family]);
-    object.addNumber("size", attributes.size);
-    object.addFlag("bold", attributes.bold);
-    object.addFlag("italic", attributes.italic);
-    object.addFlag("underline", attributes.underline);
-    object.addFlag("strike", attributes.strike);
-    object.addName("colour", colorName(attributes.color));
-    object.addName("background", colorName(attributes.background));
-    object.addName("script", nameOf(attributes.script, scriptNames));
-    object.addNumber("offset", attributes.baselineOffset);
-    object.addName("capitals", nameOf(attributes.capitals, capitalsNames));
-    object.addName("link", attributes.link ? std::string_view(text.links[*attributes.link]) : "");
+    object["font"] = text.families[attributes.family];
+    object["size"] = attributes.size;
+    add(object, "bold", attributes.bold);
+    add(object, "italic", attributes.italic);
+    add(object, "underline", attributes.underline);
+    add(object, "strike", attributes.strike);
+    add(object, "colour", colorName(attributes.color));
+    add(object, "background", colorName(attributes.background));
+    add(object, "script", nameOf(attributes.script));
+    add(object, "offset", attributes.baselineOffset);
+    add(object, "capitals", nameOf(attributes.capitals));
+    add(object, "link", attributes.link ? text.links[*attributes.link] : "");
 }
 
-std::string runJson(const rtf::AttributedText& text, const rtf::Run& run)
+Json runJson(const rtf::AttributedText& text, const rtf::Run& run)
 {
-    JsonObject object;
-    object.addText("text", text.textOf(run));
-    addAttributes(object, text, run.attributes);
-    return object.text();
+    Json json;
+    json["text"] = text.textOf(run);
+    addAttributes(json, text, run.attributes);
+    return json;
 }
 
-std::string runsJson(const rtf::AttributedText& text, const rtf::Paragraph& paragraph)
+Json tabsJson(const std::vector<rtf::TabStop>& stops)
 {
-    std::string json;
-    for (const rtf::Run& run : text.runsOf(paragraph)) {
-        json += (json.empty() ? "\n      " : ",\n      ") + runJson(text, run);
-    }
-    return "[" + json + (json.empty() ? "]" : "\n    ]");
-}
-
-std::string tabsJson(const std::vector<rtf::TabStop>& stops)
-{
-    std::string json;
+    Json json;
     for (const rtf::TabStop& stop : stops) {
-        JsonObject object;
-        object.addText("kind", nameOf(stop.kind, tabNames));
-        object.addNumber("at", stop.position);
-        json += (json.empty() ? "[" : ", ") + object.text();
+        json.push_back({{"kind", nameOf(stop.kind)}, {"at", stop.position}});
     }
-    return json.empty() ? json : json + "]";
+    return json;
 }
 
-std::string lineHeightJson(const rtf::LineHeight& height)
+Json lineHeightJson(const rtf::LineHeight& height)
 {
-    JsonObject object;
-    object.addNumber(nameOf(height.kind, lineHeightNames), height.value);
-    return height.kind == rtf::LineHeight::Kind::natural ? "" : object.text();
+    Json json;
+    add(json, std::string(nameOf(height.kind)).c_str(), height.value);
+    return json;
 }
 
-std::string paragraphJson(const rtf::AttributedText& text, const rtf::Paragraph& paragraph)
+Json paragraphJson(const rtf::AttributedText& text, const rtf::Paragraph& paragraph)
 {
     const rtf::ParagraphFormat& format = text.formats[paragraph.format];
-    JsonObject object;
-    object.addName("alignment", nameOf(format.alignment, alignmentNames));
-    object.addNumber("left", format.leftIndent);
-    object.addNumber("right", format.rightIndent);
-    object.addNumber("firstLine", format.firstLineIndent);
-    object.addNumber("before", format.spaceBefore);
-    object.addNumber("after", format.spaceAfter);
-    object.addJson("lineHeight", lineHeightJson(format.lineHeight));
-    object.addJson("tabs", tabsJson(text.tabsOf(format)));
-    object.addFlag("pageBreak", format.pageBreakBefore);
+    Json json;
+    add(json, "alignment", nameOf(format.alignment));
+    add(json, "left", format.leftIndent);
+    add(json, "right", format.rightIndent);
+    add(json, "firstLine", format.firstLineIndent);
+    add(json, "before", format.spaceBefore);
+    add(json, "after", format.spaceAfter);
+    add(json, "lineHeight", lineHeightJson(format.lineHeight));
+    add(json, "tabs", tabsJson(text.tabsOf(format)));
+    add(json, "pageBreak", format.pageBreakBefore);
     if (paragraph.firstRun == paragraph.endRun) {
-        JsonObject end;
-        addAttributes(end, text, paragraph.endAttributes);
-        object.addJson("end", end.text());
+        addAttributes(json["end"], text, paragraph.endAttributes);
     }
-    object.addJson("runs", runsJson(text, paragraph));
-    return object.text();
+    Json& runs = json["runs"] = Json::array();
+    for (const rtf::Run& run : text.runsOf(paragraph)) {
+        runs.push_back(runJson(text, run));
+    }
+    return json;
 }
 
 } // namespace
 
 std::string agreementJson(const rtf::AttributedText& text)
 {
-    std::string json;
+    Json json;
+    Json& paragraphs = json["paragraphs"] = Json::array();
     for (const rtf::Paragraph& paragraph : text.paragraphs) {
-        json += (json.empty() ? "\n    " : ",\n    ") + paragraphJson(text, paragraph);
+        paragraphs.push_back(paragraphJson(text, paragraph));
     }
-    return "{\"paragraphs\": [" + json + (json.empty() ? "]}\n" : "\n]}\n");
+    return json.dump(2) + '\n';
 }
 
 std::string agreementPlainText(const rtf::AttributedText& text)

@@ -2,6 +2,7 @@
 
 #include "rtf/AttributedText.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -11,8 +12,8 @@ class Console;
 class Files;
 
 /// The attributed text as JSON: one object whose only key `paragraphs` holds an array, one paragraph after the other.
-/// UTF-8, a run a line, ended by a line feed. Lengths are in points. A key is left out where its value says nothing:
-/// false, 0, the natural alignment or line height, none.
+/// UTF-8 (RFC 8259), indented, ended by a line feed. Lengths are in points. A key is left out where its value says
+/// nothing: false, 0, the natural alignment or line height, none.
 ///
 /// A paragraph: `alignment` ("left", "right", "centre", "justified"), `left` and `right` (indents), `firstLine`
 /// (indent, relative to `left`), `before` and `after` (space), `lineHeight` (an object with one of the keys
@@ -28,7 +29,7 @@ std::string agreementJson(const rtf::AttributedText& text);
 /// The text alone, every paragraph ended by a line feed; U+2028 stays as it is.
 std::string agreementPlainText(const rtf::AttributedText& text);
 
-enum class AgreementForm { json, plainText };
+enum class AgreementForm : std::uint8_t { json, plainText };
 
 /// Prints the agreement in the file in that form, or the reader's message when there is none. The exit code: 0 or 1.
 int reportAgreement(const Files& files, const std::string& path, AgreementForm form, Console& console);

@@ -13,21 +13,23 @@ namespace {
 
 std::vector<std::string> describeElement(const std::string& path, const HostPaths& hosts)
 {
-    switch (kindOf(path)) {
-    case ElementKind::lightroom: {
-        const LightroomGeneration generation = generationOf(path);
-        return {"kind: Lightroom", "target folder: " + printable(hosts.lightroom),
-            "digit: " + std::string(generation.digit),
-            "preset identifier: " + std::string(generation.presetIdentifier)};
-    }
+    const ElementKind kind = kindOf(path);
+    std::vector<std::string> lines{
+        "kind: " + std::string(nameOf(kind)), "target folder: " + printable(hosts.*traitsOf(kind).folder)};
+    switch (kind) {
+    case ElementKind::lightroom:
+        lines.push_back("digit: " + generationOf(path).digit);
+        lines.push_back("preset identifier: " + generationOf(path).presetIdentifier);
+        break;
     case ElementKind::video: {
-        const std::string suffix(supersededSuffix(lastPathComponent(path)));
-        return {"kind: video", "target folder: " + printable(hosts.video),
-            "supersedes: Glintmotion" + suffix + ".plugin, Velvetgrain" + suffix + ".plugin"};
+        const std::string suffix = supersededSuffix(lastPathComponent(path));
+        lines.push_back("supersedes: Glintmotion" + suffix + ".plugin, Velvetgrain" + suffix + ".plugin");
+        break;
     }
-    default:
-        return {"kind: photo", "target folder: " + printable(hosts.photo)};
+    case ElementKind::photo:
+        break;
     }
+    return lines;
 }
 
 class Reporter {

@@ -15,18 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string_view nameOf(ElementKind kind)
-{
-    switch (kind) {
-    case ElementKind::lightroom:
-        return "Lightroom";
-    case ElementKind::video:
-        return "video";
-    default:
-        return "photo";
-    }
-}
-
 void append(PayloadWarnings& warnings, PayloadWarnings more)
 {
     std::move(more.begin(), more.end(), std::back_inserter(warnings));

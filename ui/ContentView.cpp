@@ -2,7 +2,6 @@
 
 #include "state/AppSettings.h"
 #include "ui/AlertView.h"
-#include "ui/PageTexts.h"
 #include "ui/Pages.h"
 #include "view/Build.h"
 

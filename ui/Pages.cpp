@@ -1,7 +1,6 @@
 #include "ui/Pages.h"
 
 #include "state/AppSettings.h"
-#include "ui/PageTexts.h"
 #include "view/Build.h"
 
 namespace corvellane {

@@ -9,59 +9,62 @@
 namespace corvellane {
 namespace {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::Not;
 
 const HostPaths hosts{"/Applications/Corvellane/",
     "/Library/Application Support/Adobe/Common/Plug-ins/7.0/MediaCore/Corvellane/",
     "/Library/Application Support/Adobe/Plug-Ins/CC/Corvellane/",
     "/Users/user/Library/Application Support/Adobe/Lightroom/"};
 
-std::size_t count(const std::string& text, const std::string& part)
+/// The folders that the script for the elements creates, in its order.
+std::vector<std::string> foldersFor(const std::vector<std::string>& elements)
 {
-    std::size_t found = 0;
-    for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
-        ++found;
+    const std::string command = R"(do shell script "mkdir -p \")";
+    const std::string script = composeInstallScript({"/A/", "/V/", "/P/", "/L/"}, elements);
+    std::vector<std::string> folders;
+    for (auto at = script.find(command); at != std::string::npos; at = script.find(command, at + 1)) {
+        const auto begin = at + command.size();
+        folders.push_back(script.substr(begin, script.find('\\', begin) - begin));
     }
-    return found;
+    return folders;
 }
 
 TEST(InstallScript, isTheKnownTextForOneElementOfEachKind)
 {
     const std::string products = "/Volumes/Installer/Installer.app/Contents/Resources/Products/";
-    const std::string script = composeInstallScript(hosts,
-        {products + "Velvetgrain Tessellane/Velvetgrain Tessellane 2.plugin",
-            products + "Velvetgrain Photo/Velvetgrain.plugin",
-            products + "Velvetgrain Lightroom/Velvetgrain 3 Lightroom"});
-    EXPECT_EQ(script.size(), 3723U);
-    EXPECT_EQ(script, readFile(TEST_DATA "/three-kinds.applescript"));
-}
-
-TEST(InstallScript, onlyMakesTheMakersFolderWhenThereAreNoElements)
-{
-    EXPECT_EQ(composeInstallScript(hosts, {}),
-        "try\n"
-        "do shell script \"mkdir -p \\\"/Applications/Corvellane/\\\"\" with administrator privileges\n"
-        "\n"
-        "on error errMsg\n"
-        "return errMsg\n"
-        "end try\n"
-        "return \"Ok\"");
+    EXPECT_EQ(composeInstallScript(hosts,
+                  {products + "Velvetgrain Tessellane/Velvetgrain Tessellane 2.plugin",
+                      products + "Velvetgrain Photo/Velvetgrain.plugin",
+                      products + "Velvetgrain Lightroom/Velvetgrain 3 Lightroom"}),
+        readFile(TEST_DATA "/three-kinds.applescript"));
 }
 
 TEST(InstallScript, createsTheFolderOfTheFirstLinkedKindOnly)
 {
-    const std::string makesPhoto = R"(mkdir -p \"/Library/Application Support/Adobe/Plug-Ins/CC/Corvellane/\")";
-    const std::string makesVideo = R"(MediaCore/Corvellane/\"" with)";
-    const auto photoTwice = composeInstallScript(hosts, {"/p/a.plugin", "/p/b.plugin"});
-    EXPECT_EQ(count(photoTwice, makesPhoto), 1U);
-    const auto photoFirst = composeInstallScript(hosts, {"/p/a.plugin", "/p/Tessellane.plugin"});
-    EXPECT_THAT(photoFirst, HasSubstr(makesPhoto));
-    EXPECT_THAT(photoFirst, Not(HasSubstr(makesVideo)));
-    const auto lightroomFirst = composeInstallScript(hosts, {"/p/Lightroom", "/p/Tessellane.plugin", "/p/a.plugin"});
-    EXPECT_THAT(lightroomFirst, HasSubstr(makesVideo));
-    EXPECT_THAT(lightroomFirst, Not(HasSubstr(makesPhoto)));
-    EXPECT_LT(lightroomFirst.find("Modules"), lightroomFirst.find(makesVideo));
+    EXPECT_THAT(foldersFor({}), ElementsAre("/A/"));
+    EXPECT_THAT(foldersFor({"/p/a.plugin", "/p/b.plugin", "/p/Tessellane.plugin"}), ElementsAre("/A/", "/P/"));
+    EXPECT_THAT(foldersFor({"/p/Tessellane.plugin", "/p/a.plugin"}), ElementsAre("/A/", "/V/"));
+    EXPECT_THAT(foldersFor({"/p/Lightroom", "/p/Tessellane.plugin", "/p/a.plugin"}),
+        ElementsAre("/A/", "/L/External Editor Presets/Corvellane/", "/L/Export Presets/Corvellane Velvetgrain 4/",
+            "/L/Modules/", "/V/"));
+}
+
+TEST(InstallScript, goesByTheWholePathButForTheSupersededBundlesByTheNameAndEscapesBoth)
+{
+    const std::string script = composeInstallScript(
+        {"/A`/", "/V\"/", "", "/L$/"}, {"/$ 2/Tessellane/\".plugin", "/Velvetgrain 3 Lightroom/\\"});
+    EXPECT_THAT(script, HasSubstr(R"(
+do shell script "mkdir -p \"/V\\\"/\"" with administrator privileges
+do shell script "cp -R -f \"/\\$ 2/Tessellane/\\\".plugin\" \"/A\\`/\"" with administrator privileges
+do shell script "rm -R -f \"/V\\\"/Glintmotion.plugin\"" with administrator privileges
+do shell script "rm -R -f \"/V\\\"/Velvetgrain.plugin\"" with administrator privileges
+do shell script "ln -f -h -s \"/A\\`/\\\".plugin\" \"/V\\\"/\\\".plugin\""  with administrator privileges
+do shell script "cp -R -f \"/Velvetgrain 3 Lightroom/\\\\\" \"/A\\`/\"" with administrator privileges
+do shell script "mkdir -p \"/L\\$/External Editor Presets/Corvellane/\"" with administrator privileges
+)"));
+    EXPECT_THAT(script, HasSubstr(R"(echo \"/A\\`/\\\\\\\\\" > \"/A\\`/\\\\/velvetgrain3.lrdevplugin/Path.txt\")"));
+    EXPECT_THAT(script, HasSubstr(R"(Path = \\\"/A\\`/\\\\\\\\\\\\\\\\/Velvetgrain3.app\\\")"));
 }
 
 TEST(ElementKind, isDecidedByWordsInTheWholePath)

@@ -21,6 +21,7 @@ TEST(Product, joinsTheFirstFolderOfTheSystemAndItsTailOnce)
 {
     const FakeFolders folders;
     const Product product(folders);
+    EXPECT_EQ(folders.requests, 0);
     EXPECT_EQ(product.appCorvellane(), "/Applications/Corvellane/");
     EXPECT_EQ(product.appSuppCorvellaneVideo(),
         "/Library/Application Support/Adobe/Common/Plug-ins/7.0/MediaCore/Corvellane/");

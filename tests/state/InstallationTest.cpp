@@ -1,193 +1,141 @@
-#include "state/AppSettings.h"
+#include "tests/state/StateTest.h"
 
 #include "install/AccessProbe.h"
-#include "platform/posix/QueueDispatcher.h"
-#include "tests/FakePlatform.h"
-
-#include <gmock/gmock.h>
-
-#include <atomic>
-#include <thread>
 
 namespace corvellane {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-class InstallationTest : public testing::Test {
+class InstallationTest : public StateTest {
 protected:
     InstallationTest() { settings->currentPage.set(Page::install); }
-
-    /// The observable writes of one run, seen from before each of them: the page and the error flag.
-    std::vector<std::pair<Page, bool>> writesOf(ScriptExecution execution)
-    {
-        platform.scripts.executions.push_back(std::move(execution));
-        std::vector<std::pair<Page, bool>> writes;
-        const auto subscription = settings->objectWillChange.subscribe(
-            [&] { writes.emplace_back(settings->currentPage.get(), settings->completedWithErrors.get()); });
-        settings->performScript("script");
-        EXPECT_THAT(writes, IsEmpty()) << "nothing changes before the call has returned";
-        platform.dispatcher.runMainQueue();
-        return writes;
-    }
-
-    FakePlatform platform;
-    std::shared_ptr<AppSettings> settings = std::make_shared<AppSettings>(platform.services());
 };
 
-ScriptExecution answer(const std::string& text)
+Journal operator+(Journal first, const Journal& second)
 {
-    return {ScriptExecution::Value{text}, std::nullopt};
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
 }
 
-TEST_F(InstallationTest, writesTheOutcomeStepByStep)
+/// One run of a script, from the call to its return.
+Journal run(const std::string& script)
 {
-    struct Row {
-        ScriptExecution execution;
-        std::vector<std::pair<Page, bool>> writes;
-        Page page;
-        bool withErrors;
-        std::string log;
-        std::vector<std::string> lines;
+    return {"enter", "submit to the background", "wait", "make script " + script, "execute", "leave",
+        "submit to the main queue", "wait is over"};
+}
+
+/// The same when the service can make no script.
+Journal runOfNothing(const std::string& script)
+{
+    return {"enter", "submit to the background", "wait", "make script " + script, "leave", "wait is over"};
+}
+
+ScriptExecution result(std::optional<std::string> text, std::optional<std::string> error = {})
+{
+    return {ScriptExecution::Value{std::move(text)}, std::move(error)};
+}
+
+const ScriptExecution noResult;
+
+const HostPaths hosts{"/Applications/Corvellane/",
+    "/Library/Application Support/Adobe/Common/Plug-ins/7.0/MediaCore/Corvellane/",
+    "/Library/Application Support/Adobe/Plug-Ins/CC/Corvellane/",
+    "/Users/user/Library/Application Support/Adobe/Lightroom/"};
+
+TEST_F(InstallationTest, writesTheOutcomeStepByStepAfterTheWait)
+{
+    const std::vector<std::pair<ScriptExecution, Journal>> rows{
+        {result("Ok"), {"change install", "print ERROR VALUE Ok", "now summary"}},
+        {result("User canceled."), {"now install"}},
+        {result({}), {"now install"}},
+        {noResult, {"now install"}},
+        {result({}, "{}"), {"print Error: {}", "change install", "now install withErrors"}},
+        {result("User canceled.", "{}"), {"print Error: {}", "change install", "now install withErrors"}},
+        {result("Ok", "{}"),
+            {"print Error: {}", "change install", "change install withErrors", "print ERROR VALUE Ok",
+                "now summary withErrors"}},
+        {result("gone", "{}"),
+            {"print Error: {}", "change install", "change install withErrors", "change install withErrors log gone",
+                "print ERROR VALUE gone", "now summary withErrors log gone"}},
     };
-    const ScriptExecution::Value ok{"Ok"};
-    const ScriptExecution::Value failure{"cp: /x: gone"};
-    const std::pair before(Page::install, false);
-    const std::pair after(Page::install, true);
-    const std::vector<Row> rows{
-        {answer("Ok"), {before}, Page::summary, false, "", {"ERROR VALUE Ok"}},
-        {answer("cp: /x: gone"), {before, after}, Page::summary, true, "cp: /x: gone", {"ERROR VALUE cp: /x: gone"}},
-        {answer("ok"), {before, after}, Page::summary, true, "ok", {"ERROR VALUE ok"}},
-        {answer("User canceled"), {before, after}, Page::summary, true, "User canceled", {"ERROR VALUE User canceled"}},
-        {answer(""), {before, after}, Page::summary, true, "", {"ERROR VALUE "}},
-        {answer("User canceled."), {}, Page::install, false, "", {}},
-        {{std::nullopt, std::nullopt}, {}, Page::install, false, "", {}},
-        {{ScriptExecution::Value{}, std::nullopt}, {}, Page::install, false, "", {}},
-        {{std::nullopt, "{}"}, {before}, Page::install, true, "", {"Error: {}"}},
-        {{ok, "{}"}, {before, after}, Page::summary, true, "", {"Error: {}", "ERROR VALUE Ok"}},
-        {{failure, "{}"}, {before, after, after}, Page::summary, true, "cp: /x: gone",
-            {"Error: {}", "ERROR VALUE cp: /x: gone"}},
-    };
-    for (const Row& row : rows) {
-        settings = std::make_shared<AppSettings>(platform.services());
+    for (const auto& [execution, outcome] : rows) {
         settings->currentPage.set(Page::install);
-        platform.console.lines.clear();
-        EXPECT_EQ(writesOf(row.execution), row.writes);
-        EXPECT_EQ(settings->currentPage.get(), row.page);
-        EXPECT_EQ(settings->completedWithErrors.get(), row.withErrors);
-        EXPECT_EQ(*settings->logDetailsStr, row.log);
-        EXPECT_EQ(platform.console.lines, row.lines);
+        settings->completedWithErrors.set(false);
+        platform.scripts.executions.push_back(execution);
+        EXPECT_EQ(after(&AppSettings::performScript, "script"), run("script") + outcome);
     }
 }
 
-TEST_F(InstallationTest, changesNothingWhenNoScriptCanBeMadeAndForgetsNoEarlierFailure)
+TEST_F(InstallationTest, takesAnyOtherTextForAFailureAndNoFailureBack)
 {
-    settings->performScript("script");
-    platform.dispatcher.runMainQueue();
-    EXPECT_EQ(settings->currentPage.get(), Page::install);
-    writesOf(answer("broken"));
-    settings->currentPage.set(Page::install);
-    writesOf(answer("Ok"));
-    EXPECT_TRUE(settings->completedWithErrors.get());
-    EXPECT_EQ(*settings->logDetailsStr, "broken");
+    for (const std::string text : {"cp: /x: gone", "ok", "Ok.", "Ok\n", "User canceled", "user canceled."}) {
+        settings->currentPage.set(Page::install);
+        platform.scripts.answerText(text);
+        EXPECT_EQ(after(&AppSettings::performScript, "script").back(), "now summary withErrors log " + text);
+    }
+    platform.scripts.answerText("");
+    EXPECT_EQ(after(&AppSettings::performScript, "script").back(), "now summary withErrors");
+    platform.scripts.answerText("Ok");
+    EXPECT_EQ(after(&AppSettings::performScript, "script").back(), "now summary withErrors");
 }
 
-TEST_F(InstallationTest, composesPrintsAndRunsTheScriptOfTheTickedProductsInDisplayOrder)
+TEST_F(InstallationTest, installsTheTickedProductsInDisplayOrderOnceItIsConfirmed)
 {
-    platform.addProduct("b", {"Two.plugin"});
-    platform.addProduct("B", {"One.plugin"});
     platform.addProduct("a", {"Left out.plugin"});
+    platform.addProduct("b", {"Two.plugin"});
+    platform.addProduct("B", {"One Tessellane.plugin", "Three Lightroom"});
     settings->refreshProducts();
     settings->toggleProduct("/Resources/Products/a");
     settings->showPermanentlyAlert.set(true);
-    settings->confirmInstallation();
-    EXPECT_FALSE(settings->showPermanentlyAlert.get());
-    ASSERT_EQ(platform.scripts.sources.size(), 1U);
-    const std::string& script = platform.scripts.sources.front();
-    EXPECT_THAT(platform.console.lines, ElementsAre("SCRIPT -- " + script));
-    EXPECT_LT(script.find("/Products/B/One.plugin"), script.find("/Products/b/Two.plugin"));
-    EXPECT_EQ(script.find("Left out"), std::string::npos);
-    EXPECT_NE(script.find(R"(mkdir -p \"/Applications/Corvellane/\")"), std::string::npos);
+    const std::string products = "/Resources/Products/";
+    const std::string script = composeInstallScript(
+        hosts, {products + "B/One Tessellane.plugin", products + "B/Three Lightroom", products + "b/Two.plugin"});
+    EXPECT_EQ(after(&AppSettings::confirmInstallation),
+        Journal({"change install +B -a +b permanentlyAlert", "list /Resources/Products/B", "list /Resources/Products/b",
+            "print SCRIPT -- " + script})
+            + runOfNothing(script) + Journal{"now install +B -a +b"});
 }
 
 TEST_F(InstallationTest, probesAndThenInstallsOrAsks)
 {
-    const std::vector<std::pair<std::string, FinderAccess>> rows{
-        {"0", FinderAccess::denied},
-        {"2", FinderAccess::unknown},
-        {"", FinderAccess::unknown},
-        {"1", FinderAccess::allowed},
+    struct Row {
+        bool asksBefore;
+        ScriptExecution execution;
+        Journal outcome;
     };
-    for (const auto& [text, access] : rows) {
-        const bool asks = access != FinderAccess::allowed;
-        platform.scripts.sources.clear();
-        platform.scripts.answerText(text);
-        settings->showFinderAlert.set(!asks);
-        settings->checkAccess();
-        platform.dispatcher.runMainQueue();
-        EXPECT_EQ(settings->accessType.get(), access);
-        EXPECT_EQ(settings->showFinderAlert.get(), asks);
-        EXPECT_EQ(platform.scripts.sources.size(), asks ? 1U : 2U);
-        EXPECT_EQ(platform.scripts.sources.front(), accessProbeScript);
-    }
+    const std::string script = composeInstallScript(hosts, {});
+    const std::vector<Row> rows{
+        {false, result("0"), {"change install", "change install access 0", "now install access 0 finderAlert"}},
+        {true, noResult, {"now install access 0 finderAlert"}},
+        {false, result({}), {"now install access 0"}},
+        {false, result(""), {"change install access 0", "change install", "now install finderAlert"}},
+        {true, result("1"),
+            Journal{"change install finderAlert", "print SCRIPT -- " + script} + runOfNothing(script)
+                + Journal{"change install access 1 finderAlert", "now install access 1"}},
+        {true, result("1", "{}"),
+            {"change install access 1 finderAlert", "print Error: {}", "now install finderAlert"}},
+        {false, result("2"), {"change install", "change install", "now install finderAlert"}},
+    };
     EXPECT_EQ(accessProbeScript.size(), 223U);
+    const std::string probe(accessProbeScript);
+    for (const Row& row : rows) {
+        settings->showFinderAlert.set(row.asksBefore);
+        platform.scripts.executions.push_back(row.execution);
+        EXPECT_EQ(after(&AppSettings::checkAccess), run(probe) + row.outcome);
+    }
+    EXPECT_EQ(after(&AppSettings::checkAccess), runOfNothing(probe) + Journal{"now install finderAlert"});
 }
 
-TEST_F(InstallationTest, leavesTheAlertAloneWhenTheProbeItselfFails)
+TEST_F(InstallationTest, keepsTheStateUntilItsOutcomeIsWritten)
 {
-    settings->accessType.set(FinderAccess::denied);
-    settings->showFinderAlert.set(true);
-    platform.scripts.executions.push_back({std::nullopt, std::nullopt});
-    settings->checkAccess();
+    platform.scripts.answerText("Ok");
+    settings->performScript("script");
+    const std::weak_ptr<AppSettings> observed = settings;
+    changes.reset();
+    settings.reset();
+    EXPECT_FALSE(observed.expired());
     platform.dispatcher.runMainQueue();
-    EXPECT_EQ(settings->accessType.get(), FinderAccess::denied);
-    platform.scripts.executions.push_back({ScriptExecution::Value{"1"}, "{}"});
-    settings->checkAccess();
-    platform.dispatcher.runMainQueue();
-    EXPECT_EQ(settings->accessType.get(), FinderAccess::unknown);
-    EXPECT_TRUE(settings->showFinderAlert.get());
-    EXPECT_THAT(platform.console.lines, ElementsAre("Error: {}"));
-    EXPECT_EQ(platform.scripts.sources.size(), 2U);
-}
-
-/// Takes a moment for every script and then notes the thread that it ran on.
-struct SlowScripts : ScriptService {
-    struct Slow : Script {
-        explicit Slow(SlowScripts& owner)
-            : scripts(owner)
-        {
-        }
-        ScriptExecution execute() override
-        {
-            std::this_thread::sleep_for(std::chrono::milliseconds(50));
-            scripts.executedOn = std::this_thread::get_id();
-            return answer("Ok");
-        }
-        SlowScripts& scripts;
-    };
-    std::unique_ptr<Script> create(std::string) override { return std::make_unique<Slow>(*this); }
-    std::atomic<std::thread::id> executedOn;
-};
-
-TEST_F(InstallationTest, blocksTheMainThreadAndOutlivesItsOwner)
-{
-    QueueDispatcher dispatcher;
-    SlowScripts scripts;
-    Platform services = platform.services();
-    const Platform threaded{services.application, services.console, dispatcher, services.files, services.pasteboard,
-        services.resources, scripts, services.folders, services.workspace};
-    auto owned = std::make_shared<AppSettings>(threaded);
-    const std::weak_ptr<AppSettings> observed = owned;
-    owned->performScript("script");
-    EXPECT_NE(scripts.executedOn.load(), std::thread::id()) << "the call returns once the script has ended";
-    EXPECT_NE(scripts.executedOn.load(), std::this_thread::get_id());
-    EXPECT_EQ(owned->currentPage.get(), Page::intro);
-    owned.reset();
-    EXPECT_FALSE(observed.expired()) << "the completion still needs it";
-    dispatcher.runMainQueue();
     EXPECT_TRUE(observed.expired());
-    EXPECT_THAT(platform.console.lines, ElementsAre("ERROR VALUE Ok"));
+    EXPECT_EQ(platform.console.lines, Journal{"ERROR VALUE Ok"});
 }
 
 } // namespace

@@ -1,73 +1,79 @@
 #include "state/PageFlow.h"
 #include "state/FinderAccess.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace corvellane {
 namespace {
 
-TEST(Page, comesFromItsNumberAndFromNoOther)
+using testing::ElementsAre;
+
+TEST(Page, comesFromItsNumberAndHasNeighbours)
 {
-    EXPECT_EQ(pageFromRawValue(0), Page::intro);
-    EXPECT_EQ(pageFromRawValue(4), Page::summary);
-    EXPECT_EQ(pageFromRawValue(5), std::nullopt);
+    EXPECT_THAT(allPages, ElementsAre(Page::intro, Page::license, Page::products, Page::install, Page::summary));
     EXPECT_EQ(pageFromRawValue(-1), std::nullopt);
+    EXPECT_EQ(pageFromRawValue(0), Page::intro);
+    EXPECT_EQ(pageFromRawValue(3), Page::install);
+    EXPECT_EQ(pageFromRawValue(5), std::nullopt);
+    EXPECT_EQ(pageBefore(Page::intro), Page::intro);
+    EXPECT_EQ(pageAfter(Page::install), Page::summary);
+    EXPECT_EQ(pageAfter(Page::summary), Page::summary);
 }
 
 TEST(FinderAccess, comesFromItsExactTextAndFromNoOther)
 {
     EXPECT_EQ(finderAccessFromRawValue("-1"), FinderAccess::unknown);
-    EXPECT_EQ(finderAccessFromRawValue("0"), FinderAccess::denied);
     EXPECT_EQ(finderAccessFromRawValue("1"), FinderAccess::allowed);
-    for (const char* other : {"", "01", " 1", "1 ", "2"}) {
+    for (const char* other : {"", "01", " 1", "1 "}) {
         EXPECT_EQ(finderAccessFromRawValue(other), std::nullopt) << other;
     }
 }
 
+/// For each page, which of its buttons can be pressed.
+std::vector<std::string> enabledButtons(const ProductSelection& products)
+{
+    std::vector<std::string> lines;
+    for (const Page page : allPages) {
+        std::string line(nameOf(page));
+        line += isGoBackEnabled(page) ? " back" : "";
+        line += isForwardEnabled(page, products) ? " forward" : "";
+        line += isSelectAllVisible(page) && isSelectAllEnabled(products) ? " all" : "";
+        lines.push_back(line);
+    }
+    return lines;
+}
+
 TEST(PageFlow, enablesTheButtonsByPageAndSelection)
 {
-    const ProductSelection none;
-    ProductSelection unticked({"/a"});
-    unticked.toggle("/a");
-    ProductSelection ticked({"/a", "/b"});
-    ticked.toggle("/a");
-    for (const Page page : allPages) {
-        EXPECT_EQ(isGoBackEnabled(page), page != Page::intro && page != Page::summary);
-        EXPECT_EQ(isForwardEnabled(page, none), page != Page::products);
-        EXPECT_EQ(isForwardEnabled(page, unticked), page != Page::products);
-        EXPECT_TRUE(isForwardEnabled(page, ticked));
-        EXPECT_EQ(isSelectAllVisible(page), page == Page::products);
-    }
-    EXPECT_FALSE(isSelectAllEnabled(none));
-    EXPECT_TRUE(isSelectAllEnabled(unticked));
+    ProductSelection products;
+    EXPECT_THAT(enabledButtons(products),
+        ElementsAre(
+            "intro forward", "license back forward", "products back", "install back forward", "summary forward"));
+    products = ProductSelection({"/a", "/b"});
+    products.toggle("/a");
+    EXPECT_THAT(enabledButtons(products),
+        ElementsAre("intro forward", "license back forward", "products back forward all", "install back forward",
+            "summary forward"));
+    products.toggle("/b");
+    EXPECT_THAT(enabledButtons(products),
+        ElementsAre(
+            "intro forward", "license back forward", "products back all", "install back forward", "summary forward"));
 }
 
 TEST(PageFlow, showsTheFirstAlertWhoseConditionHolds)
 {
-    struct Row {
-        AlertFlags flags;
-        Page page;
-        Alert shown;
-    };
-    const AlertFlags everything{false, true, true, true, true};
-    const AlertFlags agreed{true, true, true, true, true};
-    const AlertFlags finderOnly{true, true, false, true, true};
-    const AlertFlags noneAsked{false, false, false, false, false};
-    const std::vector<Row> rows{
-        {everything, Page::intro, Alert::agreement},
-        {everything, Page::install, Alert::agreement},
-        {everything, Page::summary, Alert::agreement},
-        {agreed, Page::license, Alert::none},
-        {agreed, Page::install, Alert::installConfirmation},
-        {agreed, Page::summary, Alert::logDetails},
-        {finderOnly, Page::install, Alert::automationPermission},
-        {finderOnly, Page::products, Alert::none},
-        {noneAsked, Page::install, Alert::none},
-        {noneAsked, Page::summary, Alert::none},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(visibleAlert(row.page, row.flags), row.shown) << rawValue(row.page);
-    }
+    constexpr AlertFlags everything{false, true, true, true, true};
+    constexpr AlertFlags agreed{true, true, true, true, true};
+    constexpr AlertFlags finderOnly{true, true, false, true, true};
+    EXPECT_EQ(visibleAlert(Page::intro, everything), Alert::agreement);
+    EXPECT_EQ(visibleAlert(Page::install, everything), Alert::agreement);
+    EXPECT_EQ(visibleAlert(Page::license, agreed), Alert::none);
+    EXPECT_EQ(visibleAlert(Page::install, agreed), Alert::installConfirmation);
+    EXPECT_EQ(visibleAlert(Page::summary, agreed), Alert::logDetails);
+    EXPECT_EQ(visibleAlert(Page::install, finderOnly), Alert::automationPermission);
+    EXPECT_EQ(visibleAlert(Page::products, finderOnly), Alert::none);
+    EXPECT_EQ(visibleAlert(Page::install, {}), Alert::none);
+    EXPECT_EQ(visibleAlert(Page::summary, {}), Alert::none);
 }
 
 } // namespace

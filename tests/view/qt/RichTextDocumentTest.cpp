@@ -1,5 +1,5 @@
 
-#include "rtf/RtfReader.h"
+#include "rtf/Reader.h"
 #include "view/qt/FontSubstitutes.h"
 #include "view/qt/RichTextViewer.h"
 
@@ -30,7 +30,7 @@ std::unique_ptr<QTextDocument> documentOf(const std::string& body)
     const std::string head = R"({\rtf1\ansi{\fonttbl{\f0 Helvetica;}{\f1 Courier;}})"
                              R"({\colortbl;\red200\green10\blue20;\red255\green255\blue0;}\f0\fs24 )";
     auto document = std::make_unique<QTextDocument>();
-    fillTextDocument(*document, rtf::readRtf(head + body + "}").value());
+    fillTextDocument(*document, rtf::read(head + body + "}").value());
     document->setTextWidth(400 + 2 * document->documentMargin());
     document->size(); // lays it out
     return document;

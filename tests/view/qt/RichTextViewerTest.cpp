@@ -1,6 +1,6 @@
 #include "view/qt/RichTextViewer.h"
 
-#include "rtf/RtfReader.h"
+#include "rtf/Reader.h"
 #include "tests/UrlOpener.h"
 
 #include <QApplication>
@@ -24,7 +24,7 @@ rtf::AttributedText longAgreement()
     for (int count = 0; count < 40; ++count) {
         body += R"(A sentence of an agreement that is wider than the viewer is when it is narrow.\par )";
     }
-    return rtf::readRtf(body + std::string(300, 'w') + R"(\par})").value();
+    return rtf::read(body + std::string(300, 'w') + R"(\par})").value();
 }
 
 class RichTextViewer : public testing::Test {

@@ -1,4 +1,4 @@
-#include "rtf/RtfReader.h"
+#include "rtf/Reader.h"
 #include "tools/AgreementReport.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ namespace {
 /// The plain text of RTF whose outer group holds `body`; the reader's failure as a number where there is one.
 std::string plainText(const std::string& body)
 {
-    const auto result = readRtf("{\\rtf1" + body + "}");
+    const auto result = read("{\\rtf1" + body + "}");
     return result ? agreementPlainText(*result) : "failure " + std::to_string(static_cast<int>(result.error()));
 }
 
@@ -27,6 +27,22 @@ void expectTexts(const std::vector<Row>& rows)
 {
     for (const Row& row : rows) {
         EXPECT_EQ(plainText(row.body), row.text) << row.body;
+    }
+}
+
+TEST(RtfText, forgivesWhatStandsAroundTheOuterGroup)
+{
+    for (const std::string before : {"", " \r\n\t", "\xEF\xBB\xBF", "\xEF\xBB\xBF\n", " \xEF\xBB\xBF "}) {
+        for (const std::string_view after : {"", "\n", "}", "{\\b", "\x01"}) {
+            const auto text = read(std::string(before).append("{\\rtf1 a}").append(after));
+            EXPECT_EQ(agreementPlainText(text.value()), "a\n") << before << after;
+        }
+    }
+    for (const std::string_view wrong : {"", "\\rtf1 a", "{rtf1 a}", "{ \\rtf1 a}", "{\\rt", "x{\\rtf1 a}"}) {
+        EXPECT_EQ(read(wrong).error(), ReadFailure::notRtf) << wrong;
+    }
+    for (const std::string_view open : {"{\\rtf", "{\\rtf1 a\\", "{\\rtf1 a\\'", "{\\rtf1\\bin5 }}", "{\\rtf1 a\\}"}) {
+        EXPECT_EQ(read(open).error(), ReadFailure::incomplete) << open;
     }
 }
 
@@ -81,6 +97,9 @@ TEST(RtfText, decodesAFontsOwnCharacterSet)
         {"\\fcharset204 A;}\\f3\\'e9", "\u0439\n"},
         {"\\fcharset0\\cpg1251 A;}\\f3\\'e9", "\u0439\n"},
         {"\\fcharset204 A;}{\\f3\\'e9}\\'e9", "\u0439\u00E9\n"},
+        {"\\fcharset204\\cpg77777 A;}\\f3\\'e9", "\u0439\n"},
+        {"\\fcharset204\\cpg1251 A;\\f4 B;}\\f4\\'e9", "\u00E9\n"},
+        {"\\fcharset204 A\\f4 B;}\\f3\\'e9", "\u0439\n"},
         {"\\fcharset2 Symbol;}\\f3\\'b7a\\u-3913?", "\u2022\u03B1\u2022\n"},
         {"\\fcharset2 Wingdings;}\\f3\\'a7\\'d8\\'fclnq\\u-3929?", "\u25AA\u27A2\u2713\u25CF\u25A0\u2751\u25AA\n"},
     };
@@ -107,11 +126,14 @@ TEST(RtfText, joinsTheBytesOfMultiByteCharactersHoweverTheyAreWritten)
         {"\\'82{\\'a0}{\\'82}\\'a0", "\uFFFD\uFFFD\uFFFD\uFFFD\n"},
         {"\\'82\\par x\\'82", "\uFFFD\nx\uFFFD\n"},
         {"{\\info{\\title \x95\x5C\x83\x7D}}a", "a\n"},
+        {"{\\info \x83\nb{c}}a", "a\n"},
+        {"\\uc0\\u55357\\'82\\u56832", "\uFFFD\uFFFD\uFFFD\n"},
     };
     for (const Row& row : japanese) {
         EXPECT_EQ(plainText("\\ansi{\\fonttbl{\\f0\\fcharset128 A;}}\\f0 " + row.body), row.text) << row.body;
     }
     EXPECT_EQ(plainText("{\\fonttbl\\f0\\fcharset136 A;}\\f0\\'a4\\'a4\xA5\x5C"), "\u4E2D\u529F\n");
+    EXPECT_EQ(plainText("\\ansicpg932" + std::string(999, '\xB1')).size(), 999 * 3 + 1);
     EXPECT_EQ(plainText("\\ansicpg932{\\info \x95\x5C\x83\x7D}a"), "a\n");
 }
 
@@ -128,7 +150,9 @@ TEST(RtfText, readsUnicodeAndPassesItsFallback)
         {"\\u8226\\foo x", "\u2022x\n"},
         {"\\u8226{\\'95 more}x", "\u2022x\n"},
         {"\\u8226\\~x\\u8226\\{x", "\u2022x\u2022x\n"},
-        {"\\u8226\\par x", "\u2022\nx\n"},
+        {"\\u8226\\par x\\u8226\\\nx", "\u2022\nx\u2022\nx\n"},
+        {"\\uc3\\uc\\u8226 ax", "\u2022x\n"},
+        {"\\u1114177 ?x", "Ax\n"},
         {"\\u8226\\bin3 }}}x", "\u2022x\n"},
         {"{\\u8226}x", "\u2022x\n"},
         {"{\\uc0{\\u8226 a}\\u8226 b}\\u8226 cd", "\u2022a\u2022b\u2022d\n"},
@@ -160,6 +184,7 @@ TEST(RtfText, keepsOutWhatIsNoText)
         {"{\\header h\\par}{\\footerr f}{\\headerf{\\b x}}a{\\footnote\\pard n\\par}b", "ab\n"},
         {"{\\*\\unknown a{b\\par{c}}d}e{\\* f}g", "eg\n"},
         {"{\\*\n\\unknown a}{ \\*\\unknown b}c", " bc\n"},
+        {"{\\*\\unknown\\ansicpg1251}{\\fonttbl{\\*\\ud b}}\\'e9", "\u00E9\n"},
         {"{\\pict\\wmetafile8 0102{\\*\\blipuid 03}04}{\\*\\shppict{\\pict 05}}{\\nonshppict{\\pict 06}}a", "a\n"},
         {"{\\pict\\bin5 {{}}}}a\\bin-4 b{\\pict\\bin4294967297 \x02}c", "abc\n"},
         {"{\\upr{ansi}{\\*\\ud{unic\\u246?de}}}.", "unic\u00F6de.\n"},
@@ -184,6 +209,8 @@ TEST(RtfText, putsATablesRowOnALine)
             "i\tj\no\ne\n"},
         {"\\pard\\intbl a\\cell\\pard b", "a\tb\n"},
         {"\\intbl a\\cell b\\cell", "a\tb\n"},
+        {"\\intbl a\\cell\\pard\\par b\\par\\itap-1 c\\par d", "a\nb\nc\nd\n"},
+        {"\\itap2 i\\nestcell\\nestrow n\\cell o\\cell\\row\\nestrow\\pard\\par\\intbl\\cell p", "i\nn\to\n\n\n\tp\n"},
     });
 }
 

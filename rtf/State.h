@@ -2,14 +2,9 @@
 
 #include "rtf/AttributedText.h"
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
 
 namespace corvellane::rtf {
-
-/// The character formatting that RTF turns on and off.
-enum class CharacterFlag : std::uint8_t { bold, italic, underline, strike, hidden };
 
 /// The character formatting in effect, in RTF's own units.
 struct CharacterState {
@@ -24,41 +19,39 @@ struct CharacterState {
     std::int32_t size = 24;
     /// Half points, upwards.
     std::int32_t offset = 0;
-    /// By CharacterFlag, 0 or 1.
-    std::array<std::uint8_t, 5> flags{};
-    /// A VerticalPosition and a Capitals.
-    std::uint8_t script = 0;
-    std::uint8_t capitals = 0;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    bool strike = false;
+    bool hidden = false;
+    VerticalPosition script = VerticalPosition::normal;
+    Capitals capitals = Capitals::asTyped;
     std::uint8_t padding = 0;
-
-    std::uint8_t& operator[](CharacterFlag flag) { return flags[static_cast<std::size_t>(flag)]; }
-    bool is(CharacterFlag flag) const { return flags[static_cast<std::size_t>(flag)] != 0; }
 };
 
-enum class ParagraphLength : std::uint8_t { left, right, firstLine, before, after, line };
-
-/// The paragraph formatting in effect, in RTF's own units.
+/// The paragraph formatting in effect, lengths in twips.
 struct ParagraphState {
-    /// Twips, by ParagraphLength. The line height is exact below zero and at least so much above it, or counts 240ths
-    /// of a line.
-    std::array<std::int32_t, 6> lengths{};
+    std::int32_t left = 0;
+    std::int32_t right = 0;
+    std::int32_t firstLine = 0;
+    std::int32_t before = 0;
+    std::int32_t after = 0;
+    /// Exact below zero and at least so much above it, or 240ths of a line; 0 for the natural height.
+    std::int32_t line = 0;
     /// 1 + the index of the last tab stop; 0 for none.
     std::uint32_t lastTab = 0;
-    /// An Alignment.
-    std::uint8_t alignment = 0;
-    std::uint8_t lineIsMultiple = 0;
-    std::uint8_t pageBreakBefore = 0;
-    std::uint8_t inTable = 0;
-
-    std::int32_t operator[](ParagraphLength length) const { return lengths[static_cast<std::size_t>(length)]; }
+    Alignment alignment = Alignment::natural;
+    bool lineIsMultiple = false;
+    bool pageBreakBefore = false;
+    bool inTable = false;
 };
 
 /// A tab stop in twips; chained as the TabStop it becomes.
 struct TabState {
     std::int32_t position = 0;
     std::uint32_t previous = 0;
-    /// A TabKind.
-    std::uint16_t kind = 0;
+    TabKind kind = TabKind::left;
+    std::uint8_t padding = 0;
     /// How many stops the chain has up to this one.
     std::uint16_t count = 1;
 };

@@ -8,7 +8,7 @@
 namespace corvellane::rtf {
 
 /// One piece of RTF (RTF 1.9.1, "RTF Syntax").
-struct RtfToken {
+struct Token {
     enum class Kind : std::uint8_t {
         end,
         open,
@@ -27,21 +27,24 @@ struct RtfToken {
     /// Text alone: no byte of it is above 0x7F.
     bool ascii = false;
     bool hasParameter = false;
+    /// 0 where there is none.
     std::int32_t parameter = 0;
-    std::string_view text{};
+    std::string_view text;
+
+    std::int32_t parameterOr(std::int32_t absent) const { return hasParameter ? parameter : absent; }
 };
 
 /// Cuts RTF into tokens that point into the given bytes, or for bytes in hexadecimal into the lexer. Line ends and
 /// control characters in the text are left out, as are the data of \bin and hexadecimal bytes without their digits.
-class RtfLexer {
+class Lexer {
 public:
-    explicit RtfLexer(std::string_view bytes)
+    explicit Lexer(std::string_view bytes)
         : bytes_(bytes)
     {
     }
 
     /// The next token; it changes with the next call.
-    const RtfToken& next();
+    const Token& next();
 
     /// What the byte after a raw lead byte of a two-byte character would be, taken as its trail byte although it
     /// means something else to RTF; -1 for a byte that is to be read as RTF. Moves nothing.
@@ -64,7 +67,7 @@ private:
 
     std::string_view bytes_;
     std::size_t position_ = 0;
-    RtfToken token_;
+    Token token_;
     std::array<char, 256> hexBytes_{};
 };
 

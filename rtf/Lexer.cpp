@@ -1,7 +1,7 @@
-#include "rtf/RtfLexer.h"
+#include "rtf/Lexer.h"
 
 #include "rtf/ByteScan.h"
-#include "rtf/RtfControlWords.h"
+#include "rtf/ControlWords.h"
 
 #include <algorithm>
 
@@ -48,35 +48,35 @@ bool startsControl(std::string_view bytes)
 
 } // namespace
 
-bool RtfLexer::at(std::size_t offset, char wanted) const
+bool Lexer::at(std::size_t offset, char wanted) const
 {
     return offset < bytes_.size() - position_ && bytes_[position_ + offset] == wanted;
 }
 
-const RtfToken& RtfLexer::next()
+const Token& Lexer::next()
 {
     while (position_ < bytes_.size()) {
         if (lexToken()) {
             return token_;
         }
     }
-    token_.kind = RtfToken::Kind::end;
+    token_.kind = Token::Kind::end;
     return token_;
 }
 
 /// False when what stood there means nothing.
-bool RtfLexer::lexToken()
+bool Lexer::lexToken()
 {
     const char byte = bytes_[position_];
     if (byte == '\\') {
         return lexControl();
     }
     if (byte == '{' || byte == '}') {
-        token_.kind = byte == '{' ? RtfToken::Kind::open : RtfToken::Kind::close;
+        token_.kind = byte == '{' ? Token::Kind::open : Token::Kind::close;
         ++position_;
         return true;
     }
-    if (isRtfText(byte)) {
+    if (isTextByte<TextBytes::all>(byte)) {
         lexText();
         return true;
     }
@@ -84,18 +84,18 @@ bool RtfLexer::lexToken()
     return false;
 }
 
-void RtfLexer::lexText()
+void Lexer::lexText()
 {
     const std::string_view rest = bytes_.substr(position_);
     const std::size_t asciiLength = textLength<TextBytes::ascii>(rest);
     const std::size_t length = asciiLength + textLength<TextBytes::all>(rest.substr(asciiLength));
     position_ += length;
-    token_.kind = RtfToken::Kind::text;
+    token_.kind = Token::Kind::text;
     token_.ascii = length == asciiLength;
     token_.text = rest.substr(0, length);
 }
 
-bool RtfLexer::lexControl()
+bool Lexer::lexControl()
 {
     ++position_;
     if (position_ == bytes_.size()) {
@@ -108,13 +108,13 @@ bool RtfLexer::lexControl()
     return true;
 }
 
-void RtfLexer::lexWord()
+void Lexer::lexWord()
 {
     const std::size_t begin = position_;
     while (position_ < bytes_.size() && isLetter(bytes_[position_])) {
         ++position_;
     }
-    token_.kind = RtfToken::Kind::word;
+    token_.kind = Token::Kind::word;
     token_.text = bytes_.substr(begin, position_ - begin);
     lexParameter();
     if (at(0, ' ')) {
@@ -126,7 +126,7 @@ void RtfLexer::lexWord()
 }
 
 /// A number wider than 32 bits keeps its low 32.
-void RtfLexer::lexParameter()
+void Lexer::lexParameter()
 {
     const std::size_t sign = at(0, '-') ? 1 : 0;
     token_.hasParameter = position_ + sign < bytes_.size() && isDigit(bytes_[position_ + sign]);
@@ -142,25 +142,21 @@ void RtfLexer::lexParameter()
     token_.parameter = static_cast<std::int32_t>(sign != 0 ? 0U - number : number);
 }
 
-void RtfLexer::skipBinary()
+void Lexer::skipBinary()
 {
     const auto length = static_cast<std::size_t>(std::max(token_.parameter, 0));
     position_ += std::min(length, bytes_.size() - position_);
 }
 
-void RtfLexer::lexSymbol()
+void Lexer::lexSymbol()
 {
-    token_.kind = RtfToken::Kind::symbol;
-    token_.text = bytes_.substr(position_, 1);
-    if (at(0, '\r')) {
-        position_ += at(1, '\n') ? 1 : 0;
-        token_.text = "\n";
-    }
+    token_.kind = Token::Kind::symbol;
+    token_.text = at(0, '\r') ? "\n" : bytes_.substr(position_, 1);
     ++position_;
 }
 
 /// The byte written at the position of two digits; -1 where there are none.
-int RtfLexer::hexByteAt(std::size_t position) const
+int Lexer::hexByteAt(std::size_t position) const
 {
     if (bytes_.size() < 2 || position > bytes_.size() - 2) {
         return -1;
@@ -171,14 +167,14 @@ int RtfLexer::hexByteAt(std::size_t position) const
 }
 
 /// Stands on the apostrophe. Of a byte without its digits nothing is left, not even a single digit.
-bool RtfLexer::lexBytes()
+bool Lexer::lexBytes()
 {
     std::size_t count = 0;
     for (int value = hexByteAt(position_ + 1); value >= 0; value = hexByteAt(position_ + 1)) {
         hexBytes_[count++] = static_cast<char>(value);
         position_ += 3;
         if (count == hexBytes_.size() || !at(0, '\\') || !at(1, '\'') || hexByteAt(position_ + 2) < 0) {
-            token_.kind = RtfToken::Kind::bytes;
+            token_.kind = Token::Kind::bytes;
             token_.text = {hexBytes_.data(), count};
             return true;
         }
@@ -191,7 +187,7 @@ bool RtfLexer::lexBytes()
 
 /// Writers that know the code page leave a trail byte bare; others put a backslash before it or write it in
 /// hexadecimal. After two backslashes only what follows can tell: a control, or text.
-int RtfLexer::peekTrailByte() const
+int Lexer::peekTrailByte() const
 {
     if (at(0, '{') || at(0, '}')) {
         return bytes_[position_];

@@ -1,4 +1,4 @@
-#include "rtf/RtfReader.h"
+#include "rtf/Reader.h"
 #include "tests/ScratchFolder.h"
 #include "tools/AgreementReport.h"
 
@@ -14,7 +14,7 @@ TEST(RtfGolden, readsEveryFileAsWritten)
     for (const auto& entry : std::filesystem::directory_iterator(AGREEMENT_DATA)) {
         std::filesystem::path path = entry.path();
         if (path.extension() == ".rtf") {
-            const auto text = readRtf(readFile(path.string()));
+            const auto text = read(readFile(path.string()));
             ASSERT_TRUE(text) << path;
             EXPECT_EQ(agreementJson(*text), readFile(path.replace_extension(".json"))) << path;
             ++files;
@@ -25,7 +25,7 @@ TEST(RtfGolden, readsEveryFileAsWritten)
 
 TEST(SampleAgreement, isReadWithEverythingItsAuthorPutIn)
 {
-    const auto result = readRtf(readFile(SAMPLE_AGREEMENT));
+    const auto result = read(readFile(SAMPLE_AGREEMENT));
     ASSERT_TRUE(result);
     const AttributedText& text = *result;
     const std::string plain = agreementPlainText(text);

@@ -1,33 +1,12 @@
 #include "base/Observable.h"
+#include "base/Snapshot.h"
+#include "base/WorkerThread.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <new>
+#include <chrono>
+#include <thread>
 #include <vector>
-
-namespace {
-std::size_t allocations = 0;
-} // namespace
-
-void* operator new(std::size_t size)
-{
-    ++allocations;
-    if (void* memory = std::malloc(size)) {
-        return memory;
-    }
-    throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 namespace corvellane {
 namespace {
@@ -75,20 +54,26 @@ TEST(Observable, announcesOnceBeforeItStores)
     EXPECT_EQ(value.get(), 7);
 }
 
-TEST(Observable, allocatesNothingForAWriteWithManyObservers)
+TEST(Snapshot, isEqualToOneOfTheSameValue)
 {
-    Signal signal;
-    Observable<bool> value(signal, false);
-    int calls = 0;
-    std::vector<Subscription> subscriptions;
-    for (int count = 0; count < 100; ++count) {
-        subscriptions.push_back(signal.subscribe([&] { ++calls; }));
+    const Snapshot<int> one(1);
+    const Snapshot<int> copy = one;
+    EXPECT_TRUE(copy.isSame(one));
+    EXPECT_FALSE(Snapshot<int>(1).isSame(one));
+    EXPECT_EQ(Snapshot<int>(1), one);
+    EXPECT_FALSE(Snapshot<int>(2) == one);
+}
+
+TEST(WorkerThread, runsInOrderWhatWaitsAtItsEnd)
+{
+    std::vector<int> ran;
+    {
+        WorkerThread worker;
+        worker.submit([] { std::this_thread::sleep_for(std::chrono::milliseconds(50)); });
+        worker.submit([&] { ran.push_back(1); });
+        worker.submit([&] { ran.push_back(2); });
     }
-    const std::size_t before = allocations;
-    value.set(true);
-    value.modify([](bool& stored) { stored = !stored; });
-    EXPECT_EQ(allocations, before);
-    EXPECT_EQ(calls, 200);
+    EXPECT_EQ(ran, (std::vector{1, 2}));
 }
 
 } // namespace

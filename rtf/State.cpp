@@ -1,4 +1,4 @@
-#include "rtf/RtfState.h"
+#include "rtf/State.h"
 
 #include <cstdlib>
 
@@ -19,11 +19,11 @@ std::optional<Color> color(std::uint32_t packed)
 
 LineHeight lineHeight(const ParagraphState& state)
 {
-    const double line = state[ParagraphLength::line];
+    const double line = state.line;
     if (line == 0) {
         return {};
     }
-    if (state.lineIsMultiple != 0) {
+    if (state.lineIsMultiple) {
         return {LineHeight::Kind::multiple, std::abs(line) / lineUnitsPerLine};
     }
     return {line > 0 ? LineHeight::Kind::atLeast : LineHeight::Kind::exactly, std::abs(line) / twipsPerPoint};
@@ -36,15 +36,15 @@ TextAttributes textAttributes(const CharacterState& state)
     TextAttributes attributes{
         .family = static_cast<std::uint32_t>(state.font),
         .size = state.size / 2.0,
-        .bold = state.is(CharacterFlag::bold),
-        .italic = state.is(CharacterFlag::italic),
-        .underline = state.is(CharacterFlag::underline),
-        .strike = state.is(CharacterFlag::strike),
+        .bold = state.bold,
+        .italic = state.italic,
+        .underline = state.underline,
+        .strike = state.strike,
         .color = color(state.color),
         .background = color(state.background),
-        .script = static_cast<VerticalPosition>(state.script),
+        .script = state.script,
         .baselineOffset = state.offset / 2.0,
-        .capitals = static_cast<Capitals>(state.capitals),
+        .capitals = state.capitals,
         .link = std::nullopt,
     };
     if (state.link != 0) {
@@ -56,21 +56,21 @@ TextAttributes textAttributes(const CharacterState& state)
 ParagraphFormat paragraphFormat(const ParagraphState& state)
 {
     return {
-        .alignment = static_cast<Alignment>(state.alignment),
-        .leftIndent = state[ParagraphLength::left] / twipsPerPoint,
-        .rightIndent = state[ParagraphLength::right] / twipsPerPoint,
-        .firstLineIndent = state[ParagraphLength::firstLine] / twipsPerPoint,
-        .spaceBefore = state[ParagraphLength::before] / twipsPerPoint,
-        .spaceAfter = state[ParagraphLength::after] / twipsPerPoint,
+        .alignment = state.alignment,
+        .leftIndent = state.left / twipsPerPoint,
+        .rightIndent = state.right / twipsPerPoint,
+        .firstLineIndent = state.firstLine / twipsPerPoint,
+        .spaceBefore = state.before / twipsPerPoint,
+        .spaceAfter = state.after / twipsPerPoint,
         .lineHeight = lineHeight(state),
         .lastTab = state.lastTab,
-        .pageBreakBefore = state.pageBreakBefore != 0,
+        .pageBreakBefore = state.pageBreakBefore,
     };
 }
 
 TabStop tabStop(const TabState& state)
 {
-    return {state.position / twipsPerPoint, static_cast<TabKind>(state.kind), state.previous};
+    return {state.position / twipsPerPoint, state.kind, state.previous};
 }
 
 } // namespace corvellane::rtf

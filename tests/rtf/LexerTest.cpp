@@ -1,4 +1,4 @@
-#include "rtf/RtfLexer.h"
+#include "rtf/Lexer.h"
 #include "rtf/ByteScan.h"
 
 #include <gtest/gtest.h>
@@ -10,23 +10,23 @@
 namespace corvellane::rtf {
 namespace {
 
-std::string printed(const RtfToken& token)
+std::string printed(const Token& token)
 {
     const auto with = [&](const char* before) { return std::string(before).append(token.text); };
     switch (token.kind) {
-    case RtfToken::Kind::end:
+    case Token::Kind::end:
         return "end";
-    case RtfToken::Kind::open:
+    case Token::Kind::open:
         return "{";
-    case RtfToken::Kind::close:
+    case Token::Kind::close:
         return "}";
-    case RtfToken::Kind::word:
+    case Token::Kind::word:
         return token.hasParameter ? with("\\").append(1, '=').append(std::to_string(token.parameter)) : with("\\");
-    case RtfToken::Kind::symbol:
+    case Token::Kind::symbol:
         return token.text == "\n" ? "\\end-of-line" : with("\\");
-    case RtfToken::Kind::bytes:
+    case Token::Kind::bytes:
         return with("hex ");
-    case RtfToken::Kind::text:
+    case Token::Kind::text:
         return with(token.ascii ? "ascii " : "bytes ");
     }
     return "?";
@@ -34,15 +34,15 @@ std::string printed(const RtfToken& token)
 
 std::string tokens(std::string_view rtf)
 {
-    RtfLexer lexer(rtf);
+    Lexer lexer(rtf);
     std::string all;
-    for (const RtfToken* token = &lexer.next(); token->kind != RtfToken::Kind::end; token = &lexer.next()) {
+    for (const Token* token = &lexer.next(); token->kind != Token::Kind::end; token = &lexer.next()) {
         all.append(all.empty() ? "" : "|").append(printed(*token));
     }
     return all;
 }
 
-TEST(RtfLexer, cutsRtfIntoTokens)
+TEST(Lexer, cutsRtfIntoTokens)
 {
     const std::vector<std::pair<std::string, std::string>> rows = {
         {"", ""},
@@ -82,9 +82,14 @@ TEST(RtfLexer, cutsRtfIntoTokens)
     for (const auto& [rtf, expected] : rows) {
         EXPECT_EQ(tokens(rtf), expected) << rtf;
     }
+    std::string many;
+    for (int count = 0; count < 300; ++count) {
+        many += "\\'41";
+    }
+    EXPECT_EQ(tokens(many), "hex " + std::string(256, 'A') + "|hex " + std::string(44, 'A'));
 }
 
-TEST(RtfLexer, keepsTheLow32BitsOfANumber)
+TEST(Lexer, keepsTheLow32BitsOfANumber)
 {
     const std::vector<std::pair<std::string, std::string>> rows = {
         {"2147483647", "2147483647"},
@@ -103,7 +108,7 @@ TEST(RtfLexer, keepsTheLow32BitsOfANumber)
     }
 }
 
-TEST(RtfLexer, tellsATrailByteFromAControl)
+TEST(Lexer, tellsATrailByteFromAControl)
 {
     const std::vector<std::pair<std::string, int>> rows = {
         {"", -1},
@@ -121,7 +126,7 @@ TEST(RtfLexer, tellsATrailByteFromAControl)
         {"\\}", '\\'},
     };
     for (const auto& [rest, expected] : rows) {
-        EXPECT_EQ(RtfLexer(rest).peekTrailByte(), expected) << rest;
+        EXPECT_EQ(Lexer(rest).peekTrailByte(), expected) << rest;
     }
 }
 

@@ -1,4 +1,4 @@
-#include "rtf/RtfReader.h"
+#include "rtf/Reader.h"
 
 #include <gtest/gtest.h>
 
@@ -9,15 +9,15 @@ namespace corvellane::rtf {
 namespace {
 
 /// The text of RTF whose outer group holds `body`.
-AttributedText read(const std::string& body)
+AttributedText readBody(const std::string& body)
 {
-    return readRtf("{\\rtf1\\ansi" + body + "}").value();
+    return read("{\\rtf1\\ansi" + body + "}").value();
 }
 
 /// How the one run of text looks that `body` gives.
 TextAttributes look(const std::string& body)
 {
-    const AttributedText text = read(body);
+    const AttributedText text = readBody(body);
     EXPECT_EQ(text.runs.size(), 1U) << body;
     return text.attributes.at(text.runs.at(0).attributes);
 }
@@ -25,13 +25,13 @@ TextAttributes look(const std::string& body)
 /// How the last paragraph is laid out.
 ParagraphFormat format(const std::string& body)
 {
-    const AttributedText text = read(body);
+    const AttributedText text = readBody(body);
     return text.formats.at(text.paragraphs.back().format);
 }
 
 std::string family(const std::string& body)
 {
-    const AttributedText text = read(body);
+    const AttributedText text = readBody(body);
     return text.families.at(text.attributes.at(text.runs.at(0).attributes).family);
 }
 
@@ -44,7 +44,7 @@ TEST(RtfFormat, takesABoldFaceApartFromBold)
     EXPECT_FALSE(look(fonts + "\\f0\\b\\f1\\b0 x").bold);
     EXPECT_TRUE(look(fonts + "\\f2\\i0\\b x").italic);
     EXPECT_EQ(family(fonts + "\\f0 x"), "Helvetica");
-    EXPECT_EQ(read(fonts + "\\f0 a\\f1\\b b\\f0\\b0 c").runs.size(), 1U);
+    EXPECT_EQ(readBody(fonts + "\\f0 a\\f1\\b b\\f0\\b0 c").runs.size(), 1U);
 }
 
 TEST(RtfFormat, namesTheFontAsItsAuthorKnowsIt)
@@ -64,6 +64,7 @@ TEST(RtfFormat, namesTheFontAsItsAuthorKnowsIt)
         {"{\\*\\panose 020b}Arial{\\*\\falt Alternative};", "Arial"},
         {"\\'41rial;", "Arial"},
         {"Ari\\u225 l;", "Ari\u00E1l"},
+        {"\\fcharset128 A\x83;", "A\uFFFD"},
         {"Arial", "Arial"},
         {";", "Helvetica"},
     };
@@ -84,6 +85,7 @@ TEST(RtfFormat, isPlainOnceReset)
     EXPECT_EQ(plain.baselineOffset, 0);
     EXPECT_EQ(plain.script, VerticalPosition::normal);
     EXPECT_EQ(plain.capitals, Capitals::asTyped);
+    EXPECT_EQ(readBody(" a\\v").attributes.size(), 1U);
 }
 
 TEST(RtfFormat, takesSizesInHalfPointsAndNeverNone)
@@ -93,6 +95,8 @@ TEST(RtfFormat, takesSizesInHalfPointsAndNeverNone)
     for (const auto& [body, size] : rows) {
         EXPECT_EQ(look(body).size, size) << body;
     }
+    EXPECT_EQ(look("\\up2147483647 x").baselineOffset, 16383.5);
+    EXPECT_EQ(look("\\dn-2147483648 x").baselineOffset, 16383.5);
 }
 
 TEST(RtfFormat, hasNoColorWhereTheTableHasNone)
@@ -121,6 +125,7 @@ TEST(RtfFormat, readsLineHeights)
         {"\\sl360\\slmult0", LineHeight::Kind::atLeast, 18},
         {"\\slminimum280\\slmaximum280", LineHeight::Kind::exactly, 14},
         {"\\slminimum280", LineHeight::Kind::atLeast, 14},
+        {"\\slmaximum-280", LineHeight::Kind::natural, 0},
         {"\\sl0\\slmult1", LineHeight::Kind::natural, 0},
     };
     for (const Row& row : rows) {
@@ -136,7 +141,8 @@ TEST(RtfFormat, chainsTabStopsAndBoundsTheirNumber)
     for (int position = 1; position <= 100; ++position) {
         many += "\\tx" + std::to_string(position * 20);
     }
-    const AttributedText text = read(many + " a\\par{\\pard\\tqr\\tx40 b\\par}\\pard\\tx20\\tx40 c");
+    const AttributedText text
+        = readBody(many + " a\\par{\\pard\\tqr\\tx40 b\\par}\\tqr\\pard\\tx40 c\\par\\pard\\tx20\\tx40 d");
     const auto first = text.tabsOf(text.formats.at(text.paragraphs.at(0).format));
     ASSERT_EQ(first.size(), 64U);
     EXPECT_EQ(first.front().position, 1);
@@ -145,9 +151,10 @@ TEST(RtfFormat, chainsTabStopsAndBoundsTheirNumber)
     ASSERT_EQ(second.size(), 1U);
     EXPECT_EQ(second[0].kind, TabKind::right);
     const auto third = text.tabsOf(text.formats.at(text.paragraphs.at(2).format));
-    ASSERT_EQ(third.size(), 2U);
-    EXPECT_EQ(third[1].kind, TabKind::left);
-    EXPECT_EQ(text.tabStops.size(), 65U);
+    ASSERT_EQ(third.size(), 1U);
+    EXPECT_EQ(third[0].kind, TabKind::left);
+    EXPECT_EQ(text.tabsOf(text.formats.at(text.paragraphs.at(3).format)).size(), 2U);
+    EXPECT_EQ(text.tabStops.size(), 66U);
 }
 
 TEST(RtfFormat, leadsALinkWhereItsFieldSays)
@@ -158,26 +165,33 @@ TEST(RtfFormat, leadsALinkWhereItsFieldSays)
         {"{\\b HYPERLINK }{\"http://a\"}", "http://a"},
         {"HYPERLINK \\\\l \"mark\"", "#mark"},
         {"HYPERLINK \\\\l mark \"http://a\"", "http://a#mark"},
-        {"HYPERLINK \"http://a\" \\\\o \"tip\" \\\\n \\\\t \"_blank\"", "http://a"},
+        {"HYPERLINK \\\\t \"_blank\" \\\\o \"tip\" \\\\n \"http://a\" \"http://b\"", "http://a"},
+        {"HYPERLINK \"a{\\field{\\*\\fldinst X}{\\fldrslt b}}\"", "ab"},
+        {"{\\upr{HYPERLINK}{\\*\\ud HYPERLINK \"a\"}}", "a"},
         {"HYPERLINK \"C:\\\\\\\\a\\\\\"b\\\\\"\"", "C:\\a\"b\""},
         {"HYPERLINK \"http://a/\\u252 ?\"", "http://a/\u00FC"},
         {"HYPERLINK \"http://a", "http://a"},
+        {R"(HYPERLINK "\\\\\\\\a")", R"(\\a)"},
         {"HYPERLINK", ""},
         {"HYPERLINKS \"http://a\"", ""},
         {"PAGEREF \"http://a\"", ""},
         {"", ""},
     };
     for (const auto& [instruction, target] : rows) {
-        const AttributedText text = read("{\\field{\\*\\fldinst " + instruction + "}{\\fldrslt x}}");
+        const AttributedText text = readBody("{\\field{\\*\\fldinst " + instruction + "}{\\fldrslt x}}");
         EXPECT_EQ(text.links, target.empty() ? std::vector<std::string>{} : std::vector{target}) << instruction;
         EXPECT_EQ(text.text, "x") << instruction;
         EXPECT_EQ(text.attributes.at(text.runs.at(0).attributes).link.has_value(), !target.empty()) << instruction;
     }
-    const AttributedText after
-        = read("{\\field{\\*\\fldinst HYPERLINK \"a\"}{\\fldrslt \\plain x}}y{\\*\\fldinst HYPERLINK \"b\"}z");
-    ASSERT_EQ(after.runs.size(), 2U);
-    EXPECT_EQ(after.textOf(after.runs[1]), "yz");
-    EXPECT_FALSE(after.attributes.at(after.runs[1].attributes).link.has_value());
+    const AttributedText two = readBody("{\\field{\\*\\fldinst HYPERLINK \"a\"}{\\fldrslt \\plain x}}y"
+                                        "{\\field{\\*\\fldinst HYPERLINK \"b\"}{\\fldrslt z}}");
+    ASSERT_EQ(two.runs.size(), 3U);
+    EXPECT_FALSE(two.attributes.at(two.runs[1].attributes).link.has_value());
+    EXPECT_EQ(two.attributes.at(two.runs[2].attributes).link, 1U);
+    for (const std::string none : {"{\\*\\fldinst HYPERLINK \"a\"}",
+             "{\\field{\\fldrslt{\\*\\fldinst HYPERLINK \"a\"}}}", "{\\field\\fldinst HYPERLINK \"a\"{}}"}) {
+        EXPECT_TRUE(readBody(none).links.empty()) << none;
+    }
 }
 
 TEST(RtfFormat, breaksPages)

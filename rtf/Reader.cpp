@@ -1,0 +1,191 @@
+#include "rtf/Reader.h"
+
+#include "rtf/ControlWords.h"
+#include "rtf/Lexer.h"
+#include "rtf/TextActions.h"
+#include "rtf/Writer.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace corvellane::rtf {
+namespace {
+
+/// Raw bytes of most code pages take no more room in UTF-8.
+constexpr std::size_t mostGrowth = 2;
+
+std::string_view withoutLead(std::string_view bytes)
+{
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    const auto trim = [&] { bytes.remove_prefix(std::min(bytes.find_first_not_of(" \t\r\n\v\f"), bytes.size())); };
+    trim();
+    if (bytes.starts_with(byteOrderMark)) {
+        bytes.remove_prefix(byteOrderMark.size());
+        trim();
+    }
+    return bytes;
+}
+
+/// Carries out RTF token by token.
+class Interpreter {
+public:
+    explicit Interpreter(std::string_view bytes)
+        : lexer_(bytes)
+        , writer_(bytes.size() * mostGrowth)
+    {
+    }
+
+    bool run();
+    AttributedText take() { return writer_.take(); }
+
+private:
+    void carryOut(const Token& token, bool beginsGroup);
+    void onWord(const Token& token);
+    void onSymbol(const Token& token);
+    void onText(const Token& token);
+    std::string_view withoutFallback(std::string_view bytes);
+    std::string_view withoutFonts(std::string_view names, bool ascii);
+
+    Lexer lexer_;
+    Writer writer_;
+    /// A \* was the last token.
+    bool isOptional_ = false;
+};
+
+/// Goes through the outer group; false when it never closes.
+bool Interpreter::run()
+{
+    auto before = Token::Kind::end;
+    do {
+        const Token& token = lexer_.next();
+        if (token.kind == Token::Kind::end) {
+            return false;
+        }
+        if (token.kind != Token::Kind::word && std::exchange(isOptional_, false)) {
+            writer_.skipGroup();
+        }
+        carryOut(token, std::exchange(before, token.kind) == Token::Kind::open);
+    } while (writer_.depth() != 0);
+    return true;
+}
+
+void Interpreter::carryOut(const Token& token, bool beginsGroup)
+{
+    switch (token.kind) {
+    case Token::Kind::end:
+        break;
+    case Token::Kind::open:
+        writer_.openGroup();
+        break;
+    case Token::Kind::close:
+        writer_.closeGroup();
+        break;
+    case Token::Kind::word:
+        onWord(token);
+        break;
+    case Token::Kind::symbol:
+        isOptional_ = beginsGroup && token.text == "*";
+        onSymbol(token);
+        break;
+    case Token::Kind::bytes:
+        writer_.putBytes(withoutFallback(token.text));
+        break;
+    case Token::Kind::text:
+        onText(token);
+        break;
+    }
+}
+
+/// A writer may put any word in the place of a character, but one that formats is more likely one that the writer
+/// forgot the fallback before.
+void Interpreter::onWord(const Token& token)
+{
+    const ControlWord* const word = findControlWord(token.text);
+    if (std::exchange(isOptional_, false) && word == nullptr) {
+        writer_.skipGroup();
+    }
+    writer_.breakBytes();
+    if (word != nullptr && word->character == 0) {
+        writer_.fallback = 0;
+        if (word->action != nullptr && writer_.group().destination != Destination::skipped) {
+            word->action(writer_, token);
+        }
+    } else if (writer_.fallback > 0) {
+        --writer_.fallback;
+    } else if (word != nullptr) {
+        writer_.put(word->character);
+    }
+}
+
+void Interpreter::onSymbol(const Token& token)
+{
+    const char symbol = token.text[0];
+    if (symbol == '\n') {
+        writer_.fallback = 0;
+        actions::paragraph(writer_, token);
+    } else if (symbol == '\\' || symbol == '{' || symbol == '}') {
+        writer_.putBytes(withoutFallback(token.text));
+    } else if (writer_.fallback > 0) {
+        --writer_.fallback;
+    } else if (symbol == '~' || symbol == '_') {
+        writer_.put(symbol == '~' ? U'\u00A0' : U'\u2011');
+    } else if (symbol == '\t') {
+        writer_.put(U'\t');
+    }
+}
+
+void Interpreter::onText(const Token& token)
+{
+    std::string_view bytes = withoutFallback(token.text);
+    const Destination to = writer_.group().destination;
+    if (to == Destination::colorTable) {
+        for (auto entries = std::ranges::count(bytes, ';'); entries > 0; --entries) {
+            writer_.colors.finishEntry();
+        }
+        return;
+    }
+    if (to == Destination::fontTable) {
+        bytes = withoutFonts(bytes, token.ascii);
+    }
+    writer_.putText(bytes, token.ascii);
+    const int trail = writer_.awaitsTrail() ? lexer_.peekTrailByte() : -1;
+    if (trail >= 0 && writer_.putTrailByte(static_cast<char>(trail))) {
+        lexer_.skipByte();
+    }
+}
+
+/// Passes over what of the bytes belongs to a fallback.
+std::string_view Interpreter::withoutFallback(std::string_view bytes)
+{
+    const std::size_t passed = std::min(bytes.size(), static_cast<std::size_t>(writer_.fallback));
+    writer_.fallback -= static_cast<std::int32_t>(passed);
+    return bytes.substr(passed);
+}
+
+/// Passes over the names that end here.
+std::string_view Interpreter::withoutFonts(std::string_view names, bool ascii)
+{
+    for (std::size_t end = names.find(';'); end != std::string_view::npos; end = names.find(';')) {
+        writer_.putText(names.substr(0, end), ascii);
+        writer_.changeFonts().finishEntry();
+        names.remove_prefix(end + 1);
+    }
+    return names;
+}
+
+} // namespace
+
+Expected<AttributedText, ReadFailure> read(std::string_view bytes)
+{
+    const std::string_view rtf = withoutLead(bytes);
+    if (!rtf.starts_with("{\\rtf") || rtf.size() > largestInput) {
+        return tl::unexpected(ReadFailure::notRtf);
+    }
+    Interpreter interpreter(rtf);
+    if (!interpreter.run()) {
+        return tl::unexpected(ReadFailure::incomplete);
+    }
+    return interpreter.take();
+}
+
+} // namespace corvellane::rtf

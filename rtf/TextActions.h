@@ -1,0 +1,155 @@
+#pragma once
+
+#include "rtf/Lexer.h"
+#include "rtf/Writer.h"
+
+#include <algorithm>
+
+/// What control words do, each where its word stands in a group that is not skipped.
+namespace corvellane::rtf::actions {
+
+template <Destination To>
+void destination(Writer& writer, const Token&)
+{
+    GroupState& group = writer.changeGroup();
+    group.unicodeDestination = group.destination;
+    group.destination = To;
+}
+
+/// The instruction of a field within an instruction is none of the outer one's text, its result is.
+inline void fieldInstruction(Writer& writer, const Token&)
+{
+    if (writer.group().destination == Destination::fieldInstruction) {
+        writer.skipGroup();
+    } else {
+        writer.changeGroup().destination = Destination::fieldInstruction;
+        writer.instruction.clear();
+    }
+}
+
+inline void unicodeAlternative(Writer& writer, const Token&)
+{
+    if (writer.group().destination == Destination::alternative) {
+        writer.changeGroup().destination = writer.group().unicodeDestination;
+    }
+}
+
+inline void field(Writer& writer, const Token&)
+{
+    writer.changeGroup().isField = true;
+}
+
+inline void cocoa(Writer& writer, const Token&)
+{
+    writer.isCocoa = true;
+}
+
+template <int Page>
+void codePage(Writer& writer, const Token&)
+{
+    writer.setCodePage(Page);
+}
+
+inline void codePageOfParameter(Writer& writer, const Token& token)
+{
+    writer.setCodePage(token.parameter);
+}
+
+inline void font(Writer& writer, const Token& token)
+{
+    if (writer.group().destination == Destination::fontTable) {
+        writer.changeFonts().beginEntry(token.parameter);
+    } else {
+        writer.changeCharacter().font = writer.fonts().find(token.parameter);
+    }
+}
+
+inline void fontCharset(Writer& writer, const Token& token)
+{
+    writer.changeFonts().setCharset(token.parameter);
+}
+
+inline void fontCodePage(Writer& writer, const Token& token)
+{
+    if (writer.hasCodePage(token.parameter)) {
+        writer.changeFonts().setCodePage(token.parameter);
+    }
+}
+
+/// The part that lies `Shift` bits up in a colour.
+template <int Shift>
+void colorPart(Writer& writer, const Token& token)
+{
+    writer.colors.setPart(token.parameter, Shift);
+}
+
+inline void paragraph(Writer& writer, const Token&)
+{
+    if (writer.group().destination != Destination::body || writer.character().hidden) {
+        return;
+    }
+    if (writer.paragraph().inTable) {
+        writer.put(U'\u2028');
+    } else {
+        writer.endedCells = 0;
+        writer.endParagraph();
+    }
+}
+
+inline void cell(Writer& writer, const Token&)
+{
+    if (writer.group().destination != Destination::body) {
+        return;
+    }
+    if (writer.nestedRowEnded && writer.paragraphIsEmpty()) {
+        writer.nestedRowEnded = false;
+    } else {
+        ++writer.endedCells;
+    }
+}
+
+/// The end of the last cell parts it from nothing.
+template <bool IsNested>
+void row(Writer& writer, const Token&)
+{
+    if (writer.group().destination == Destination::body) {
+        writer.endedCells -= writer.endedCells != 0 ? 1 : 0;
+        writer.partCells();
+        writer.endParagraph();
+        writer.nestedRowEnded = IsNested;
+    }
+}
+
+inline void page(Writer& writer, const Token&)
+{
+    if (writer.group().destination == Destination::body) {
+        if (!writer.paragraphIsEmpty()) {
+            writer.endParagraph();
+        }
+        writer.pageBreak = true;
+    }
+}
+
+inline void samePage(Writer& writer, const Token&)
+{
+    writer.pageBreak = false;
+}
+
+inline void unicode(Writer& writer, const Token& token)
+{
+    const bool isUnit = token.parameter < 0 || token.parameter > 0x10FFFF;
+    const auto code = static_cast<char32_t>(isUnit ? token.parameter & 0xFFFF : token.parameter);
+    writer.fallback = writer.group().fallbackLength;
+    if (code == U'\u2029') {
+        paragraph(writer, token);
+    } else {
+        writer.put(code);
+    }
+}
+
+inline void fallbackLength(Writer& writer, const Token& token)
+{
+    writer.changeGroup().fallbackLength = std::max(token.parameterOr(1), 0);
+}
+
+} // namespace corvellane::rtf::actions
