@@ -19,7 +19,7 @@ bool isSameWord(std::string_view spelling, std::string_view word)
         [](char spelled, char expected) { return toSmallLetter(spelled) == expected; });
 }
 
-std::string quoted(std::string_view text)
+std::string inQuotes(std::string_view text)
 {
     return "“" + std::string(text) + "”";
 }
@@ -35,7 +35,7 @@ std::string describe(const Token& token)
     case TokenKind::unknown:
         return "unknown token";
     default:
-        return quoted(token.spelling);
+        return inQuotes(token.spelling);
     }
 }
 
@@ -89,7 +89,7 @@ void TokenStream::expect(std::initializer_list<std::string_view> words)
 {
     for (const std::string_view word : words) {
         if (!accept(word)) {
-            failExpecting(quoted(word));
+            failExpecting(inQuotes(word));
         }
     }
 }
