@@ -18,7 +18,8 @@ std::size_t allocations = 0;
 
 } // namespace
 
-void* operator new(std::size_t size)
+// Where only some of these were inlined, the compiler would take memory for that of another allocator.
+[[gnu::noinline]] void* operator new(std::size_t size)
 {
     ++allocations;
     if (void* const memory = std::malloc(size)) {
@@ -27,12 +28,12 @@ void* operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
-void operator delete(void* memory) noexcept
+[[gnu::noinline]] void operator delete(void* memory) noexcept
 {
     std::free(memory);
 }
 
-void operator delete(void* memory, std::size_t) noexcept
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept
 {
     std::free(memory);
 }

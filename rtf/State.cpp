@@ -68,7 +68,7 @@ ParagraphFormat paragraphFormat(const ParagraphState& state)
     };
 }
 
-TabStop tabStop(const TabState& state)
+TabStop toTabStop(const TabState& state)
 {
     return {state.position / twipsPerPoint, state.kind, state.previous};
 }

@@ -86,6 +86,6 @@ struct GroupState {
 /// A canonical state, whose `font` is an index into the families, as attributes.
 TextAttributes textAttributes(const CharacterState& state);
 ParagraphFormat paragraphFormat(const ParagraphState& state);
-TabStop tabStop(const TabState& state);
+TabStop toTabStop(const TabState& state);
 
 } // namespace corvellane::rtf

@@ -96,7 +96,7 @@ AttributedText TextBuilder::take(const FontTable& fonts)
     };
     convert(attributes_.values(), result_.attributes, textAttributes);
     convert(paragraphs_.values(), result_.formats, paragraphFormat);
-    convert(tabs_.values(), result_.tabStops, tabStop);
+    convert(tabs_.values(), result_.tabStops, toTabStop);
     result_.families = fonts.families();
     return std::move(result_);
 }

@@ -19,7 +19,7 @@ bool isSameWord(std::string_view spelling, std::string_view word)
         [](char spelled, char expected) { return toSmallLetter(spelled) == expected; });
 }
 
-std::string quoted(std::string_view text)
+std::string inQuotes(std::string_view text)
 {
     return "“" + std::string(text) + "”";
 }
@@ -42,7 +42,7 @@ std::string describe(const Token& token)
     case TokenKind::closeParenthesis:
         break;
     }
-    return quoted(token.spelling);
+    return inQuotes(token.spelling);
 }
 
 } // namespace
@@ -77,7 +77,7 @@ void TokenStream::expect(std::initializer_list<std::string_view> words)
 {
     for (const std::string_view word : words) {
         if (!accept(word)) {
-            failExpecting(quoted(word));
+            failExpecting(inQuotes(word));
         }
     }
 }

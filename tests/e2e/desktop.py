@@ -12,6 +12,7 @@ SIDE_BAR = ["label " + name for name in ("Introduction", "License", "Products", 
 QUESTION = "To continue using the software you must agree to the terms of the software license agreement."
 ANSWERS = "Click Agree to continue or click Disagree to cancel and quit the Installer."
 CONFIRMATION = 'Click "Install" button to complete the installation.'
+ROLES = {"button": "push button"}  # newer names of roles, by the older ones that are expected here
 HOST_FOLDERS = [
     "/Library/Application Support/Adobe/Common/Plug-ins/7.0/MediaCore/Corvellane",
     "/Library/Application Support/Adobe/Plug-Ins/CC/Corvellane",
@@ -127,7 +128,8 @@ class Wizard:
 
     def words_of(self, node):
         state = node.getState()
-        words = [node.getRoleName(), node.name]
+        role = node.getRoleName()
+        words = [ROLES.get(role, role), node.name]
         words += [word for word, flag in self.FLAGS.items() if state.contains(flag)]
         words += [] if state.contains(self.atspi.STATE_ENABLED) else ["disabled"]
         return " ".join(words)
