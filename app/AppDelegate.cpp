@@ -13,7 +13,7 @@ namespace {
 void removeFirstItemTitled(Menu& menu, std::string_view title)
 {
     const std::vector<std::string> titles = menu.itemTitles();
-    const auto found = std::find(titles.begin(), titles.end(), title);
+    const auto found = std::ranges::find(titles, title);
     if (found != titles.end()) {
         menu.removeItem(static_cast<std::size_t>(found - titles.begin()));
     }

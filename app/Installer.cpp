@@ -7,10 +7,12 @@
 
 #include <QApplication>
 
+#include <utility>
+
 namespace corvellane {
 
-Installer::Installer(const DesktopSystem& system, const std::string& translations)
-    : system_(system)
+Installer::Installer(DesktopSystem system, const std::string& translations)
+    : system_(std::move(system))
     , translations_(translations, QLocale::system())
     , scene_(system_.platform())
 {

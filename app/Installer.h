@@ -12,7 +12,7 @@ class Installer {
 public:
     /// The tables of translated texts lie in the resource folder, or else where it is said.
     explicit Installer(const DesktopSystem& system = {});
-    Installer(const DesktopSystem& system, const std::string& translations);
+    Installer(DesktopSystem system, const std::string& translations);
 
     /// Shows the window and returns when the program is to end, with the exit status.
     int run();

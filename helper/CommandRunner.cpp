@@ -87,7 +87,7 @@ void collect(pid_t shell, int output, int errors, Reply& reply)
     std::array<pollfd, 3> events{{{output, POLLIN, 0}, {errors, POLLIN, 0}, {ended, POLLIN, 0}}};
     const auto isOpen = [](const pollfd& event) { return event.fd >= 0; };
     // Once more after the end, for what was written just before it.
-    for (bool running = true; running && std::any_of(events.begin(), events.end(), isOpen);) {
+    for (bool running = true; running && std::ranges::any_of(events, isOpen);) {
         running = events[2].revents == 0;
         poll(events.data(), events.size(), running ? -1 : 0);
         drain(events[0], reply.output);

@@ -35,7 +35,7 @@ std::vector<std::string> describeTree(const std::string& folder, const std::stri
     for (; !error && entry != fs::recursive_directory_iterator(); entry.increment(error)) {
         paths.push_back(entry->path());
     }
-    std::sort(paths.begin(), paths.end());
+    std::ranges::sort(paths);
     std::vector<std::string> lines;
     lines.reserve(paths.size());
     for (const fs::path& path : paths) {

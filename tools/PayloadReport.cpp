@@ -79,10 +79,7 @@ private:
         warn(warnAboutElement(path));
     }
 
-    void warn(PayloadWarnings warnings)
-    {
-        std::move(warnings.begin(), warnings.end(), std::back_inserter(report_.warnings));
-    }
+    void warn(PayloadWarnings warnings) { std::ranges::move(warnings, std::back_inserter(report_.warnings)); }
 
     const Files& files_;
     const HostPaths& hosts_;

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 void append(PayloadWarnings& warnings, PayloadWarnings more)
 {
-    std::move(more.begin(), more.end(), std::back_inserter(warnings));
+    std::ranges::move(more, std::back_inserter(warnings));
 }
 
 PayloadWarnings warnAboutKind(const std::string& path)
@@ -165,7 +165,7 @@ PayloadWarnings warnAboutElement(const std::string& path)
 PayloadWarnings warnAboutUncreatedFolder(const HostPaths& hosts, const std::vector<std::string>& elements)
 {
     const auto firstOf = [&](ElementKind kind) {
-        return std::find_if(elements.begin(), elements.end(), [&](const auto& path) { return kindOf(path) == kind; });
+        return std::ranges::find_if(elements, [&](const auto& path) { return kindOf(path) == kind; });
     };
     const auto video = firstOf(ElementKind::video);
     const auto photo = firstOf(ElementKind::photo);

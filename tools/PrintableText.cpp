@@ -45,7 +45,7 @@ std::string printable(std::string_view bytes)
         if (length > 0 && !isControl(character) && character != '\\') {
             text += spelling;
         } else {
-            std::for_each(spelling.begin(), spelling.end(), [&](char byte) { text += escaped(byte); });
+            std::ranges::for_each(spelling, [&](char byte) { text += escaped(byte); });
         }
         bytes.remove_prefix(spelling.size());
     }

@@ -5,6 +5,7 @@
 #include "platform/script/DirectPrompt.h"
 
 #include <filesystem>
+#include <utility>
 
 namespace corvellane {
 namespace {
@@ -44,8 +45,8 @@ void makeRehearsal(System& system, const std::string& productsFolder, const std:
     system.fileManager = windowless.fileManager;
 }
 
-Rehearsal::Rehearsal(const System& system, const std::string& productsFolder, const std::string& into)
-    : system_(system)
+Rehearsal::Rehearsal(System system, const std::string& productsFolder, const std::string& into)
+    : system_(std::move(system))
 {
     makeRehearsal(system_, productsFolder, into);
     system_.dispatcher = dispatcher_;

@@ -17,7 +17,7 @@ void makeRehearsal(System& system, const std::string& productsFolder, const std:
 /// The installer's own state on a rehearsal's services, without a window.
 class Rehearsal {
 public:
-    Rehearsal(const System& system, const std::string& productsFolder, const std::string& into);
+    Rehearsal(System system, const std::string& productsFolder, const std::string& into);
 
     /// The state, filled from the products folder.
     AppSettings& settings() { return *settings_; }

@@ -59,13 +59,13 @@ std::optional<std::string> select(AppSettings& settings, const std::vector<std::
         return [&name](const std::string& location) { return lastPathComponent(location) == name; };
     };
     for (const std::string& name : names) {
-        if (std::none_of(locations.begin(), locations.end(), hasName(name))) {
+        if (std::ranges::none_of(locations, hasName(name))) {
             return name;
         }
     }
     for (const std::string& location : locations) {
         const auto isProduct = [&](const std::string& name) { return hasName(name)(location); };
-        if (!names.empty() && std::none_of(names.begin(), names.end(), isProduct)) {
+        if (!names.empty() && std::ranges::none_of(names, isProduct)) {
             settings.toggleProduct(location);
         }
     }

@@ -51,7 +51,8 @@ bool isSystemBusRunning()
     address.sun_family = AF_UNIX;
     constexpr std::string_view path = "/run/dbus/system_bus_socket";
     path.copy(address.sun_path, path.size());
-    return connect(connection.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    return connection.isOpen()
+        && connect(connection.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 
 /// `complaint` only chooses the words: pkexec gives a refused password, a missing agent and a fault of its own the same

@@ -66,7 +66,7 @@ Pipe makePipe()
 {
     std::array<int, 2> ends{-1, -1};
     if (pipe(ends.data()) == 0) {
-        std::for_each(ends.begin(), ends.end(), [](int end) { fcntl(end, F_SETFD, FD_CLOEXEC); });
+        std::ranges::for_each(ends, [](int end) { fcntl(end, F_SETFD, FD_CLOEXEC); });
     }
     return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
 }

@@ -48,7 +48,8 @@ std::optional<bool> isFolder(DIR* folder, const dirent& entry)
         return entry.d_type == DT_DIR;
     }
     struct stat status{};
-    if (fstatat(dirfd(folder), entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+    const int descriptor = dirfd(folder);
+    if (descriptor < 0 || fstatat(descriptor, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
         return std::nullopt;
     }
     return S_ISDIR(status.st_mode);
@@ -97,7 +98,7 @@ Expected<std::vector<FolderEntry>> PosixFiles::list(const std::string& folder) c
     if (errno != 0) {
         return cannotList(folder, errno);
     }
-    std::sort(entries.begin(), entries.end(), [&](const FolderEntry& left, const FolderEntry& right) {
+    std::ranges::sort(entries, [&](const FolderEntry& left, const FolderEntry& right) {
         return left.path.compare(base.size(), std::string::npos, right.path, base.size()) < 0;
     });
     return entries;

@@ -39,7 +39,7 @@ std::string takeQuoted(std::string_view& rest)
 
 WorkMeter::~WorkMeter()
 {
-    end();
+    ++run_;
 }
 
 WorkMeter::Work WorkMeter::workOf(const std::string& command)
@@ -61,7 +61,7 @@ void WorkMeter::begin(const std::vector<std::string>& commands)
 {
     end();
     const std::lock_guard lock(mutex_);
-    std::transform(commands.begin(), commands.end(), std::back_inserter(works_), &workOf);
+    std::ranges::transform(commands, std::back_inserter(works_), &workOf);
     current_ = 0;
     greatestPart_ = 0;
     nextLook_ = {};

@@ -17,6 +17,7 @@ QString shown(const char* title)
 std::vector<std::string> QtMenu::itemTitles() const
 {
     std::vector<std::string> titles;
+    titles.reserve(items_.size());
     for (const Item& item : items_) {
         titles.emplace_back(item.title);
     }

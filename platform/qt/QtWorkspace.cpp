@@ -26,7 +26,7 @@ bool isHandled(const QString& scheme)
     for (const char* const name : {"mimeapps.list", "mimeinfo.cache"}) {
         files += QStandardPaths::locateAll(QStandardPaths::ApplicationsLocation, QString::fromLatin1(name));
     }
-    return std::any_of(files.begin(), files.end(), [&](const QString& file) { return mentions(file, entry); });
+    return std::ranges::any_of(files, [&](const QString& file) { return mentions(file, entry); });
 }
 
 } // namespace

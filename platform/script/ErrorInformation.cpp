@@ -8,7 +8,7 @@ namespace {
 
 bool isPlain(std::string_view value)
 {
-    return !value.empty() && std::all_of(value.begin(), value.end(), [](char character) {
+    return !value.empty() && std::ranges::all_of(value, [](char character) {
         return (character >= '0' && character <= '9') || (character >= 'a' && character <= 'z')
             || (character >= 'A' && character <= 'Z');
     });

@@ -43,7 +43,7 @@ constexpr TokenKind kindStartedBy(char character)
 template <typename Belongs>
 std::size_t lengthWhile(std::string_view text, Belongs belongs)
 {
-    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), belongs) - text.begin());
+    return static_cast<std::size_t>(std::ranges::find_if_not(text, belongs) - text.begin());
 }
 
 /// The bytes of the UTF-8 character at the start of `text`, or 1 when there is none.

@@ -15,8 +15,8 @@ char toSmallLetter(char character)
 
 bool isSameWord(std::string_view spelling, std::string_view word)
 {
-    return std::equal(spelling.begin(), spelling.end(), word.begin(), word.end(),
-        [](char spelled, char expected) { return toSmallLetter(spelled) == expected; });
+    return std::ranges::equal(
+        spelling, word, [](char spelled, char expected) { return toSmallLetter(spelled) == expected; });
 }
 
 std::string inQuotes(std::string_view text)
@@ -56,7 +56,7 @@ bool TokenStream::atReservedWord() const
 {
     constexpr std::array<std::string_view, 18> words{"administrator", "application", "do", "end", "error", "on", "path",
         "privileges", "return", "script", "set", "shell", "support", "tell", "to", "try", "with", "without"};
-    return std::any_of(std::begin(words), std::end(words), [&](std::string_view word) { return at(word); });
+    return std::ranges::any_of(words, [&](std::string_view word) { return at(word); });
 }
 
 Token TokenStream::advance()
@@ -105,7 +105,7 @@ void TokenStream::fail(std::string message, SourceRange range)
 std::string inSmallLetters(std::string_view text)
 {
     std::string letters(text);
-    std::transform(letters.begin(), letters.end(), letters.begin(), toSmallLetter);
+    std::ranges::transform(letters, letters.begin(), toSmallLetter);
     return letters;
 }
 
