@@ -196,7 +196,7 @@ struct FakeFolders : StandardFolders {
     mutable int requests = 0;
     std::map<std::pair<SearchDirectory, SearchDomain>, std::vector<std::string>> paths{
         {{SearchDirectory::applications, SearchDomain::local}, {"/Applications", "/Other"}},
-        {{SearchDirectory::applicationSupport, SearchDomain::local}, {"/Library/Application Support"}},
+        {{SearchDirectory::applicationSupport, SearchDomain::local}, {"/Library/Application Support", "/Other"}},
         {{SearchDirectory::applicationSupport, SearchDomain::user}, {"/Users/user/Library/Application Support"}}};
 };
 

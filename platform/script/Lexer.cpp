@@ -141,10 +141,9 @@ std::size_t Lexer::lengthAt(TokenKind kind) const
         return lengthWhile(rest, isDigit);
     case TokenKind::word:
         return lengthWhile(rest, [](char character) { return isWordStart(character) || isDigit(character); });
-    case TokenKind::endOfLine:
-        return rest.substr(0, 2) == "\r\n" ? 2 : 1;
     case TokenKind::unknown:
         return lengthOfCharacter(rest);
+    case TokenKind::endOfLine:
     case TokenKind::ampersand:
     case TokenKind::openParenthesis:
     case TokenKind::closeParenthesis:

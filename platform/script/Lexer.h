@@ -31,8 +31,9 @@ struct Token {
 };
 
 /// Cuts the source text of a script into tokens, one at a time. White space, comments ("--" and "#" to the end of
-/// the line, nested "(* … *)") and line ends after a continuation sign "¬" separate tokens; LF, CR and CRLF each end
-/// a line. The source must outlive the lexer and its tokens. At the end every further token is `endOfScript`.
+/// the line, nested "(* … *)") and line ends after a continuation sign "¬" separate tokens; LF and CR each end a
+/// line, so that CRLF ends an empty one as well. The source must outlive the lexer and its tokens. At the end every
+/// further token is `endOfScript`.
 class Lexer {
 public:
     explicit Lexer(std::string_view source)

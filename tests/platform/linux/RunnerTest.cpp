@@ -1,6 +1,6 @@
 #include "helper/RunnerMessages.h"
-#include "platform/linux/IsolatedChild.h"
 #include "platform/linux/RunnerShell.h"
+#include "platform/posix/ChildProcess.h"
 #include "platform/posix/UserAccount.h"
 #include "platform/script/ErrorInformation.h"
 #include "tests/ScratchFolder.h"
@@ -9,6 +9,7 @@
 
 #include <fcntl.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 
 #include <array>
 
@@ -25,8 +26,12 @@ protected:
         socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data());
         const FileDescriptor theirs(ends[1]);
         const FileDescriptor nothing(open("/dev/null", O_RDWR | O_CLOEXEC));
-        runner = *startIsolatedChild({{COMMAND_RUNNER}, {"PKEXEC_UID=" + user, "LEAKED=yes", "HOME=/gone"}},
+        // What is inherited here, the runner has to put away itself.
+        const FileDescriptor leaked(dup(theirs.get()));
+        const mode_t before = umask(0077);
+        runner = *startChild({{COMMAND_RUNNER}, {"PKEXEC_UID=" + user, "LEAKED=yes", "HOME=/gone"}},
             {theirs.get(), theirs.get(), nothing.get()});
+        umask(before);
         return FileDescriptor(ends[0]);
     }
 
@@ -44,10 +49,11 @@ protected:
         EXPECT_TRUE(runnerComesUp(channel));
         send(channel.get(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
         shutdown(channel.get(), SHUT_WR);
+        const int status = exitStatusOf(runner);
         std::string answer;
         drain(channel, answer);
         EXPECT_EQ(answer, "");
-        return exitStatusOf(runner);
+        return status;
     }
 
     pid_t runner = -1;
@@ -67,7 +73,14 @@ TEST_F(RunnerTest, runsCommandsInAWorldOfTheirOwn)
     EXPECT_EQ(failed->output + failed->errors, "out\nerr\n");
     EXPECT_EQ(failed->status, 7);
     EXPECT_EQ(shell->run("kill -9 $$")->status, 128 + 9);
-    EXPECT_EQ(shell->run("echo \"a\\\\\\\\b\"")->output, "a\\b\n") << "in the dialect that scripts are written in";
+    EXPECT_EQ(shell->run("cut -d ' ' -f 6 /proc/$PPID/stat; echo $PPID")->output,
+        std::to_string(runner) + "\n" + std::to_string(runner) + "\n")
+        << "in a session of its own";
+    EXPECT_EQ(shell->run("for name in PIPE HUP INT TERM QUIT TSTP; do kill -$name $PPID; done")->status, 0);
+    const ScratchFolder scratch;
+    scratch.write("from/file", "");
+    EXPECT_EQ(shell->run("cd " + scratch.path() + "; mkdir to; cp -R -f from/ to/; ls to")->output, "file\n")
+        << "in the dialect that scripts are written in";
 }
 
 TEST_F(RunnerTest, keepsAMebibyteOfEachStreamAndWaitsForNothingInTheBackground)

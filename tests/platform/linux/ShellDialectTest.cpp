@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 namespace corvellane {
 namespace {
 
@@ -41,6 +43,7 @@ TEST_F(ShellDialectTest, copiesAFolderWithoutATrailingSlashAsAWhole)
     run("cp -R -f from to/; cp -R -f from to/");
     EXPECT_THAT(tree(),
         ElementsAre("folder  from", "folder  from/sub", "folder  to", "folder  to/from", "folder  to/from/sub"));
+    EXPECT_EQ(run("cp -R -f from/ new/; ls -F new").output, "sub/\n");
     const script::CommandResult vanished = run("cp -R -f gone to/");
     EXPECT_EQ(vanished.status, 1);
     EXPECT_EQ(vanished.errors, "cp: cannot stat 'gone': No such file or directory\n");
@@ -72,7 +75,9 @@ TEST_F(ShellDialectTest, echoesLikeAnXsiShellAndCountsLinesFromOne)
     EXPECT_EQ(run(R"(echo "a\\\\b\\tc"  'd\0101')").output, "a\\b\tc dA\n");
     EXPECT_EQ(run("echo -n").output, "-n\n");
     EXPECT_EQ(run("true\nno-such-command").errors, "/bin/sh: 2: no-such-command: not found\n");
+    const mode_t before = umask(0077);
     run("echo x > file; mkdir folder");
+    umask(before);
     EXPECT_EQ(run("umask; stat -c %a file folder").output, "0022\n644\n755\n");
 }
 

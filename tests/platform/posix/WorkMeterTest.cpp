@@ -71,17 +71,31 @@ TEST_F(WorkMeterTest, countsCopiesByTheirBytesAndWhatTheyHaveWritten)
     meter.begin({"mkdir x", copy("a/Small.plugin"), copy(R"(b/Large \"\$\".plugin)"), "rm x", copy("gone")});
     meter.start(0);
     EXPECT_NEAR(settled(0), 0, 0.005);
+    meter.start(1);
+    write("to/Small.plugin/file", smallSize);
+    EXPECT_NEAR(settled(0.25), 0.25, 0.005);
     meter.start(2);
+    EXPECT_NEAR(meter.partDone().value(), 0.25, 0.005) << "what the last one has written is its own";
     EXPECT_NEAR(settled(0.25), 0.25, 0.005) << "what was there before the copy does not count";
     write("to/Large \"$\".plugin/in/other", largeSize / 3);
     EXPECT_NEAR(settled(0.5), 0.5, 0.005);
+    write("to/Large \"$\".plugin/in/other", 0);
+    for (int look = 0; look < 20; ++look) {
+        EXPECT_NEAR(meter.partDone().value(), 0.5, 0.005) << "no work is undone";
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
     write("to/Large \"$\".plugin/in/other", largeSize * 2);
     EXPECT_NEAR(settled(1), 1, 0.005) << "no copy writes more than its source";
     meter.start(3);
     EXPECT_NEAR(settled(1), 1, 0.005);
     meter.end();
-    meter.begin({copy("a/Small.plugin"), "true"});
+    meter.begin({copy("a/Small.plugin/"), "true"});
     EXPECT_EQ(meter.partDone(), 0) << "another script begins anew";
+    write("to/file", smallSize / 2);
+    std::filesystem::remove_all(scratch.path() + "/to/Small.plugin");
+    std::filesystem::remove_all(scratch.path() + "/to/Large \"$\".plugin");
+    meter.start(0);
+    EXPECT_NEAR(settled(0.5), 0.5, 0.005) << "the contents of a folder go into the target itself";
 }
 
 } // namespace

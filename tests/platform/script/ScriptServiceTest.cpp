@@ -53,11 +53,14 @@ TEST_F(ScriptServiceTest, givesWhatAScriptReturnsOrItsLastValue)
         {"try\nset a to 1\nend try\nreturn a", "1"},
         {"try\nreturn unknown\non error\nreturn 5\nend try", "5"},
         {"try\nreturn unknown\nend try", "nothing"},
+        {"try\nreturn unknown\nend try\nreturn 6", "6"},
+        {"tell application \"FINDER\"\nreturn 1\nend tell", "1"},
         {"return path to application support", "/Library/Application Support"},
         {"return \"a\\\"\\\\\\n\\r\\tb\nc\rd\"", "a\"\\\n\r\tb\nc\rd"},
         {"-- a comment\r\n\r\nreturn 1 -- one\r\n# done", "1"},
         {"(* a (* nested *) comment *) return (**) 3 (* ** *)", "3"},
         {"return \xC2\xAC \n 4", "4"},
+        {"# ends with the line\rreturn \xC2\xAC\r\n 5", "5"},
     };
     for (const auto& [source, result] : rows) {
         EXPECT_EQ(resultOf(source), result) << source;
@@ -66,12 +69,12 @@ TEST_F(ScriptServiceTest, givesWhatAScriptReturnsOrItsLastValue)
 
 TEST_F(ScriptServiceTest, turnsAFailingCommandIntoAnErrorThatCanBeCaught)
 {
-    recorder.results["loud"] = {3, "out\n", "loud:\nfailed\n\n"};
+    recorder.results["loud"] = {3, "out\n", "loud:\n\\failed\n\n"};
     recorder.results["quiet"] = {1, "", ""};
     const auto caught = [](const std::string& command) {
         return "try\ndo shell script \"" + command + "\"\ndo shell script \"not run\"\non error m\nreturn m\nend try";
     };
-    EXPECT_EQ(resultOf(caught("loud")), "loud:\nfailed\n");
+    EXPECT_EQ(resultOf(caught("loud")), "loud:\n\\failed\n");
     EXPECT_EQ(resultOf(caught("quiet")), "The command exited with a non-zero status.");
     EXPECT_THAT(recorder.journal, ElementsAre("begin", "loud", "end", "begin", "quiet", "end"));
     EXPECT_EQ(resultOf("try\ntry\nreturn x\non error m\nreturn y\nend try\non error m\nreturn m\nend try"),
@@ -79,8 +82,8 @@ TEST_F(ScriptServiceTest, turnsAFailingCommandIntoAnErrorThatCanBeCaught)
     const ScriptExecution uncaught = execute("\n do shell script \"loud\"");
     EXPECT_FALSE(uncaught.result);
     EXPECT_EQ(uncaught.errorDescription,
-        "{\n    NSAppleScriptErrorBriefMessage = \"loud:\\nfailed\\n\";\n    NSAppleScriptErrorMessage = "
-        "\"loud:\\nfailed\\n\";\n"
+        "{\n    NSAppleScriptErrorBriefMessage = \"loud:\\n\\\\failed\\n\";\n    NSAppleScriptErrorMessage = "
+        "\"loud:\\n\\\\failed\\n\";\n"
         "    NSAppleScriptErrorNumber = 3;\n    NSAppleScriptErrorRange = \"NSRange: {2, 22}\";\n}");
 }
 
