@@ -2,45 +2,28 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 namespace corvellane::view {
 namespace {
 
-struct Lamp {
-    void light() { ++brightness; }
-    void set(const std::string& wanted) { brightness = std::stoi(wanted); }
-    int brightness = 0;
-};
+using Change = Action<int(int)>;
 
-bool isLit(const Lamp& lamp)
+int plus(int& number, int other)
 {
-    return lamp.brightness > 0;
+    return number += other;
 }
 
-using Press = Action<void()>;
-
-TEST(Action, performsItsOperationOnItsReceiver)
+TEST(Action, isEqualToWhatWouldDoTheSameAndDoesIt)
 {
-    Lamp lamp;
-    const auto ask = Action<bool()>::calling<&isLit>(lamp);
-    EXPECT_FALSE(ask());
-    Press::calling<&Lamp::light>(lamp)();
-    EXPECT_TRUE(ask());
-    Action<void(const std::string&)>::calling<&Lamp::set>(lamp)("7");
-    EXPECT_EQ(lamp.brightness, 7);
-}
-
-TEST(Action, isEqualToWhatWouldDoTheSame)
-{
-    Lamp lamp;
-    Lamp other;
-    const Press light = Press::calling<&Lamp::light>(lamp);
-    EXPECT_EQ(light, Press::calling<&Lamp::light>(lamp));
-    EXPECT_NE(light, Press::calling<&Lamp::light>(other));
-    EXPECT_NE(light, Press());
-    EXPECT_TRUE(light);
-    EXPECT_FALSE(Press());
+    int number = 3;
+    int other = 3;
+    const Change add = Change::calling<&plus>(number);
+    EXPECT_EQ(add, Change::calling<&plus>(number));
+    EXPECT_NE(add, Change::calling<&plus>(other));
+    EXPECT_NE(add, Change());
+    EXPECT_TRUE(add);
+    EXPECT_FALSE(Change());
+    EXPECT_EQ(add(4), 7);
+    EXPECT_EQ(number, 7);
 }
 
 } // namespace
