@@ -10,7 +10,7 @@
 namespace corvellane {
 namespace {
 
-std::string executable;
+std::string runningProgram;
 
 /// What the system that has its own script service hands out, as far as that can be seen on another one.
 TEST(OtherSystem, runsScriptsByItsOwnServiceAndFindsItsBundle)
@@ -18,12 +18,12 @@ TEST(OtherSystem, runsScriptsByItsOwnServiceAndFindsItsBundle)
     const ScratchFolder scratch;
     scratch.write("Contents/MacOS/Installer", "");
     std::filesystem::create_symlink("Contents/MacOS/Installer", scratch.path() + "/link");
-    executable = scratch.path() + "/link";
+    runningProgram = scratch.path() + "/link";
     System system;
     EXPECT_EQ(system.resources->folder("Products"), scratch.path() + "/Contents/Resources/Products");
     EXPECT_EQ(system.platform().scripts.create("return 1")->execute().errorDescription,
         "/usr/bin/osascript could not be started");
-    executable = "/gone";
+    runningProgram = "/gone";
     EXPECT_EQ(System().resources->folder("Products"), std::nullopt);
 }
 
@@ -32,7 +32,7 @@ TEST(OtherSystem, runsScriptsByItsOwnServiceAndFindsItsBundle)
 
 int _NSGetExecutablePath(char* path, std::uint32_t* size)
 {
-    const std::string& text = corvellane::executable;
+    const std::string& text = corvellane::runningProgram;
     if (text.size() >= *size) {
         return -1;
     }

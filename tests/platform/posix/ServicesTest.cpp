@@ -107,10 +107,10 @@ TEST(RootOnly, believesInNothingThatSomebodyElseCouldChange)
     const std::string tree = scratch.path() + "/tree";
     const std::string file = tree + "/inner/file";
     EXPECT_TRUE(onlyRootCanChangeTree(tree)) << "the sticky bit of the folder above will do";
-    for (const mode_t mode : {0777, 01777, 0775, 0757}) {
+    for (const mode_t mode : {0777U, 01777U, 0775U, 0757U}) {
         chmod((tree + "/inner").c_str(), mode);
         EXPECT_FALSE(onlyRootCanChangeTree(tree)) << std::oct << mode;
-        EXPECT_EQ(onlyRootCanChange(file), mode == 01777) << std::oct << mode;
+        EXPECT_EQ(onlyRootCanChange(file), mode == 01777U) << std::oct << mode;
     }
     chmod((tree + "/inner").c_str(), 0755);
     chmod(tree.c_str(), 0777);
