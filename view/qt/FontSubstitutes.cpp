@@ -129,8 +129,7 @@ const char* guessFor(const std::string& letters)
 QStringList substitutesFor(std::string_view family)
 {
     const std::string letters = beginningOf(family);
-    const auto* const row
-        = std::find_if(rows.begin(), rows.end(), [&](auto& each) { return letters.starts_with(each.beginning); });
+    const auto* const row = std::ranges::find_if(rows, [&](auto& each) { return letters.starts_with(each.beginning); });
     const char* const families = row == rows.end() ? guessFor(letters) : row->families;
     QStringList result = QString::fromLatin1(families).split('|');
     if (families != symbols && !family.empty()) {

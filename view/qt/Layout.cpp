@@ -186,7 +186,7 @@ void ViewLayout::setGeometry(const QRect& area)
         placeStack(*stack(), area);
     } else {
         const Placement placement = std::get<Layers>(arrangement_).children;
-        std::for_each(slots_.begin(), slots_.end(), [&](const Slot& slot) { slot.place(area, placement, placement); });
+        std::ranges::for_each(slots_, [&](const Slot& slot) { slot.place(area, placement, placement); });
     }
     layOut();
 }

@@ -22,6 +22,19 @@ QColor colorOf(const rtf::Color& color)
     return {color.red, color.green, color.blue};
 }
 
+QFont::Capitalization capitalizationOf(rtf::Capitals capitals)
+{
+    switch (capitals) {
+    case rtf::Capitals::small:
+        return QFont::SmallCaps;
+    case rtf::Capitals::all:
+        return QFont::AllUppercase;
+    case rtf::Capitals::asTyped:
+        break;
+    }
+    return QFont::MixedCase;
+}
+
 QFont fontFor(const rtf::TextAttributes& attributes, const rtf::AttributedText& text)
 {
     QFont font(substitutesFor(text.families[attributes.family]));
@@ -30,9 +43,7 @@ QFont fontFor(const rtf::TextAttributes& attributes, const rtf::AttributedText& 
     font.setItalic(attributes.italic);
     font.setUnderline(attributes.underline || attributes.link);
     font.setStrikeOut(attributes.strike);
-    font.setCapitalization(attributes.capitals == rtf::Capitals::small ? QFont::SmallCaps
-            : attributes.capitals == rtf::Capitals::all                ? QFont::AllUppercase
-                                                                       : QFont::MixedCase);
+    font.setCapitalization(capitalizationOf(attributes.capitals));
     return font;
 }
 
@@ -119,7 +130,7 @@ QList<QTextOption::Tab> tabsFor(
     if (indents.firstLine < 0) {
         tabs.append({-indents.firstLine, QTextOption::LeftTab});
     }
-    std::sort(tabs.begin(), tabs.end(), [](auto& one, auto& other) { return one.position < other.position; });
+    std::ranges::sort(tabs, {}, &QTextOption::Tab::position);
     return tabs;
 }
 
