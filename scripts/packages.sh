@@ -7,4 +7,4 @@ build_packages="cmake ninja-build g++ pkg-config libutf8proc-dev libexpected-dev
 window_packages="xvfb xauth fonts-dejavu-core fonts-liberation"
 test_packages="$build_packages $window_packages clang-$llvm clang-tidy-$llvm clang-format-$llvm libclang-rt-$llvm-dev
     libc++-$llvm-dev libc++abi-$llvm-dev googletest lua5.4 dbus polkitd pkexec passwd desktop-file-utils appstream
-    lintian dpkg-dev zstd at-spi2-core python3 python3-dbus python3-pyatspi python3-xlib xdotool xclip openbox"
+    lintian dpkg-dev zstd at-spi2-core python3 python3-dbus python3-gi python3-pyatspi python3-xlib xdotool xclip openbox"

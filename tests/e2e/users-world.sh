@@ -1,5 +1,5 @@
 #!/bin/bash
-# users-world.sh BUILD STORY: runs a Python script of this folder as the user "installer-test" on a session bus of its
+# users-world.sh BUNDLE STORY: runs a Python script of this folder as the user "installer-test" on a session bus of its
 # own. The script is handed the path of a copy of the bundle, which belongs to root, that of the agent that answers
 # password windows, and a folder: while it holds a file "wanted", copies wait, and a file "held" is there as well.
 # Changes the machine: run it by on-a-copy and with-polkit.
@@ -7,7 +7,11 @@ set -eu
 bundle=/opt/corvellane
 hold=/tmp/hold
 
-cp -rL "$1/bundle" "$bundle"
+here=$(dirname "$0")
+stories=/opt/stories
+mkdir "$stories"
+cp "$here"/*.py "$here/../polkit/polkit-test-agent" "$stories"
+cp -rL "$1" "$bundle"
 mkdir -p "/Library/Application Support/Adobe/Common/Plug-ins/7.0/MediaCore/Corvellane" \
     "/Library/Application Support/Adobe/Plug-Ins/CC/Corvellane"
 mkdir -m 1777 /tmp/.X11-unix "$hold"
@@ -26,4 +30,4 @@ chmod 755 /bin/cp
 cd /
 exec setpriv --reuid installer-test --regid installer-test --init-groups env -i PATH=/usr/bin:/bin \
     HOME="$(getent passwd installer-test | cut -d: -f6)" LANG=C.UTF-8 ASAN_OPTIONS=detect_leaks=0 \
-    dbus-run-session -- /usr/bin/python3 "$OLDPWD/tests/e2e/$2" "$bundle" "$1/tests/polkit/polkit-test-agent" "$hold"
+    dbus-run-session -- /usr/bin/python3 "$stories/$2" "$bundle" "$stories/polkit-test-agent" "$hold"
