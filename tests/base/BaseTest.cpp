@@ -11,34 +11,25 @@
 namespace corvellane {
 namespace {
 
-TEST(Signal, callsItsObserversInOrderUntilTheyLetGo)
+TEST(Signal, callsItsObserversInOrderAndMayBeSubscribedToAndLeftMeanwhile)
 {
     Signal signal;
     std::vector<int> calls;
-    auto first = signal.subscribe([&] { calls.push_back(1); });
-    const auto second = signal.subscribe([&] { calls.push_back(2); });
-    signal.emit();
-    first.reset();
-    signal.emit();
-    EXPECT_EQ(calls, (std::vector{1, 2, 2}));
-}
-
-TEST(Signal, mayBeSubscribedToAndLeftDuringAnEmission)
-{
-    Signal signal;
-    int calls = 0;
     std::vector<Subscription> late;
-    Subscription leaving;
-    leaving = signal.subscribe([&] {
+    Subscription first = signal.subscribe([&] { calls.push_back(0); });
+    Subscription leaving = signal.subscribe([&] {
+        calls.push_back(1);
+        first.reset();
         leaving.reset();
-        for (int count = 0; count < 10; ++count) {
-            late.push_back(signal.subscribe([&] { ++calls; }));
+        for (int number = 3; number < 9; ++number) {
+            late.push_back(signal.subscribe([&calls, number] { calls.push_back(number); }));
         }
     });
+    const Subscription second = signal.subscribe([&] { calls.push_back(2); });
     signal.emit();
-    EXPECT_EQ(calls, 0);
+    EXPECT_EQ(calls, (std::vector{0, 1, 2}));
     signal.emit();
-    EXPECT_EQ(calls, 10);
+    EXPECT_EQ(calls, (std::vector{0, 1, 2, 2, 3, 4, 5, 6, 7, 8}));
 }
 
 TEST(Observable, announcesOnceBeforeItStores)
@@ -57,23 +48,27 @@ TEST(Observable, announcesOnceBeforeItStores)
 TEST(Snapshot, isEqualToOneOfTheSameValue)
 {
     const Snapshot<int> one(1);
-    const Snapshot<int> copy = one;
-    EXPECT_TRUE(copy.isSame(one));
+    EXPECT_TRUE(Snapshot<int>(one).isSame(one));
     EXPECT_FALSE(Snapshot<int>(1).isSame(one));
     EXPECT_EQ(Snapshot<int>(1), one);
     EXPECT_FALSE(Snapshot<int>(2) == one);
 }
 
-TEST(WorkerThread, runsInOrderWhatWaitsAtItsEnd)
+TEST(WorkerThread, runsInOrderOnAnotherThreadWhatWaitsAtItsEnd)
 {
     std::vector<int> ran;
+    std::thread::id thread;
     {
         WorkerThread worker;
-        worker.submit([] { std::this_thread::sleep_for(std::chrono::milliseconds(50)); });
+        worker.submit([&] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+            thread = std::this_thread::get_id();
+        });
         worker.submit([&] { ran.push_back(1); });
-        worker.submit([&] { ran.push_back(2); });
+        worker.submit([&] { ran.push_back(thread == std::this_thread::get_id() ? 2 : 0); });
     }
     EXPECT_EQ(ran, (std::vector{1, 2}));
+    EXPECT_NE(thread, std::this_thread::get_id());
 }
 
 } // namespace
