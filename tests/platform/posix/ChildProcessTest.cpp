@@ -12,7 +12,7 @@
 namespace corvellane {
 namespace {
 
-/// Runs a command of the shell; `output` is what it wrote there until it ended.
+/// Runs a command of the shell and appends what it writes to `output`: its status, -1 when it cannot be started.
 int run(const std::string& command, std::string& output, SpawnExtension extension = nullptr)
 {
     const FileDescriptor nothing(open("/dev/null", O_RDONLY | O_CLOEXEC));
@@ -29,31 +29,26 @@ TEST(ChildProcess, hasItsStreamsItsEnvironmentAndNothingOfOurs)
 {
     std::string output;
     const Pipe ours = makePipe();
-    const std::string isThere = "ls /dev/fd/" + std::to_string(ours.readEnd.get()) + " /dev/fd/"
-        + std::to_string(ours.writeEnd.get()) + " 2>/dev/null; ";
-    EXPECT_EQ(run("echo $A $B $HOME; cat; echo err >&2; " + isThere + "exit 7", output), 7);
+    const std::string descriptors = std::to_string(ours.readEnd.get()) + " " + std::to_string(ours.writeEnd.get());
+    EXPECT_EQ(
+        run("echo $A $B $HOME; cat; echo err >&2; cd /dev/fd; ls " + descriptors + " 2>/dev/null; exit 7", output), 7);
     EXPECT_EQ(output, "1 two words\nerr\n");
-    EXPECT_EQ(run("kill -9 $$", output), 128 + 9);
-    const auto cannot
-        = [](auto& actions) { posix_spawn_file_actions_addopen(&actions, 9, "/nowhere/file", O_RDONLY, 0); };
-    EXPECT_EQ(run("true", output, cannot), -1);
 }
 
 TEST(ChildProcess, hasAllSignalsAtTheirDefaults)
 {
     std::signal(SIGTERM, SIG_IGN);
-    sigset_t blocked;
+    sigset_t all;
     sigset_t before;
-    sigemptyset(&blocked);
-    sigaddset(&blocked, SIGTERM);
-    pthread_sigmask(SIG_BLOCK, &blocked, &before);
+    sigfillset(&all);
+    pthread_sigmask(SIG_BLOCK, &all, &before);
     std::string output;
     EXPECT_EQ(run("kill -TERM $$", output), 128 + SIGTERM);
     pthread_sigmask(SIG_SETMASK, &before, nullptr);
     std::signal(SIGTERM, SIG_DFL);
 }
 
-TEST(ChildProcess, isNotStartedWithoutAllOfItsStreams)
+TEST(ChildProcess, isNotStartedWithoutAllThatItIsToHave)
 {
     for (const StandardStreams& streams : {StandardStreams{-1, 1, 2}, {0, -1, 2}, {0, 1, -1}}) {
         EXPECT_EQ(startChild({{"/bin/true"}, {}}, streams).error().number, EBADF);
@@ -61,6 +56,10 @@ TEST(ChildProcess, isNotStartedWithoutAllOfItsStreams)
     const auto missing = startChild({{"/nowhere/program"}, {}}, {0, 1, 2});
     EXPECT_EQ(missing.error().number, ENOENT);
     EXPECT_EQ(missing.error().message, "No such file or directory");
+    std::string output;
+    const auto open
+        = [](auto& actions) { posix_spawn_file_actions_addopen(&actions, 9, "/nowhere/file", O_RDONLY, 0); };
+    EXPECT_EQ(run("true", output, open), -1);
 }
 
 TEST(ChildProcess, endsWithAStatusOnlyWhereSomebodyHeardOfTheEnd)
@@ -80,12 +79,11 @@ TEST(Drain, takesWhatIsThereUpToALimitAndClosesAtTheEnd)
     EXPECT_EQ(kept.size(), mostKeptOfAStream - 2) << "an open stream with nothing in it is not waited for";
     ASSERT_EQ(write(pipe.writeEnd.get(), "abc", 3), 3);
     drain(pipe.readEnd, kept);
-    EXPECT_TRUE(kept.ends_with(" ab"));
     EXPECT_TRUE(pipe.readEnd.isOpen());
     pipe.writeEnd.close();
     drain(pipe.readEnd, kept);
     EXPECT_FALSE(pipe.readEnd.isOpen());
-    EXPECT_EQ(kept.size(), mostKeptOfAStream);
+    EXPECT_EQ(kept, std::string(mostKeptOfAStream - 2, ' ') + "ab");
 }
 
 } // namespace

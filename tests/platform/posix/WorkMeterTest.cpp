@@ -2,8 +2,6 @@
 
 #include "tests/ScratchFolder.h"
 
-#include <gtest/gtest.h>
-
 #include <thread>
 
 namespace corvellane {
@@ -17,7 +15,6 @@ protected:
         write("from/a/Small.plugin/file", smallSize);
         write("from/b/Large \"$\".plugin/in/file", largeSize / 2);
         write("from/b/Large \"$\".plugin/in/other", largeSize / 2);
-        std::filesystem::create_directories(scratch.path() + "/to");
     }
 
     void write(const std::string& name, std::uintmax_t size) const
@@ -31,15 +28,15 @@ protected:
         return "cp -R -f \"" + scratch.path() + "/from/" + from + "\" \"" + scratch.path() + "/to/\"";
     }
 
-    /// The part that is done once it is `expected`, to the hundredth; otherwise what it is after some seconds.
-    double settled(double expected)
+    /// The part that is done comes to be `expected`, to the hundredth, in a few seconds.
+    void expectPart(double expected, const char* why = "")
     {
         double part = -1;
         for (int tries = 0; tries < 500 && std::abs(part - expected) > 0.005; ++tries) {
             part = meter.partDone().value_or(-1);
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
         }
-        return part;
+        EXPECT_NEAR(part, expected, 0.005) << why;
     }
 
     static constexpr std::uintmax_t smallSize = 1'000'000'000;
@@ -57,37 +54,37 @@ TEST_F(WorkMeterTest, knowsOfNoWorkWithoutCommands)
     meter.begin({"true", ""});
     EXPECT_EQ(meter.partDone(), 0);
     meter.start(1);
-    EXPECT_NEAR(settled(0.5), 0.5, 0.005);
+    expectPart(0.5);
     meter.end();
     EXPECT_EQ(meter.partDone(), std::nullopt);
 }
 
 TEST_F(WorkMeterTest, countsCopiesByTheirBytesAndWhatTheyHaveWritten)
 {
-    write("to/Large \"$\".plugin/in/file", largeSize / 2);
+    const std::string before = "to/Large \"$\".plugin/in/file";
+    const std::string written = "to/Large \"$\".plugin/in/other";
+    write(before, largeSize / 2);
     using Clock = std::filesystem::file_time_type::clock;
-    std::filesystem::last_write_time(
-        scratch.path() + "/to/Large \"$\".plugin/in/file", Clock::now() - std::chrono::minutes(1));
+    std::filesystem::last_write_time(scratch.path() + "/" + before, Clock::now() - std::chrono::minutes(1));
     meter.begin({"mkdir x", copy("a/Small.plugin"), copy(R"(b/Large \"\$\".plugin)"), "rm x", copy("gone")});
     meter.start(0);
-    EXPECT_NEAR(settled(0), 0, 0.005);
+    expectPart(0);
     meter.start(1);
     write("to/Small.plugin/file", smallSize);
-    EXPECT_NEAR(settled(0.25), 0.25, 0.005);
+    expectPart(0.25);
     meter.start(2);
     EXPECT_NEAR(meter.partDone().value(), 0.25, 0.005) << "what the last one has written is its own";
-    EXPECT_NEAR(settled(0.25), 0.25, 0.005) << "what was there before the copy does not count";
-    write("to/Large \"$\".plugin/in/other", largeSize / 3);
-    EXPECT_NEAR(settled(0.5), 0.5, 0.005);
-    write("to/Large \"$\".plugin/in/other", 0);
+    expectPart(0.25, "what was there before the copy does not count");
+    write(written, largeSize / 3);
+    expectPart(0.5);
+    write(written, 0);
     for (int look = 0; look < 20; ++look) {
-        EXPECT_NEAR(meter.partDone().value(), 0.5, 0.005) << "no work is undone";
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        expectPart(0.5, "no work is undone");
     }
-    write("to/Large \"$\".plugin/in/other", largeSize * 2);
-    EXPECT_NEAR(settled(1), 1, 0.005) << "no copy writes more than its source";
+    write(written, largeSize * 2);
+    expectPart(1, "no copy writes more than its source");
     meter.start(3);
-    EXPECT_NEAR(settled(1), 1, 0.005);
+    expectPart(1);
     meter.end();
     meter.begin({copy("a/Small.plugin/"), "true"});
     EXPECT_EQ(meter.partDone(), 0) << "another script begins anew";
@@ -95,7 +92,7 @@ TEST_F(WorkMeterTest, countsCopiesByTheirBytesAndWhatTheyHaveWritten)
     std::filesystem::remove_all(scratch.path() + "/to/Small.plugin");
     std::filesystem::remove_all(scratch.path() + "/to/Large \"$\".plugin");
     meter.start(0);
-    EXPECT_NEAR(settled(0.5), 0.5, 0.005) << "the contents of a folder go into the target itself";
+    expectPart(0.5, "the contents of a folder go into the target itself");
 }
 
 } // namespace
