@@ -13,7 +13,6 @@
 #include "platform/Workspace.h"
 
 #include <deque>
-#include <functional>
 #include <initializer_list>
 #include <map>
 #include <memory>
@@ -51,11 +50,7 @@ struct FakeApplication : Application, Witness {
 };
 
 struct FakeConsole : Console, Witness {
-    void print(std::string_view text) override
-    {
-        lines.emplace_back(text);
-        note("print " + lines.back());
-    }
+    void print(std::string_view text) override { note("print " + lines.emplace_back(text)); }
     std::vector<std::string> lines;
 };
 
@@ -158,23 +153,24 @@ struct FakeResources : Resources {
 
 /// Answers every script with the next of the prepared executions; makes no script when none is left.
 struct FakeScripts : ScriptService, Witness {
-    struct Prepared : Script {
-        ScriptExecution execute() override { return run(); }
-        std::function<ScriptExecution()> run;
+    struct Prepared : Script, Witness {
+        ScriptExecution execute() override
+        {
+            note("execute");
+            return execution;
+        }
+        ScriptExecution execution;
     };
 
     std::unique_ptr<Script> create(std::string source) override
     {
-        note("make script " + source);
-        sources.push_back(std::move(source));
+        note("make script " + sources.emplace_back(std::move(source)));
         if (executions.empty()) {
             return nullptr;
         }
         auto script = std::make_unique<Prepared>();
-        script->run = [this, execution = std::move(executions.front())] {
-            note("execute");
-            return execution;
-        };
+        script->journal = journal;
+        script->execution = std::move(executions.front());
         executions.pop_front();
         return script;
     }

@@ -12,7 +12,7 @@ namespace {
 
 TEST(Product, joinsTheFirstFolderOfTheSystemAndItsTailOnce)
 {
-    const FakeFolders folders;
+    FakeFolders folders;
     const Product product(folders);
     EXPECT_EQ(folders.requests, 0);
     EXPECT_EQ(product.appCorvellane(), "/Applications/Corvellane/");
@@ -23,13 +23,8 @@ TEST(Product, joinsTheFirstFolderOfTheSystemAndItsTailOnce)
     EXPECT_EQ(product.applications() + product.applicationSupport() + product.userApplicationSupport(),
         "/Applications/Library/Application Support/Users/user/Library/Application Support");
     EXPECT_EQ(folders.requests, 3);
-}
-
-TEST(Product, keepsTheBareTailWhenTheSystemNamesNoFolder)
-{
-    FakeFolders folders;
     folders.paths.clear();
-    EXPECT_EQ(Product(folders).appCorvellane(), "/Corvellane/");
+    EXPECT_EQ(Product(folders).appCorvellane(), "/Corvellane/") << "the bare tail where the system names no folder";
 }
 
 TEST(Product, asksOnceWhenSeveralThreadsReadFirst)

@@ -30,18 +30,15 @@ TEST(Parser, saysWhatItExpectedWhatItFoundAndWhere)
 {
     const std::vector<std::pair<std::string, std::string>> rows{
         {"return 1 2", "Expected end of line but found “2”. @9+1"},
-        {"x y", "Expected end of line but found “y”. @2+1"},
         {"end try", "Expected end of line but found “end”. @0+3"},
         {"try\nreturn 1", "Expected “end” but found end of script. @12+0"},
         {"try\nend tell", "Expected “try” but found “tell”. @8+4"},
         {"try\non\nend try", "Expected “error” but found end of line. @6+1"},
-        {"try 1\nend try", "Expected end of line but found “1”. @4+1"},
         {"try\nreturn 1\non error 5\nend try", "Expected name but found “5”. @22+1"},
         {"set to to 1", "Expected name but found “to”. @4+2"},
         {"set a 1", "Expected “to” but found “1”. @6+1"},
         {"set a to", "Expected expression but found end of script. @8+0"},
         {"return (1", "Expected “)” but found end of script. @9+0"},
-        {"return \"a\" &\n", "Expected expression but found end of line. @12+1"},
         {"do shell \"a\"", "Expected “script” but found “\"a\"”. @9+3"},
         {"do shell script", "Expected expression but found end of script. @15+0"},
         {"do shell script \"a\" with privileges", "Expected “administrator” but found “privileges”. @25+10"},
