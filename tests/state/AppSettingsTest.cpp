@@ -11,7 +11,6 @@ TEST_F(StateTest, turnsItsPagesAndRaisesItsAlerts)
         {&AppSettings::goBack, {"now intro"}},
         {&AppSettings::nextAction, {"change intro", "now license"}},
         {&AppSettings::nextAction, {"change license", "now license licenseAlert"}},
-        {&AppSettings::nextAction, {"change license licenseAlert", "now license licenseAlert"}},
         {&AppSettings::closeLicenseAlert, {"change license licenseAlert", "now license"}},
         {&AppSettings::nextAction, {"change license", "now license licenseAlert"}},
         {&AppSettings::agreeWithLicense,
@@ -21,7 +20,6 @@ TEST_F(StateTest, turnsItsPagesAndRaisesItsAlerts)
         {&AppSettings::closeLicenseAlert, {"change products agreed licenseAlert", "now products agreed"}},
         {&AppSettings::nextAction, {"change products agreed", "now install agreed"}},
         {&AppSettings::nextAction, {"change install agreed", "now install agreed permanentlyAlert"}},
-        {&AppSettings::nextAction, {"change install agreed permanentlyAlert", "now install agreed permanentlyAlert"}},
         {&AppSettings::closeInstallConfirmation, {"change install agreed permanentlyAlert", "now install agreed"}},
         {&AppSettings::goBack, {"change install agreed", "now products agreed"}},
     });

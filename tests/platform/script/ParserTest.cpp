@@ -34,6 +34,7 @@ TEST(Parser, saysWhatItExpectedWhatItFoundAndWhere)
         {"try\nreturn 1", "Expected “end” but found end of script. @12+0"},
         {"try\nend tell", "Expected “try” but found “tell”. @8+4"},
         {"try\non\nend try", "Expected “error” but found end of line. @6+1"},
+        {"try 1\nend try", "Expected end of line but found “1”. @4+1"},
         {"try\nreturn 1\non error 5\nend try", "Expected name but found “5”. @22+1"},
         {"set to to 1", "Expected name but found “to”. @4+2"},
         {"set a 1", "Expected “to” but found “1”. @6+1"},

@@ -50,6 +50,7 @@ TEST_F(ScriptServiceTest, givesWhatAScriptReturnsOrItsLastValue)
         {"try\nreturn 1\nend try\nreturn 2", "1"},
         {"try\nreturn unknown\non error\nreturn 5\nend try", "5"},
         {"try\nreturn unknown\nend try", "nothing"},
+        {"try\nreturn unknown\nend try\nreturn 6", "6"},
         {"tell application \"FINDER\"\nreturn 1\nend tell", "1"},
         {"return path to application support", "/Library/Application Support"},
         {"return \"a\\\"\\\\\\n\\r\\tb\nc\rd\"", "a\"\\\n\r\tb\nc\rd"},
