@@ -1,55 +1,36 @@
 #include "tests/view/qt/WindowWorld.h"
-#include "view/qt/LogView.h"
 
 #include <QAccessible>
-#include <QLabel>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QStyleHints>
-#include <QTextEdit>
-
-#include <set>
 
 namespace corvellane::view {
 namespace {
 
-/// Counts what reaches a window's widgets.
-class Touches : public QObject {
-public:
-    explicit Touches(QWidget& window)
-    {
-        for (QWidget* const each : window.findChildren<QWidget*>()) {
-            each->installEventFilter(this);
-        }
-    }
-
+/// Counts what reaches the widgets whose events it filters.
+struct Touches : QObject {
     bool eventFilter(QObject*, QEvent*) override
     {
         ++count;
         return false;
     }
-
     int count = 0;
 };
-
-std::set<QWidget*> widgetsOf(const QWidget& window)
-{
-    const QList<QWidget*> all = window.findChildren<QWidget*>();
-    return {all.begin(), all.end()};
-}
 
 TEST_F(WindowWorld, touchesNothingWhereNothingDiffers)
 {
     for (const Page page : {Page::intro, Page::license, Page::products}) {
         goTo(page);
         QTest::qWait(50);
-        const std::set<QWidget*> before = widgetsOf(window());
-        const Touches touches(window());
+        const QList<QWidget*> before = window().findChildren<QWidget*>();
+        Touches touches;
+        for (QWidget* const each : before) {
+            each->installEventFilter(&touches);
+        }
         settings().accessType.set(FinderAccess::unknown);
         settle();
         EXPECT_EQ(touches.count, 0) << nameOf(page);
-        EXPECT_EQ(widgetsOf(window()), before) << nameOf(page);
+        EXPECT_EQ(window().findChildren<QWidget*>(), before) << nameOf(page);
     }
 }
 
@@ -81,109 +62,35 @@ TEST_F(WindowWorld, redrawsOnceForAnyNumberOfChanges)
     EXPECT_TRUE(user().reads("Software License Agreement"));
 }
 
-TEST_F(WindowWorld, buildsTheAgreementAnewAtReentry)
-{
-    goTo(Page::license);
-    const QPointer<QTextEdit> viewer = window().findChild<QTextEdit*>();
-    ASSERT_NE(viewer, nullptr);
-    settings().agreeWithTerms.set(true);
-    settle();
-    EXPECT_EQ(window().findChild<QTextEdit*>(), viewer);
-    goTo(Page::products);
-    EXPECT_EQ(viewer, nullptr);
-    goTo(Page::license);
-    EXPECT_NE(window().findChild<QTextEdit*>(), nullptr);
-}
-
 TEST_F(WindowWorld, togglesARowWhereItIs)
 {
     goTo(Page::products);
     QListView* const list = user().list();
-    ASSERT_NE(list, nullptr);
     list->verticalScrollBar()->setValue(200);
     const QModelIndex row = list->indexAt(QPoint(30, list->viewport()->height() / 2));
-    const auto at
-        = [&](int x) { return list->viewport()->mapTo(&window(), QPoint(x, list->visualRect(row).center().y())); };
-    const auto click = [&](int x) {
-        QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval() + 10);
-        QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, at(x));
-        settle();
-        return row.data(Qt::CheckStateRole).toInt();
-    };
-    EXPECT_EQ(click(18), Qt::Unchecked) << "on the symbol";
-    EXPECT_EQ(list->verticalScrollBar()->value(), 200);
+    const QPoint onName = list->viewport()->mapTo(&window(), QPoint(60, list->visualRect(row).center().y()));
     const QSignalSpy told(list->model(), &QAbstractItemModel::dataChanged);
-    EXPECT_EQ(click(60), Qt::Checked) << "on the name";
-    ASSERT_EQ(told.size(), 1) << "no more than the row that has changed";
-    EXPECT_EQ(told[0][0].toModelIndex(), row);
-    EXPECT_EQ(click(list->width() - 30), Qt::Checked) << "beside the name";
-    QTest::mouseDClick(window().windowHandle(), Qt::LeftButton, {}, at(60));
-    settle();
-    EXPECT_EQ(row.data(Qt::CheckStateRole).toInt(), Qt::Checked) << "the second of two quick clicks";
-    list->setFocus();
-    list->setCurrentIndex(row);
-    QTest::keyClick(window().windowHandle(), Qt::Key_Space);
+    QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, onName);
     settle();
     EXPECT_EQ(row.data(Qt::CheckStateRole).toInt(), Qt::Unchecked);
     EXPECT_EQ(user().list(), list);
-}
-
-TEST_F(WindowWorld, tellsAssistiveTechnologyWhatIsTicked)
-{
-    goTo(Page::products);
-    settings().toggleProduct("/Resources/Products/Product 101");
+    EXPECT_EQ(list->verticalScrollBar()->value(), 200);
+    ASSERT_EQ(told.size(), 1) << "no more than the row that has changed";
+    EXPECT_EQ(told[0][0].toModelIndex(), row);
+    QTest::mouseDClick(window().windowHandle(), Qt::LeftButton, {}, onName);
     settle();
-    QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(user().list());
-    ASSERT_EQ(list->childCount(), 40);
-    EXPECT_EQ(list->role(), QAccessible::List);
-    EXPECT_EQ(list->text(QAccessible::Name), "Select Products to install");
-    EXPECT_EQ(list->child(0)->text(QAccessible::Name), "Product 100");
-    EXPECT_TRUE(list->child(0)->state().checkable);
-    EXPECT_TRUE(list->child(0)->state().checked);
-    EXPECT_FALSE(list->child(1)->state().checked);
-}
-
-TEST_F(WindowWorld, keepsEverythingBehindAnAlertOutOfReach)
-{
-    goTo(Page::license);
-    QWidget* const next = named("Next");
-    next->setFocus();
-    show(settings().showLicenseAlert, true);
-    std::set<QString> reached;
-    for (int times = 0; times < 8; ++times) {
-        reached.insert(focusName());
-        QTest::keyClick(window().windowHandle(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(reached, (std::set<QString>{"Read License", "Disagree", "Agree"}));
-    EXPECT_FALSE(next->isEnabled()) << "not by assistive technology either";
-    QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, named("Go Back")->mapTo(&window(), QPoint(5, 5)));
-    settle();
-    EXPECT_EQ(settings().currentPage.get(), Page::license);
-    show(settings().showLicenseAlert, false);
-    EXPECT_EQ(QApplication::focusWidget(), next) << "the focus comes back";
-    EXPECT_TRUE(next->isEnabled());
+    EXPECT_EQ(row.data(Qt::CheckStateRole).toInt(), Qt::Unchecked) << "two quick clicks are two";
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(list)->child(0)->state().checkable);
 }
 
 TEST_F(WindowWorld, followsTheReadingOrderWithTheTabKey)
 {
-    goTo(Page::license);
     goTo(Page::products);
-    QStringList order;
     user().list()->setFocus();
-    for (int times = 0; times < 4; ++times) {
-        order << focusName();
+    for (const char* const name : {"Select Products to install", "Select All", "Go Back", "Next"}) {
+        EXPECT_EQ(QApplication::focusWidget()->accessibleName(), name);
         QTest::keyClick(window().windowHandle(), Qt::Key_Tab);
     }
-    EXPECT_EQ(order, (QStringList{"Select Products to install", "Select All", "Go Back", "Next"}));
-}
-
-TEST_F(WindowWorld, readsTheOutcomeOut)
-{
-    settings().completedWithErrors.set(true);
-    goTo(Page::summary);
-    const auto* const outcome = dynamic_cast<QLabel*>(QApplication::focusWidget());
-    ASSERT_NE(outcome, nullptr);
-    EXPECT_EQ(outcome->text(), "The installation was not completed successfully.");
 }
 
 TEST_F(WindowWorld, showsNamesAndLogsAsTheyStand)
@@ -194,12 +101,9 @@ TEST_F(WindowWorld, showsNamesAndLogsAsTheyStand)
     settings().logDetailsStr = std::string("<b>not bold</b>\n<img src=\"/etc/passwd\"> & more");
     goTo(Page::summary);
     show(settings().showLogDetailsWindow, true);
-    auto* const log = named<LogView>("Details");
-    ASSERT_NE(log, nullptr);
+    QWidget* const log = named<QAbstractScrollArea>("Details");
     EXPECT_EQ(log->size(), QSize(500, 300));
-    QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(log);
-    ASSERT_NE(accessible->textInterface(), nullptr);
-    EXPECT_EQ(accessible->textInterface()->text(0, 15), "<b>not bold</b>");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(log)->textInterface()->text(0, 15), "<b>not bold</b>");
 }
 
 TEST_F(WindowWorld, probesWhileThePermissionIsAskedFor)

@@ -13,51 +13,30 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A script that runs until it is told to end.
-class HeldScripts : public ScriptService {
-public:
-    std::unique_ptr<Script> create(std::string) override { return std::make_unique<Held>(*this); }
-
-    void end(const std::string& result) { end_.set_value(result); }
-
-private:
-    struct Held : Script {
-        explicit Held(HeldScripts& owner)
-            : scripts(owner)
-        {
-        }
-        ScriptExecution execute() override
-        {
-            return {ScriptExecution::Value{scripts.end_.get_future().get()}, std::nullopt};
-        }
-        HeldScripts& scripts;
-    };
-
-    std::promise<std::string> end_;
+/// Scripts that run until they are told to end.
+struct HeldScripts : ScriptService {
+    std::unique_ptr<Script> create(std::string) override
+    {
+        auto script = std::make_unique<FakeScripts::Prepared>();
+        script->run = [this] { return ScriptExecution{ScriptExecution::Value{end.get_future().get()}, std::nullopt}; };
+        return script;
+    }
+    std::promise<std::string> end;
 };
 
 /// The wizard with real waits: the installation takes as long as the test wants.
-class WaitTest : public testing::Test {
+class WaitTest : public WindowWorld {
 protected:
     WaitTest()
     {
+        const Platform all = platform.services();
+        open({all.application, all.console, dispatcher, all.files, all.pasteboard, all.resources, scripts, all.folders,
+            all.workspace});
         showWaits(dispatcher, window());
-        settings().currentPage.set(Page::install);
-        settings().showPermanentlyAlert.set(true);
-        window().show();
-        window().activateWindow();
-        QTest::qWait(50);
+        goTo(Page::install);
+        show(settings().showPermanentlyAlert, true);
     }
-
-    Platform services()
-    {
-        Platform all = platform.services();
-        return {all.application, all.console, dispatcher, all.files, all.pasteboard, all.resources, scripts,
-            all.folders, all.workspace};
-    }
-
-    AppSettings& settings() { return scene.settings(); }
-    ViewHost& window() { return scene.window(); }
+    ~WaitTest() override { scene.reset(); }
 
     /// Installs; during the wait does what `meanwhile` does, and then lets the script end with `result`.
     template <typename Meanwhile>
@@ -65,52 +44,40 @@ protected:
     {
         QTimer::singleShot(200ms, &window(), [&, result] {
             meanwhile();
-            scripts.end(result);
+            scripts.end.set_value(result);
         });
-        user.click("Install");
+        user().click("Install");
         EXPECT_TRUE(WindowUser::wait([&] { return window().hears(); }));
     }
 
-    QAccessibleInterface* accessible(const QString& name)
-    {
-        for (QWidget* const each : window().findChildren<QWidget*>()) {
-            if (each->isVisible() && each->accessibleName() == name) {
-                return QAccessible::queryAccessibleInterface(each);
-            }
-        }
-        return nullptr;
-    }
-
-    const bool prepared = (ViewHost::prepareApplication(), true);
-    FakePlatform platform;
     HeldScripts scripts;
     QtDispatcher dispatcher;
-    CorvellaneInstallerApp scene{services()};
-    WindowUser user{window()};
 };
 
 TEST_F(WaitTest, hearsNobodyAndShowsWhatItShowedUntilTheOutcomeIsThere)
 {
     install("Ok", [&] {
         EXPECT_FALSE(settings().showPermanentlyAlert.get());
-        EXPECT_TRUE(user.canPress("Install")) << "the confirmation stays until the wait is over";
-        user.clickThrough("Next");
-        user.click("Cancel");
-        user.press(Qt::Key_Space);
-        accessible("Install")->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        EXPECT_TRUE(user().canPress("Install")) << "the confirmation stays until the wait is over";
+        user().clickThrough("Next");
+        user().click("Cancel");
+        user().press(Qt::Key_Space);
+        QAccessible::queryAccessibleInterface(named("Install"))
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::pressAction());
         EXPECT_FALSE(window().close());
         settings().logDetailsStr = std::string("written during the wait");
         window().scheduleRedraw();
         QTest::qWait(20);
-        EXPECT_TRUE(user.canPress("Install")) << "no tree is made";
+        EXPECT_TRUE(user().canPress("Install")) << "no tree is made";
         EXPECT_EQ(settings().currentPage.get(), Page::install);
     });
-    EXPECT_TRUE(user.reads("You have been successfully installed selected products."));
+    EXPECT_TRUE(user().reads("You have been successfully installed selected products."));
     EXPECT_EQ(platform.application.terminations, 0);
-    user.click("Close");
+    user().click("Close");
     EXPECT_EQ(platform.application.terminations, 0) << "whoever is still pressing meant what was there before";
     QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval() + 50);
-    user.click("Close");
+    user().click("Close");
     EXPECT_EQ(platform.application.terminations, 1);
 }
 
@@ -118,7 +85,7 @@ TEST_F(WaitTest, hearsAgainAtOnceWhereNothingHasChangedAndNobodyPressed)
 {
     install("User canceled.", [] { });
     EXPECT_EQ(settings().currentPage.get(), Page::install);
-    user.click("Next");
+    user().click("Next");
     EXPECT_TRUE(settings().showPermanentlyAlert.get());
 }
 
@@ -126,18 +93,15 @@ TEST_F(WaitTest, showsTheWorkAsABarThatOthersCanRead)
 {
     double part = 0.25;
     window().setPartDone([&] { return part; });
-    EXPECT_EQ(accessible("Progress of the installation"), nullptr);
     install("Ok", [&] {
-        QAccessibleInterface* const bar = accessible("Progress of the installation");
-        ASSERT_NE(bar, nullptr);
-        EXPECT_EQ(bar->role(), QAccessible::ProgressBar);
-        EXPECT_EQ(bar->valueInterface()->currentValue().toInt(), 250);
-        EXPECT_EQ(bar->rect().bottom(), window().mapToGlobal(window().rect().bottomLeft()).y());
+        QWidget* const bar = named("Progress of the installation");
+        EXPECT_EQ(areaOf(*bar).bottom(), window().rect().bottom());
+        const auto* const value = QAccessible::queryAccessibleInterface(bar)->valueInterface();
+        EXPECT_EQ(value->currentValue().toInt(), 250);
         part = 0.5;
         QTest::qWait(150);
-        EXPECT_EQ(bar->valueInterface()->currentValue().toInt(), 500);
+        EXPECT_EQ(value->currentValue().toInt(), 500);
     });
-    EXPECT_EQ(accessible("Progress of the installation"), nullptr);
 }
 
 TEST_F(WaitTest, leavesTheMainQueueAloneMeanwhile)

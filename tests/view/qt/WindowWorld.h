@@ -8,11 +8,18 @@
 #include <QListView>
 #include <QTest>
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 
 namespace corvellane::view {
+
+/// The widget's area in its window.
+inline QRect areaOf(const QWidget& widget)
+{
+    return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+}
 
 /// The whole wizard in a real window, on a world that records what was asked of it.
 class WindowWorld : public testing::Test {
@@ -24,9 +31,15 @@ protected:
         for (int number = 0; number < 40; ++number) {
             platform.addProduct("Product " + std::to_string(100 + number), {});
         }
-        scene = std::make_unique<CorvellaneInstallerApp>(platform.services());
-        scene->window().show();
-        scene->window().activateWindow();
+        open(platform.services());
+    }
+
+    /// Shows a new wizard in place of the one before.
+    void open(const Platform& services)
+    {
+        scene = std::make_unique<CorvellaneInstallerApp>(services);
+        window().show();
+        window().activateWindow();
         settle();
     }
 
@@ -37,7 +50,8 @@ protected:
     }
 
     AppSettings& settings() { return scene->settings(); }
-    QWidget& window() { return scene->window(); }
+    ViewHost& window() { return scene->window(); }
+    WindowUser user() { return WindowUser(window()); }
 
     void goTo(Page page)
     {
@@ -55,24 +69,16 @@ protected:
     template <typename Kind = QWidget>
     Kind* named(const QString& name)
     {
-        for (QWidget* const each : window().findChildren<QWidget*>()) {
-            auto* const found = dynamic_cast<Kind*>(each);
-            if (found != nullptr && each->isVisible() && each->accessibleName() == name) {
-                return found;
+        for (Kind* const each : window().findChildren<Kind*>()) {
+            if (each->isVisible() && each->accessibleName() == name) {
+                return each;
             }
         }
         return nullptr;
     }
 
-    static QString focusName()
-    {
-        const QWidget* const focus = QApplication::focusWidget();
-        return focus == nullptr ? QString() : focus->accessibleName();
-    }
-
     FakePlatform platform;
     std::unique_ptr<CorvellaneInstallerApp> scene;
-    WindowUser user() { return WindowUser(window()); }
 };
 
 } // namespace corvellane::view
