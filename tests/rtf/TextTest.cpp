@@ -18,16 +18,17 @@ std::string plainText(const std::string& body)
     return result ? agreementPlainText(*result) : "failure " + std::to_string(static_cast<int>(result.error()));
 }
 
-struct Row {
-    std::string body;
-    std::string text;
-};
-
-void expectTexts(const std::vector<Row>& rows)
+void expectTexts(const std::vector<std::pair<std::string, std::string>>& rows)
 {
-    for (const Row& row : rows) {
-        EXPECT_EQ(plainText(row.body), row.text) << row.body;
+    for (const auto& [body, text] : rows) {
+        EXPECT_EQ(plainText(body), text) << body;
     }
+}
+
+/// What is read from RTF whose outer group holds `body`.
+AttributedText readBody(const std::string& body)
+{
+    return read("{\\rtf1\\ansi" + body + "}").value();
 }
 
 TEST(RtfText, forgivesWhatStandsAroundTheOuterGroup)
@@ -75,50 +76,49 @@ TEST(RtfText, decodesTheDocumentsCodePage)
         {"\\ansicpg77777\\'e9", "\u00E9\n"},
         {"\\ansi\\'81", "\uFFFD\n"},
         {"\\ansicpg1251{\\fonttbl{\\f0\\fcharset0 A;}}\\'e9\\f0\\'e9", "\u0439\u00E9\n"},
+        {"\\ansicpg932{\\info \x95\x5C\x83\x7D}a", "a\n"},
     });
-}
-
-TEST(RtfText, joinsTheBytesOfMultiByteCharactersHoweverTheyAreWritten)
-{
-    const std::vector<Row> japanese = {
-        {"\\'82\\'a0\\'b1", "\u3042\uFF71\n"},
-        {"\x82\xA0\xB1", "\u3042\uFF71\n"},
-        {"\x82\\'a0\\'82\xA0", "\u3042\u3042\n"},
-        {"\\'83A\\'83\x41", "\u30A2\u30A2\n"},
-        {"\\'82\n\\'a0\x82\r\n\xA0", "\u3042\u3042\n"},
-        {"\\'95\\'5c\\'83\\'7b\\'83\\'7d", "\u8868\u30DC\u30DE\n"},
-        {"\\'95\\\\\\'83\\{\\'83\\}", "\u8868\u30DC\u30DE\n"},
-        {"\x95\x5C\x83\x7B\x83\x7D!", "\u8868\u30DC\u30DE!\n"},
-        {"\x95\\\\!", "\u8868!\n"},
-        {"{\x95\x5C}\x95\x5C\\par x", "\u8868\u8868\nx\n"},
-        {"\x95\x5C\\'82\\'a0", "\u8868\u3042\n"},
-        {"\\'82\\b\\'a0\\'82\\unknown\\'a0", "\uFFFD\uFFFD\uFFFD\uFFFD\n"},
-        {"\\'82{\\'a0}{\\'82}\\'a0", "\uFFFD\uFFFD\uFFFD\uFFFD\n"},
-        {"\\'82\\par x\\'82", "\uFFFD\nx\uFFFD\n"},
-        {"{\\info{\\title \x95\x5C\x83\x7D}}a", "a\n"},
-        {"{\\info \x83\nb{c}}a", "a\n"},
-        {"\\uc0\\u55357\\'82\\u56832", "\uFFFD\uFFFD\uFFFD\n"},
-    };
-    for (const Row& row : japanese) {
-        EXPECT_EQ(plainText("\\ansi{\\fonttbl{\\f0\\fcharset128 A;}}\\f0 " + row.body), row.text) << row.body;
-    }
-    EXPECT_EQ(plainText("{\\fonttbl\\f0\\fcharset136 A;}\\f0\\'a4\\'a4\xA5\x5C"), "\u4E2D\u529F\n");
     EXPECT_EQ(plainText("\\ansicpg932" + std::string(999, '\xB1')).size(), 999 * 3 + 1);
-    EXPECT_EQ(plainText("\\ansicpg932{\\info \x95\x5C\x83\x7D}a"), "a\n");
 }
 
-constexpr std::size_t depth = 1'000'000;
-
-TEST(RtfText, readsOneMillionNestedGroupsWithinASecond)
+TEST(RtfText, boundsTheNumberOfTabStops)
 {
+    std::string stops;
+    for (int position = 1; position <= 100; ++position) {
+        stops += "\\tx" + std::to_string(position * 20);
+    }
+    const AttributedText text = readBody(stops + " a\\par\\pard\\tx20\\tx40 b");
+    const auto first = text.tabsOf(text.formats.at(text.paragraphs.at(0).format));
+    ASSERT_EQ(first.size(), 64U);
+    EXPECT_EQ(first.front().position, 1);
+    EXPECT_EQ(first.back().position, 64);
+    EXPECT_EQ(text.tabStops.size(), 64U) << "a chain that begins as another one is part of it";
+}
+
+TEST(RtfText, keepsEveryLookAndLinkOnce)
+{
+    EXPECT_EQ(readBody("{\\fonttbl\\f0 A-Bold;\\f1 A;}\\f0 a\\f1\\b b\\f0\\b0 c").runs.size(), 1U);
+    EXPECT_EQ(readBody(" a\\v").attributes.size(), 1U);
+    EXPECT_TRUE(readBody("{\\field{\\*\\fldinst PAGEREF \"http://a\"}{\\fldrslt x}}").links.empty());
+}
+
+TEST(RtfText, takesNoRawByteForAnotherInTheNamesOfFonts)
+{
+    const auto family = [](const std::string& font) {
+        const AttributedText text = readBody("{\\fonttbl{\\f4\\fcharset128 " + font + ";}}\\f4 x");
+        return text.families.at(text.attributes.at(0).family);
+    };
+    EXPECT_EQ(family("A\x83"), "A\uFFFD");
+    EXPECT_EQ(family("\x83\x7D"), "マ");
+}
+
+TEST(RtfText, readsDeeplyNestedGroupsWithinASecond)
+{
+    constexpr std::size_t depth = 1'000'000;
     const std::string nested = std::string(depth, '{') + "a" + std::string(depth, '}');
     const std::clock_t begin = std::clock();
     EXPECT_EQ(plainText(nested), "a\n");
     EXPECT_LT(std::clock() - begin, CLOCKS_PER_SEC);
-}
-
-TEST(RtfText, readsDeeplyNestedGroupsThatDiffer)
-{
     std::string mixed;
     std::string closing;
     for (std::size_t level = 0; level < depth / 2; ++level) {

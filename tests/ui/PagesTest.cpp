@@ -1,8 +1,58 @@
 #include "tests/ui/WizardWorld.h"
+
 #include <set>
 
 namespace corvellane {
 namespace {
+
+TEST_F(WizardWorld, marksExactlyTheCurrentPage)
+{
+    for (const Page page : allPages) {
+        settings->currentPage.set(page);
+        const std::vector<View> symbols = viewsOf<Symbol>(body());
+        for (const Page each : allPages) {
+            const View& dot = symbols.at(static_cast<std::size_t>(rawValue(each)));
+            const Tint tint = each == page ? Tint::blue : Tint::gray;
+            EXPECT_EQ(std::get<Symbol>(dot.element), (Symbol{"circle.fill", tint, 8}));
+            EXPECT_EQ(dot.frame, (Frame{8, 8, 8, 8}));
+        }
+    }
+}
+
+TEST_F(WizardWorld, framesThePagesAsDrawn)
+{
+    const View root = body();
+    const View& mainRow = root.children.at(0);
+    EXPECT_EQ(mainRow.backdrop.fill, Tint::windowBackground);
+    const View& sideBar = mainRow.children.at(0);
+    EXPECT_EQ(sideBar.frame, (Frame{180, 195, {}, {}}));
+    std::vector<double> priorities;
+    for (const View& child : sideBar.children) {
+        priorities.push_back(child.priority);
+    }
+    EXPECT_THAT(priorities, testing::ElementsAre(0.1, 0, 0, 0, 0, 0.5));
+    EXPECT_EQ(sideBar.children.at(1).frame, (Frame{180, 180, 38, 40}));
+    const View& mainColumn = mainRow.children.at(1);
+    EXPECT_EQ(std::get<Gap>(mainColumn.children.at(0).element), (Gap{20, unbounded}));
+    EXPECT_EQ(mainColumn.children.at(1).padding, below);
+    EXPECT_EQ(mainColumn.children.at(2).children.at(0).backdrop, (Backdrop{Tint::white, 0, Tint::separator}));
+    EXPECT_TRUE(std::holds_alternative<Nothing>(root.children.at(1).element)) << "no alert, no layer";
+}
+
+TEST_F(WizardWorld, loadsTheAgreementWhenItIsMade)
+{
+    EXPECT_EQ(platform.console.lines, (std::vector<std::string>{"File not found"}));
+    settings->currentPage.set(Page::license);
+    EXPECT_EQ(allOf<RichText>(body()).at(0).text->text, "");
+}
+
+TEST_F(WizardWorld, offersNothingWhereThereAreNoProducts)
+{
+    settings->currentPage.set(Page::products);
+    EXPECT_EQ(allOf<Text>(body()).back().text, "No products found");
+    EXPECT_FALSE(press(body(), "Select All"));
+    EXPECT_FALSE(press(body(), "Next"));
+}
 
 TEST_F(WizardWorld, listsProductsByTheirNames)
 {
@@ -32,11 +82,10 @@ TEST_F(WizardWorld, togglesOneProductAtAClickAndLeavesEarlierTreesAsTheyWere)
     const View before = body();
     const List list = allOf<List>(before).at(0);
     list.toggle("/Resources/Products/B");
-    const View after = body();
-    EXPECT_NE(after, before);
-    EXPECT_EQ(allOf<List>(before).at(0).ticks, (std::vector<bool>{true, true}));
-    EXPECT_EQ(allOf<List>(after).at(0).ticks, (std::vector<bool>{true, false}));
-    EXPECT_TRUE(allOf<List>(after).at(0).paths.isSame(list.paths)) << "the paths are not copied";
+    const List after = allOf<List>(body()).at(0);
+    EXPECT_EQ(list.ticks, (std::vector<bool>{true, true}));
+    EXPECT_EQ(after.ticks, (std::vector<bool>{true, false}));
+    EXPECT_TRUE(after.paths.isSame(list.paths)) << "the paths are not copied";
     list.toggle("/Resources/Products/B");
     EXPECT_EQ(body(), before);
 }
@@ -52,14 +101,11 @@ TEST_F(WizardWorld, showsBothOutcomes)
     const View failure = body();
     EXPECT_EQ(allOf<Symbol>(failure).back(), (Symbol{"exclamationmark.circle", Tint::red, 60}));
     const Text message = allOf<Text>(failure).back();
-    EXPECT_EQ(message.text, "The installation was not completed successfully.");
     EXPECT_TRUE(message.announced);
     EXPECT_EQ(message.lines, Placement::centre);
     EXPECT_EQ(viewsOf<Text>(failure).back().padding, (Padding{16, 16, 16, 0}));
     EXPECT_TRUE(press(failure, "Details"));
     EXPECT_TRUE(settings->showLogDetailsWindow.get());
-    EXPECT_TRUE(press(failure, "Details"));
-    EXPECT_FALSE(settings->showLogDetailsWindow.get());
 }
 
 TEST_F(WizardWorld, makesItsContentAnewForEveryPage)

@@ -20,10 +20,6 @@ class WizardWorld : public testing::Test {
 protected:
     View body() { return contentView.body(*settings); }
 
-    std::vector<std::string> words() { return wordsOf(body()); }
-
-    bool pressed(const std::string& label) { return press(body(), label); }
-
     void addProducts(const std::vector<std::string>& names)
     {
         for (const std::string& name : names) {
