@@ -17,14 +17,13 @@ constexpr std::array beforeText = {"end", "{", "}", "\\", "\\", "hex ", "bytes "
 
 std::string printed(const Token& token)
 {
-    if (token.kind == Token::Kind::open || token.kind == Token::Kind::close) {
-        return beforeText.at(static_cast<std::size_t>(token.kind));
-    }
     const bool isAscii = token.kind == Token::Kind::text && token.ascii;
-    const std::string before = isAscii ? "ascii " : beforeText.at(static_cast<std::size_t>(token.kind));
-    const std::string number
-        = token.kind == Token::Kind::word && token.hasParameter ? "=" + std::to_string(token.parameter) : "";
-    return before + (token.text == "\n" ? "end-of-line" : std::string(token.text)) + number;
+    std::string result = isAscii ? "ascii " : beforeText.at(static_cast<std::size_t>(token.kind));
+    if (token.kind != Token::Kind::open && token.kind != Token::Kind::close) {
+        result += token.text == "\n" ? "end-of-line" : token.text;
+    }
+    return token.kind == Token::Kind::word && token.hasParameter ? result + "=" + std::to_string(token.parameter)
+                                                                 : result;
 }
 
 std::string tokens(std::string_view rtf)

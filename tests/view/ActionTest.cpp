@@ -23,7 +23,6 @@ TEST(Action, isEqualToWhatWouldDoTheSameAndDoesIt)
     EXPECT_TRUE(add);
     EXPECT_FALSE(Change());
     EXPECT_EQ(add(4), 7);
-    EXPECT_EQ(number, 7);
 }
 
 } // namespace

@@ -85,6 +85,7 @@ TEST_F(WindowWorld, togglesARowWhereItIs)
 
 TEST_F(WindowWorld, followsTheReadingOrderWithTheTabKey)
 {
+    goTo(Page::license);
     goTo(Page::products);
     user().list()->setFocus();
     for (const char* const name : {"Select Products to install", "Select All", "Go Back", "Next"}) {

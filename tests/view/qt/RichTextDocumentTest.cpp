@@ -109,14 +109,9 @@ TEST(RichTextDocument, raisesAndLowersTextByItsPoints)
 
 TEST(RichTextDocument, putsTextWhereItsParagraphSays)
 {
-    struct Row {
-        const char* body;
-        int position;
-        double place;
-    };
     const double width = placeOf(documentOf("abc")->firstBlock(), 3);
     const double number = placeOf(documentOf("12")->firstBlock(), 2);
-    const std::vector<Row> rows{
+    const std::vector<std::tuple<const char*, int, double>> rows{
         {R"(\li720 abc)", 0, 36},
         {R"(\li720\fi-360 abc)", 0, 18},
         {R"(\fi400 abc)", 0, 20},
@@ -136,8 +131,8 @@ TEST(RichTextDocument, putsTextWhereItsParagraphSays)
         {R"(\ql\u1488?\u1489?\u1490?)", 3, 0},
         {R"(\u1488?\u1489?\u1490?)", 0, 400},
     };
-    for (const Row& row : rows) {
-        EXPECT_NEAR(placeOf(documentOf(row.body)->firstBlock(), row.position), row.place, 1) << row.body;
+    for (const auto& [body, position, place] : rows) {
+        EXPECT_NEAR(placeOf(documentOf(body)->firstBlock(), position), place, 1) << body;
     }
 }
 
@@ -158,15 +153,6 @@ TEST(RichTextDocument, spacesParagraphsAndLines)
     for (const auto& [body, top] : rows) {
         EXPECT_NEAR(topOf(documentOf(body)->lastBlock()), top, 1.5) << body;
     }
-}
-
-TEST(RichTextDocument, replacesWhatItHeldAndTakesNoTextForAnEmptyOne)
-{
-    const auto document = documentOf(R"(old\par old)");
-    fillTextDocument(*document, rtf::AttributedText());
-    EXPECT_TRUE(document->isEmpty());
-    EXPECT_EQ(document->blockCount(), 1);
-    EXPECT_FALSE(document->isUndoAvailable());
 }
 
 TEST(FontSubstitutes, offersWhatLooksLikeTheAuthorsFamily)

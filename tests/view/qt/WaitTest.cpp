@@ -104,18 +104,5 @@ TEST_F(WaitTest, showsTheWorkAsABarThatOthersCanRead)
     });
 }
 
-TEST_F(WaitTest, leavesTheMainQueueAloneMeanwhile)
-{
-    std::vector<std::string> steps;
-    dispatcher.submitToMain([&] { steps.emplace_back("submitted before"); });
-    install("User canceled.", [&] {
-        dispatcher.submitToMain([&] { steps.emplace_back("submitted meanwhile"); });
-        QTest::qWait(20);
-        steps.emplace_back("still waiting");
-    });
-    QTest::qWait(20);
-    EXPECT_EQ(steps, (std::vector<std::string>{"still waiting", "submitted before", "submitted meanwhile"}));
-}
-
 } // namespace
 } // namespace corvellane::view

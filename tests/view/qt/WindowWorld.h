@@ -74,6 +74,7 @@ protected:
                 return each;
             }
         }
+        ADD_FAILURE() << "nothing in sight is named " << name.toStdString();
         return nullptr;
     }
 
