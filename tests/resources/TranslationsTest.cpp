@@ -3,6 +3,7 @@
 #include "tests/ScratchFolder.h"
 #include "tests/ui/WizardWorld.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QTranslator>
