@@ -1,7 +1,7 @@
 #include "view/qt/Accessibility.h"
 
+#include "view/qt/Layout.h"
 #include "view/qt/LogView.h"
-#include "view/qt/Panel.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

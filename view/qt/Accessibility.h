@@ -2,7 +2,7 @@
 
 namespace corvellane::view {
 
-/// Tells assistive technology what the host's own widgets are: the log, the alerts, the pictures. Called once, after
+/// Tells assistive technology what the host's own widgets are: the log and the alerts. Called once, after
 /// the QApplication was made.
 void installAccessibility();
 

@@ -1,9 +1,12 @@
 #include "view/qt/FocusKeeper.h"
 
-#include "view/qt/Panel.h"
+#include "view/qt/TextLabel.h"
 
 #include <QAccessible>
-#include <QLabel>
+
+#include <algorithm>
+#include <iterator>
+#include <vector>
 
 namespace corvellane::view {
 namespace {
@@ -28,11 +31,30 @@ QWidget* firstFocusable(const Mounted& root)
 {
     QWidget* first = nullptr;
     forEachMounted(root, [&](const Mounted& each) {
-        if (first == nullptr && each.widget != nullptr && takesFocus(*each.widget) && each.widget->isEnabled()) {
-            first = each.widget;
+        QWidget* const widget = each.standing.widget;
+        if (first == nullptr && widget != nullptr && takesFocus(*widget) && widget->isEnabled()) {
+            first = widget;
         }
     });
     return first;
+}
+
+std::vector<QWidget*> widgetsOf(const Mounted& root)
+{
+    std::vector<QWidget*> widgets;
+    forEachMounted(root, [&](const Mounted& each) { widgets.push_back(each.standing.widget); });
+    return widgets;
+}
+
+int placeOf(const QWidget* widget, const std::vector<QWidget*>& widgets)
+{
+    const auto found = std::ranges::find(widgets, widget);
+    return widget == nullptr || found == widgets.end() ? -1 : static_cast<int>(found - widgets.begin());
+}
+
+QWidget* widgetAt(int place, const std::vector<QWidget*>& widgets)
+{
+    return place < 0 || place >= std::ssize(widgets) ? nullptr : widgets[static_cast<std::size_t>(place)];
 }
 
 /// What a person would call the alert: its words, or the name of the log in it.
@@ -40,10 +62,10 @@ QString wordsOf(const Mounted& root)
 {
     QString words;
     forEachMounted(root, [&](const Mounted& each) {
-        if (each.as<Text>() != nullptr) {
-            words += (words.isEmpty() ? "" : " ") + static_cast<QLabel*>(each.widget)->text();
-        } else if (each.as<LogArea>() != nullptr) {
-            words += each.widget->accessibleName();
+        if (const auto* text = each.as<Text>()) {
+            words += (words.isEmpty() ? "" : " ") + TextLabel::wordsOf(*text);
+        } else if (const auto* log = each.as<LogArea>()) {
+            words += QString::fromStdString(log->name);
         }
     });
     return words;
@@ -57,8 +79,8 @@ void enableBehind(const Mounted& root, const Mounted* modal)
             return;
         }
         for (const auto& child : each.children) {
-            if (child.get() != modal && child->widget != nullptr) {
-                child->widget->setEnabled(each.children.back().get() != modal || modal == nullptr);
+            if (child.get() != modal && child->standing.widget != nullptr) {
+                child->standing.widget->setEnabled(each.children.back().get() != modal || modal == nullptr);
             }
         }
     });
@@ -75,7 +97,7 @@ void FocusKeeper::settle(const Mounted& root)
 {
     setTabOrder(root);
     const Mounted* const modal = modalOf(root);
-    QWidget* const alert = modal != nullptr ? modal->widget : nullptr;
+    QWidget* const alert = modal != nullptr ? modal->standing.widget : nullptr;
     if (alert != alert_) {
         enableBehind(root, modal);
         settleAlert(alert, modal != nullptr ? *modal : root);
@@ -87,13 +109,14 @@ void FocusKeeper::setTabOrder(const Mounted& root) const
 {
     QWidget* previous = nullptr;
     forEachMounted(root, [&](const Mounted& each) {
-        if (each.widget == nullptr || !takesFocus(*each.widget)) {
+        QWidget* const widget = each.standing.widget;
+        if (widget == nullptr || !takesFocus(*widget)) {
             return;
         }
         if (previous != nullptr) {
-            QWidget::setTabOrder(previous, each.widget);
+            QWidget::setTabOrder(previous, widget);
         }
-        previous = each.widget;
+        previous = widget;
     });
 }
 
@@ -128,13 +151,28 @@ void FocusKeeper::readOut(const Mounted& root)
     QWidget* announced = nullptr;
     forEachMounted(root, [&](const Mounted& each) {
         if (each.as<Text>() != nullptr && each.as<Text>()->announced) {
-            announced = each.widget;
+            announced = each.standing.widget;
         }
     });
     if (announced != nullptr && announced != announced_ && alert_ == nullptr) {
         announced->setFocus(Qt::OtherFocusReason);
     }
     announced_ = announced;
+}
+
+FocusKeeper::Places FocusKeeper::placesIn(const Mounted& root) const
+{
+    const std::vector<QWidget*> widgets = widgetsOf(root);
+    return {placeOf(window_.focusWidget(), widgets), placeOf(behindAlert_, widgets)};
+}
+
+void FocusKeeper::restore(const Places& places, const Mounted& root)
+{
+    const std::vector<QWidget*> widgets = widgetsOf(root);
+    behindAlert_ = widgetAt(places.behindAlert, widgets);
+    if (QWidget* const focus = widgetAt(places.focus, widgets)) {
+        focus->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 } // namespace corvellane::view

@@ -21,6 +21,19 @@ public:
     /// Called after a redraw that changed something.
     void settle(const Mounted& root);
 
+    /// Where the focus is, and where it goes back to after the alert, as numbers of views in reading order; -1 where
+    /// it is on none.
+    struct Places {
+        int focus;
+        int behindAlert;
+    };
+
+    /// Called before all widgets of a tree are made anew.
+    Places placesIn(const Mounted& root) const;
+
+    /// Puts the focus there in the new widgets of the same tree.
+    void restore(const Places& places, const Mounted& root);
+
 private:
     void setTabOrder(const Mounted& root) const;
     void settleAlert(QWidget* alert, const Mounted& root);

@@ -1,9 +1,11 @@
 #include "view/qt/Layout.h"
 
-#include <QWidget>
-#include <QWidgetItem>
+#include "view/qt/Appearance.h"
+
+#include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace corvellane::view {
 namespace {
@@ -26,32 +28,24 @@ int placed(int begin, int available, int length, Placement placement)
 
 } // namespace
 
-Extent widthExtentOf(const QWidget& widget)
-{
-    const auto* measurable = dynamic_cast<const Measurable*>(&widget);
-    return measurable ? measurable->widthExtent() : Extent{0, unbounded};
-}
-
-Extent heightExtentOf(const QWidget& widget, int width)
-{
-    const auto* measurable = dynamic_cast<const Measurable*>(&widget);
-    return measurable ? measurable->heightExtent(width) : Extent{0, unbounded};
-}
+// A child's place
 
 Extent Slot::widthExtent() const
 {
-    if (widget == nullptr) {
+    if (standing.widget == nullptr) {
         return {};
     }
-    return padded(framed(widthExtentOf(*widget), frame.minimumWidth, frame.maximumWidth), padding.left + padding.right);
+    const Extent content = standing.sizes != nullptr ? standing.sizes->widthExtent() : Extent{0, unbounded};
+    return padded(framed(content, frame.minimumWidth, frame.maximumWidth), padding.left + padding.right);
 }
 
 Extent Slot::heightExtent(int width) const
 {
-    if (widget == nullptr) {
+    if (standing.widget == nullptr) {
         return {};
     }
-    const Extent content = heightExtentOf(*widget, innerWidth(width));
+    const Extent content
+        = standing.sizes != nullptr ? standing.sizes->heightExtent(innerWidth(width)) : Extent{0, unbounded};
     return padded(framed(content, frame.minimumHeight, frame.maximumHeight), padding.top + padding.bottom);
 }
 
@@ -62,92 +56,113 @@ int Slot::innerWidth(int width) const
 
 void Slot::place(const QRect& cell, Placement horizontally, Placement vertically) const
 {
-    if (widget == nullptr) {
+    if (standing.widget == nullptr) {
         return;
     }
     const int width = fitted(cell.width(), widthExtent());
     const int height = fitted(cell.height(), heightExtent(width));
     const QRect outer(placed(cell.left(), cell.width(), width, horizontally),
         placed(cell.top(), cell.height(), height, vertically), width, height);
-    widget->setGeometry(outer.adjusted(padding.left, padding.top, -padding.right, -padding.bottom));
+    standing.widget->setGeometry(outer.adjusted(padding.left, padding.top, -padding.right, -padding.bottom));
+    if (standing.panel != nullptr) {
+        standing.panel->layOut();
+    }
 }
 
-ViewLayout::ViewLayout(QWidget* parent)
-    : QLayout(parent)
-{
-    setSizeConstraint(QLayout::SetNoConstraint);
-    setContentsMargins(0, 0, 0, 0);
-}
+// What a panel shows
 
-ViewLayout::~ViewLayout() = default;
-
-void ViewLayout::setArrangement(const Arrangement& arrangement)
+void Panel::present(const Arrangement& arrangement, const Backdrop& backdrop, bool modal)
 {
     arrangement_ = arrangement;
-    invalidate();
+    laidOut_ = {};
+    showBackdrop(backdrop);
+    modal_ = modal;
+    setAttribute(Qt::WA_NoMousePropagation, modal);
 }
 
-void ViewLayout::arrange(std::vector<Slot> slotsOfChildren)
+void Panel::showBackdrop(const Backdrop& backdrop)
+{
+    if (backdrop != backdrop_) {
+        backdrop_ = backdrop;
+        setAttribute(Qt::WA_OpaquePaintEvent, backdrop.fill && backdrop.cornerRadius == 0);
+        const int line = backdrop.border ? 1 : 0;
+        setContentsMargins(line, line, line, line);
+        update();
+    }
+}
+
+void Panel::arrange(std::vector<Slot> slotsOfChildren)
 {
     slots_ = std::move(slotsOfChildren);
-    items_.clear();
-    for (const Slot& slot : slots_) {
-        if (slot.widget != nullptr) {
-            items_.push_back(std::make_unique<QWidgetItem>(slot.widget));
-        }
+    laidOut_ = {};
+}
+
+void Panel::paintEvent(QPaintEvent*)
+{
+    if (!backdrop_.fill && !backdrop_.border) {
+        return;
     }
-    invalidate();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing, backdrop_.cornerRadius > 0);
+    painter.setPen(Qt::NoPen);
+    if (backdrop_.fill) {
+        painter.setBrush(colorOf(*backdrop_.fill));
+        painter.drawRoundedRect(rect(), backdrop_.cornerRadius, backdrop_.cornerRadius);
+    }
+    if (backdrop_.border) {
+        painter.setBrush(colorOf(*backdrop_.border));
+        painter.drawRects(QList<QRect>{QRect(0, 0, width(), 1), QRect(0, height() - 1, width(), 1),
+            QRect(0, 1, 1, height() - 2), QRect(width() - 1, 1, 1, height() - 2)});
+    }
 }
 
 // Measuring
 
-int ViewLayout::spacingOf(const Stack& stack) const
+Extent Panel::widthExtent() const
 {
-    return slots_.empty() ? 0 : stack.spacing * (static_cast<int>(slots_.size()) - 1);
+    const QMargins line = contentsMargins();
+    return padded(contentExtent(Axis::horizontal, 0), line.left() + line.right());
 }
 
-Extent ViewLayout::extentOf(const Slot& slot, Axis axis, int width) const
+Extent Panel::heightExtent(int width) const
 {
-    const bool isAlong = stack() != nullptr && stack()->axis == axis;
-    if (slot.widget == nullptr) {
-        return isAlong ? Extent{slot.gap.minimum, slot.gap.maximum} : Extent{};
+    const QMargins line = contentsMargins();
+    return padded(contentExtent(Axis::vertical, width - line.left() - line.right()), line.top() + line.bottom());
+}
+
+int Panel::spacing() const
+{
+    return slots_.empty() || stack() == nullptr ? 0 : stack()->spacing * (static_cast<int>(slots_.size()) - 1);
+}
+
+Extent Panel::extentOf(const Slot& slot, Axis axis, int width) const
+{
+    if (slot.standing.widget == nullptr) {
+        return isAlong(axis) ? Extent{slot.gap.minimum, slot.gap.maximum} : Extent{};
     }
     return axis == Axis::horizontal ? slot.widthExtent() : slot.heightExtent(width);
 }
 
-/// `width` is the layout's own, looked at for heights alone.
-Extent ViewLayout::extent(Axis axis, int width) const
+/// `width` is that of the content, looked at for heights alone.
+Extent Panel::contentExtent(Axis axis, int width) const
 {
-    const bool isAlong = stack() != nullptr && stack()->axis == axis;
     std::vector<int> widths(slots_.size(), width);
-    if (axis == Axis::vertical && stack() != nullptr && stack()->axis == Axis::horizontal) {
-        widths = lengths(*stack(), QRect(0, 0, width, 0));
+    if (axis == Axis::vertical && isAlong(Axis::horizontal)) {
+        widths = lengths(*stack(), QSize(width, 0));
     }
     Extent whole;
-    if (isAlong) {
-        whole = {spacingOf(*stack()), spacingOf(*stack())};
+    if (isAlong(axis)) {
+        whole = {spacing(), spacing()};
     }
     for (std::size_t index = 0; index < slots_.size(); ++index) {
         const Extent each = extentOf(slots_[index], axis, widths[index]);
-        whole.minimum = isAlong ? sumOf(whole.minimum, each.minimum) : std::max(whole.minimum, each.minimum);
-        whole.maximum = isAlong ? sumOf(whole.maximum, each.maximum) : std::max(whole.maximum, each.maximum);
+        whole.minimum = isAlong(axis) ? sumOf(whole.minimum, each.minimum) : std::max(whole.minimum, each.minimum);
+        whole.maximum = isAlong(axis) ? sumOf(whole.maximum, each.maximum) : std::max(whole.maximum, each.maximum);
     }
     return whole;
 }
 
-Extent ViewLayout::widthExtent() const
-{
-    return extent(Axis::horizontal, 0);
-}
-
-Extent ViewLayout::heightExtent(int width) const
-{
-    return extent(Axis::vertical, width);
-}
-
-// Placing
-
-std::vector<int> ViewLayout::lengths(const Stack& stack, const QRect& area) const
+std::vector<int> Panel::lengths(const Stack& stack, const QSize& area) const
 {
     std::vector<StackItem> items;
     items.reserve(slots_.size());
@@ -155,12 +170,27 @@ std::vector<int> ViewLayout::lengths(const Stack& stack, const QRect& area) cons
         items.push_back({extentOf(slot, stack.axis, area.width()), slot.priority});
     }
     const int total = stack.axis == Axis::horizontal ? area.width() : area.height();
-    return distribute(total - spacingOf(stack), items);
+    return distribute(total - spacing(), items);
 }
 
-void ViewLayout::placeStack(const Stack& stack, const QRect& area) const
+// Placing
+
+void Panel::layOut()
 {
-    const std::vector<int> lengthsOfSlots = lengths(stack, area);
+    const QRect area = contentsRect();
+    if (area == std::exchange(laidOut_, area)) {
+        return;
+    }
+    if (stack() != nullptr) {
+        return placeStack(*stack(), area);
+    }
+    const Placement placement = std::get<Layers>(arrangement_).children;
+    std::ranges::for_each(slots_, [&](const Slot& slot) { slot.place(area, placement, placement); });
+}
+
+void Panel::placeStack(const Stack& stack, const QRect& area) const
+{
+    const std::vector<int> lengthsOfSlots = lengths(stack, area.size());
     int position = 0;
     for (std::size_t index = 0; index < slots_.size(); ++index) {
         const int length = lengthsOfSlots[index];
@@ -173,75 +203,6 @@ void ViewLayout::placeStack(const Stack& stack, const QRect& area) const
         }
         position += length + stack.spacing;
     }
-}
-
-void ViewLayout::setGeometry(const QRect& area)
-{
-    if (valid_ && area == geometry()) {
-        return;
-    }
-    QLayout::setGeometry(area);
-    valid_ = true;
-    if (stack() != nullptr) {
-        placeStack(*stack(), area);
-    } else {
-        const Placement placement = std::get<Layers>(arrangement_).children;
-        std::ranges::for_each(slots_, [&](const Slot& slot) { slot.place(area, placement, placement); });
-    }
-    layOut();
-}
-
-void ViewLayout::layOut()
-{
-    for (const Slot& slot : slots_) {
-        if (slot.widget != nullptr && slot.widget->layout() != nullptr) {
-            slot.widget->layout()->setGeometry(slot.widget->contentsRect());
-        }
-    }
-}
-
-void ViewLayout::invalidate()
-{
-    valid_ = false;
-    QLayout::invalidate();
-}
-
-// What QLayout wants to know
-
-void ViewLayout::addItem(QLayoutItem* item)
-{
-    items_.emplace_back(item);
-}
-
-int ViewLayout::count() const
-{
-    return static_cast<int>(items_.size());
-}
-
-QLayoutItem* ViewLayout::itemAt(int index) const
-{
-    return index >= 0 && index < count() ? items_[static_cast<std::size_t>(index)].get() : nullptr;
-}
-
-QLayoutItem* ViewLayout::takeAt(int index)
-{
-    if (itemAt(index) == nullptr) {
-        return nullptr;
-    }
-    QLayoutItem* const item = items_[static_cast<std::size_t>(index)].release();
-    items_.erase(items_.begin() + index);
-    return item;
-}
-
-QSize ViewLayout::sizeHint() const
-{
-    return minimumSize();
-}
-
-QSize ViewLayout::minimumSize() const
-{
-    const int width = widthExtent().minimum;
-    return {width, heightExtent(width).minimum};
 }
 
 } // namespace corvellane::view

@@ -3,16 +3,14 @@
 #include "view/StackLayout.h"
 #include "view/View.h"
 
-#include <QLayout>
-#include <QRect>
+#include <QWidget>
 
-#include <memory>
 #include <variant>
 #include <vector>
 
-class QWidget;
-
 namespace corvellane::view {
+
+class Panel;
 
 /// A widget that knows which sizes it can take, in device-independent pixels.
 class Measurable {
@@ -23,20 +21,24 @@ public:
     virtual Extent heightExtent(int width) const = 0;
 };
 
-/// A widget that is no Measurable takes every size.
-Extent widthExtentOf(const QWidget& widget);
-Extent heightExtentOf(const QWidget& widget, int width);
+/// What stands in the window for a view.
+struct Standing {
+    /// Null for views that draw nothing and hold nothing.
+    QWidget* widget = nullptr;
+    /// The widget's sizes; a widget without them takes every size.
+    const Measurable* sizes = nullptr;
+    /// The widget of a view that holds others.
+    Panel* panel = nullptr;
+    bool takesRoom = true;
+};
 
 /// A child's place in its parent's layout: its widget, or the gap it stands for, with frame and padding around it.
 struct Slot {
-    /// Absent for a gap.
-    QWidget* widget = nullptr;
+    Standing standing;
     Gap gap;
     Frame frame;
     Padding padding;
     double priority = 0;
-
-    bool operator==(const Slot&) const = default;
 
     /// With the padding.
     Extent widthExtent() const;
@@ -49,45 +51,49 @@ private:
     int innerWidth(int width) const;
 };
 
-/// Lays out the children of one view: a stack by the rules of `distribute`, or layers, which all have the same room.
-class ViewLayout : public QLayout {
+/// The widget of a view that holds others: draws the view's backdrop and lays out the children, a stack by the rules of
+/// `distribute`, or layers, which all have the same room.
+class Panel : public QWidget, public Measurable {
 public:
     using Arrangement = std::variant<Stack, Layers>;
 
-    explicit ViewLayout(QWidget* parent);
-    ~ViewLayout() override;
+    explicit Panel(QWidget* parent)
+        : QWidget(parent)
+    {
+    }
 
-    /// The children's widgets belong to the layout's parent.
+    /// A modal panel lets no click through to what lies behind it, and is a dialogue to those who do not see it.
+    void present(const Arrangement& arrangement, const Backdrop& backdrop, bool modal);
+    bool isModal() const { return modal_; }
+
+    /// The children in their order; their widgets belong to this one.
     void arrange(std::vector<Slot> slotsOfChildren);
-    void setArrangement(const Arrangement& arrangement);
 
-    Extent widthExtent() const;
-    Extent heightExtent(int width) const;
-
-    /// Lays out everything below this at the present size, where it has been invalidated.
+    /// Lays out everything below this at the present size, where it is not laid out so already.
     void layOut();
 
-    void addItem(QLayoutItem* item) override;
-    int count() const override;
-    QLayoutItem* itemAt(int index) const override;
-    QLayoutItem* takeAt(int index) override;
-    QSize sizeHint() const override;
-    QSize minimumSize() const override;
-    void setGeometry(const QRect& area) override;
-    void invalidate() override;
+    Extent widthExtent() const override;
+    Extent heightExtent(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     const Stack* stack() const { return std::get_if<Stack>(&arrangement_); }
-    int spacingOf(const Stack& stack) const;
+    bool isAlong(Axis axis) const { return stack() != nullptr && stack()->axis == axis; }
+    void showBackdrop(const Backdrop& backdrop);
+    int spacing() const;
     Extent extentOf(const Slot& slot, Axis axis, int width) const;
-    Extent extent(Axis axis, int width) const;
-    std::vector<int> lengths(const Stack& stack, const QRect& area) const;
+    Extent contentExtent(Axis axis, int width) const;
+    std::vector<int> lengths(const Stack& stack, const QSize& area) const;
     void placeStack(const Stack& stack, const QRect& area) const;
 
     Arrangement arrangement_;
     std::vector<Slot> slots_;
-    std::vector<std::unique_ptr<QLayoutItem>> items_;
-    bool valid_ = false;
+    Backdrop backdrop_;
+    bool modal_ = false;
+    /// The area that the children are laid out in; null where they are not.
+    QRect laidOut_;
 };
 
 } // namespace corvellane::view

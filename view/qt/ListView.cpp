@@ -194,6 +194,10 @@ ListView::ListView(QWidget* parent, const bool& deaf)
 void ListView::present(const List& list)
 {
     setAccessibleName(QString::fromStdString(list.name));
+    const List& shown = model_.list();
+    if (std::tie(list.plain, list.ticked, list.font) != std::tie(shown.plain, shown.ticked, shown.font)) {
+        scheduleDelayedItemsLayout();
+    }
     model_.present(list);
 }
 

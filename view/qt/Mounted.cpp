@@ -1,7 +1,5 @@
 #include "view/qt/Mounted.h"
 
-#include "view/qt/Panel.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -13,28 +11,16 @@ bool canStay(const Mounted& mounted, const View& view)
     return mounted.shown.element.index() == view.element.index() && mounted.shown.identity == view.identity;
 }
 
-bool takesRoom(const Mounted& mounted)
-{
-    return mounted.as<Nothing>() == nullptr && mounted.as<Timer>() == nullptr;
-}
-
-/// The widget of a view that holds others; null for every other kind.
-Panel* panelOf(const Mounted& mounted)
-{
-    const bool holds = mounted.as<Stack>() != nullptr || mounted.as<Layers>() != nullptr;
-    return holds ? static_cast<Panel*>(mounted.widget) : nullptr;
-}
-
 /// Puts the children's widgets into the order of the tree: the one in which they are read out, and the last in front.
 void restack(const Mounted& mounted)
 {
     QObjectList wanted;
     for (const auto& child : mounted.children) {
-        if (child->widget != nullptr && takesRoom(*child)) {
-            wanted.append(child->widget);
+        if (child->standing.widget != nullptr && child->standing.takesRoom) {
+            wanted.append(child->standing.widget);
         }
     }
-    QObjectList standing = mounted.widget->children();
+    QObjectList standing = mounted.standing.widget->children();
     standing.removeIf([&](QObject* object) { return !wanted.contains(object); });
     if (standing != wanted) {
         for (QObject* const object : wanted) {
@@ -45,18 +31,17 @@ void restack(const Mounted& mounted)
 
 void arrange(const Mounted& mounted)
 {
-    Panel* const panel = panelOf(mounted);
-    if (panel == nullptr) {
+    if (mounted.standing.panel == nullptr) {
         return;
     }
     std::vector<Slot> slotsOfChildren;
     for (const auto& child : mounted.children) {
-        if (takesRoom(*child)) {
+        if (child->standing.takesRoom) {
             slotsOfChildren.push_back(child->slot());
         }
     }
     restack(mounted);
-    panel->viewLayout().arrange(std::move(slotsOfChildren));
+    mounted.standing.panel->arrange(std::move(slotsOfChildren));
 }
 
 /// The view without its children, which are given back.
@@ -68,14 +53,14 @@ std::vector<View> takeChildren(View& view)
 std::unique_ptr<Mounted> mount(View view, QWidget* parent, const Widgets& widgets)
 {
     auto mounted = std::make_unique<Mounted>();
-    mounted->widget = widgets.present(view, nullptr, parent);
+    mounted->standing = widgets.present(view, {}, parent);
     for (View& child : takeChildren(view)) {
-        bring(mounted->children.emplace_back(), std::move(child), mounted->widget, widgets);
+        bring(mounted->children.emplace_back(), std::move(child), mounted->standing.widget, widgets);
     }
     mounted->shown = std::move(view);
     arrange(*mounted);
-    if (mounted->widget != nullptr) {
-        mounted->widget->setVisible(true);
+    if (mounted->standing.widget != nullptr) {
+        mounted->standing.widget->setVisible(true);
     }
     return mounted;
 }
@@ -88,7 +73,8 @@ bool bringChildren(Mounted& mounted, std::vector<View> children, const Widgets& 
         mounted.children.end(), [](const auto& child) { retire(*child); });
     mounted.children.resize(children.size());
     for (std::size_t index = 0; index < children.size(); ++index) {
-        changed = bring(mounted.children[index], std::move(children[index]), mounted.widget, widgets) || changed;
+        changed
+            = bring(mounted.children[index], std::move(children[index]), mounted.standing.widget, widgets) || changed;
     }
     return changed;
 }
@@ -98,7 +84,7 @@ bool change(Mounted& mounted, View view, const Widgets& widgets)
 {
     const bool differs = mounted.shown != view;
     if (differs) {
-        widgets.present(view, mounted.widget, nullptr);
+        widgets.present(view, mounted.standing, nullptr);
         mounted.shown = std::move(view);
     }
     return differs;
@@ -109,7 +95,7 @@ bool change(Mounted& mounted, View view, const Widgets& widgets)
 Slot Mounted::slot() const
 {
     const auto* const gap = as<Gap>();
-    return {widget, gap != nullptr ? *gap : Gap{0, 0}, shown.frame, shown.padding, shown.priority};
+    return {standing, gap != nullptr ? *gap : Gap{0, 0}, shown.frame, shown.padding, shown.priority};
 }
 
 bool bring(std::unique_ptr<Mounted>& mounted, View view, QWidget* parent, const Widgets& widgets)
@@ -132,9 +118,9 @@ bool bring(std::unique_ptr<Mounted>& mounted, View view, QWidget* parent, const 
 
 void retire(const Mounted& mounted)
 {
-    if (mounted.widget != nullptr) {
-        mounted.widget->hide();
-        mounted.widget->deleteLater();
+    if (mounted.standing.widget != nullptr) {
+        mounted.standing.widget->hide();
+        mounted.standing.widget->deleteLater();
     }
 }
 

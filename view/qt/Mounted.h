@@ -1,10 +1,7 @@
 #pragma once
 
 #include "view/View.h"
-#include "view/qt/Layout.h"
 #include "view/qt/Widgets.h"
-
-#include <QWidget>
 
 #include <memory>
 #include <vector>
@@ -15,8 +12,8 @@ namespace corvellane::view {
 struct Mounted {
     /// What it shows, without the children.
     View shown;
-    /// Null for views that draw nothing and hold nothing. Belongs to the parent's widget.
-    QWidget* widget = nullptr;
+    /// Its widget belongs to the parent's.
+    Standing standing;
     std::vector<std::unique_ptr<Mounted>> children;
 
     template <typename Kind>

@@ -45,6 +45,19 @@ QPixmap tintedPicture(const QString& file, const QColor& tint, const QSize& size
     return picture;
 }
 
+void FillArea::present(const Fill& fill)
+{
+    fill_ = fill;
+    update();
+}
+
+void FillArea::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setOpacity(fill_.opacity);
+    painter.fillRect(rect(), colorOf(fill_.tint));
+}
+
 void Picture::present(const QString& file, Tint tint)
 {
     file_ = file;

@@ -17,6 +17,23 @@ QString symbolFile(const std::string& name);
 /// empty when it cannot be read. Drawn once and kept.
 QPixmap tintedPicture(const QString& file, const QColor& tint, const QSize& size, double devicePixelRatio);
 
+/// The widget of a filled area.
+class FillArea : public QWidget {
+public:
+    explicit FillArea(QWidget* parent)
+        : QWidget(parent)
+    {
+    }
+
+    void present(const Fill& fill);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Fill fill_;
+};
+
 /// The widget of a symbol or of an image of the resources; fills its frame.
 class Picture : public QWidget {
 public:

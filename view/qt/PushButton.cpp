@@ -28,9 +28,11 @@ PushButton::PushButton(QWidget* parent, const bool& deaf)
     , deaf_(deaf)
 {
     setAutoDefault(false);
+    setIconSize({symbolSize, symbolSize});
+    connect(this, &QPushButton::pressed, this, [this] { heard_ = !deaf_; });
     connect(this, &QPushButton::clicked, this, [this] {
         const Action<void()> action = action_;
-        if (!deaf_) {
+        if (heard_ && !deaf_) {
             action();
         }
     });
@@ -45,12 +47,13 @@ void PushButton::present(const Button& button)
     setText(withoutMnemonics(label));
     setAccessibleName(label);
     setCursor(isLink_ ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    if (!button.symbol.empty()) {
-        const QSize size(symbolSize, symbolSize);
-        setIconSize(size);
-        setIcon(QIcon(tintedPicture(symbolFile(button.symbol), colorOf(Tint::label), size, devicePixelRatioF())));
-    }
+    setIcon(button.symbol.empty() ? QIcon() : symbolIcon(button.symbol));
     setEnabled(button.enabled);
+}
+
+QIcon PushButton::symbolIcon(const std::string& symbol) const
+{
+    return tintedPicture(symbolFile(symbol), colorOf(Tint::label), iconSize(), devicePixelRatioF());
 }
 
 Extent PushButton::widthExtent() const

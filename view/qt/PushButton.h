@@ -8,7 +8,7 @@
 namespace corvellane::view {
 
 /// The widget of a button. No shortcut, no mnemonic, never a default button; the space bar presses it. Performs nothing
-/// while `deaf`.
+/// while `deaf`, nor afterwards for a press made then.
 class PushButton : public QPushButton, public Measurable {
 public:
     PushButton(QWidget* parent, const bool& deaf);
@@ -25,11 +25,13 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    QIcon symbolIcon(const std::string& symbol) const;
     void paintLink();
 
     const bool& deaf_;
     Action<void()> action_;
     bool isLink_ = false;
+    bool heard_ = false;
 };
 
 } // namespace corvellane::view

@@ -28,6 +28,11 @@ TextLabel::TextLabel(QWidget* parent)
     setWordWrap(true);
 }
 
+QString TextLabel::wordsOf(const Text& text)
+{
+    return text.localizable ? localized(text.text) : QString::fromStdString(text.text);
+}
+
 void TextLabel::present(const Text& text)
 {
     setFont(fontOf(text.font));
@@ -36,7 +41,7 @@ void TextLabel::present(const Text& text)
     setPalette(colors);
     setAlignment(text.lines == Placement::centre ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
     setFocusPolicy(text.announced ? Qt::TabFocus : Qt::NoFocus);
-    setText(text.localizable ? localized(text.text) : QString::fromStdString(text.text));
+    setText(wordsOf(text));
     const int natural = fontMetrics().size(0, this->text()).width() + 1;
     widths_ = {std::min(natural, widestStretch(fontMetrics(), this->text()) + 1), natural};
     measuredWidth_ = -1;

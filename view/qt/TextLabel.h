@@ -12,6 +12,9 @@ class TextLabel : public QLabel, public Measurable {
 public:
     explicit TextLabel(QWidget* parent);
 
+    /// In the person's language.
+    static QString wordsOf(const Text& text);
+
     void present(const Text& text);
 
     /// From the longest stretch without a line break to all of it in one line.

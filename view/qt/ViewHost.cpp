@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QLayout>
 #include <QResizeEvent>
 
 #include <algorithm>
@@ -21,7 +20,10 @@ ViewHost::ViewHost(std::function<View()> body, Widgets::ImageFiles imageFiles)
     redraw();
 }
 
-ViewHost::~ViewHost() = default;
+ViewHost::~ViewHost()
+{
+    delete root_->standing.widget;
+}
 
 void ViewHost::prepareApplication()
 {
@@ -60,9 +62,14 @@ void ViewHost::rebuild()
         outdated_ = true;
         return;
     }
+    if (scheduled_) {
+        redraw();
+    }
+    const FocusKeeper::Places places = focus_.placesIn(*root_);
     retire(*root_);
     root_ = nullptr;
     redraw();
+    focus_.restore(places, *root_);
 }
 
 // Waiting
@@ -112,9 +119,6 @@ void ViewHost::setLeastSize()
 void ViewHost::layOut()
 {
     root_->slot().place(rect(), Placement::centre, Placement::centre);
-    if (QLayout* const layout = root_->widget->layout()) {
-        layout->setGeometry(root_->widget->contentsRect());
-    }
 }
 
 void ViewHost::resizeEvent(QResizeEvent* event)

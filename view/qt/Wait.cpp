@@ -40,7 +40,6 @@ bool isPress(const QEvent& event)
     case QEvent::DragEnter:
     case QEvent::Drop:
     case QEvent::Close:
-    case QEvent::Quit:
         return true;
     default:
         return false;
@@ -64,8 +63,11 @@ void InputGate::shut()
 void InputGate::open(bool sceneChanged)
 {
     shut_ = false;
-    if (!sceneChanged || !isDropped()) {
+    if (!sceneChanged || !isDropped() || endsAfterwards_) {
         leave();
+    }
+    if (std::exchange(endsAfterwards_, false)) {
+        QCoreApplication::postEvent(QCoreApplication::instance(), new QEvent(QEvent::Quit));
     }
 }
 
@@ -84,6 +86,10 @@ bool InputGate::isDropped() const
 
 bool InputGate::eventFilter(QObject*, QEvent* event)
 {
+    if (event->type() == QEvent::Quit && shut_) {
+        endsAfterwards_ = true;
+        return true;
+    }
     if (!isPress(*event)) {
         return false;
     }
@@ -111,7 +117,6 @@ BusyBar::BusyBar(QWidget& window)
 
 void BusyBar::showPart(double part)
 {
-    setAccessibleName(localized("Progress of the installation"));
     setValue(static_cast<int>(std::lround(std::clamp(part, 0.0, 1.0) * whole)));
     raise();
     show();
@@ -151,6 +156,7 @@ void Wait::begin()
 {
     deaf_ = true;
     gate_.shut();
+    bar_.setAccessibleName(localized("Progress of the installation"));
     beat_.start(beat);
 }
 

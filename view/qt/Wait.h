@@ -11,7 +11,7 @@ namespace corvellane::view {
 
 /// Keeps out what a person does while the program waits: presses of keys and buttons, touches, the wheel, drops and
 /// requests to close are dropped, never kept for later. What ends a gesture (a release) passes, so that held keys and
-/// buttons are known as they are. One for the program.
+/// buttons are known as they are. When the session ends meanwhile, the program ends afterwards. One for the program.
 class InputGate : public QObject {
 public:
     void shut();
@@ -29,6 +29,7 @@ private:
 
     bool shut_ = false;
     bool listening_ = false;
+    bool endsAfterwards_ = false;
     /// Since the last press that was dropped.
     QElapsedTimer dropped_;
 };

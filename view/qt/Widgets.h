@@ -1,12 +1,10 @@
 #pragma once
 
 #include "view/View.h"
-
-#include <QString>
+#include "view/qt/Layout.h"
 
 #include <functional>
-
-class QWidget;
+#include <string>
 
 namespace corvellane::view {
 
@@ -23,9 +21,9 @@ public:
     {
     }
 
-    /// Has `standing`, the widget of a view of the same kind, show this one; without it a widget is made inside
-    /// `parent`. Null for an element without a widget.
-    QWidget* present(const View& view, QWidget* standing, QWidget* parent) const;
+    /// Has the widget that stands for a view of the same kind show this one; where there is none, one is made inside
+    /// `parent`.
+    Standing present(const View& view, const Standing& standing, QWidget* parent) const;
 
 private:
     ImageFiles imageFiles_;

@@ -1,7 +1,7 @@
 #include "tests/view/qt/WindowWorld.h"
 #include "view/qt/Appearance.h"
+#include "view/qt/Layout.h"
 #include "view/qt/LogView.h"
-#include "view/qt/Panel.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -53,6 +53,19 @@ TEST_F(WindowWorld, keepsWidgetsAndFocusOverRedraws)
     EXPECT_EQ(products, nullptr) << "a page's content does not outlive it";
 }
 
+TEST_F(WindowWorld, keepsTheFocusAndWhereItGoesBackToWhenAllIsMadeAnew)
+{
+    goTo(Page::install);
+    named("Go Back")->setFocus();
+    show(settings().showPermanentlyAlert, true);
+    named("Install")->setFocus();
+    scene->window().rebuild();
+    settle();
+    EXPECT_EQ(QApplication::focusWidget(), named("Install"));
+    show(settings().showPermanentlyAlert, false);
+    EXPECT_EQ(QApplication::focusWidget(), named("Go Back"));
+}
+
 TEST_F(WindowWorld, redrawsOnceForAnyNumberOfChanges)
 {
     settings().currentPage.set(Page::products);

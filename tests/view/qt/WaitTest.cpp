@@ -13,14 +13,17 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Scripts that run until they are told to end.
+/// Makes a script that runs until it is told to end.
 struct HeldScripts : ScriptService {
-    std::unique_ptr<Script> create(std::string) override
-    {
-        auto script = std::make_unique<FakeScripts::Prepared>();
-        script->run = [this] { return ScriptExecution{ScriptExecution::Value{end.get_future().get()}, std::nullopt}; };
-        return script;
-    }
+    struct Held : Script {
+        explicit Held(std::future<std::string> wanted)
+            : result(std::move(wanted))
+        {
+        }
+        ScriptExecution execute() override { return {ScriptExecution::Value{result.get()}, std::nullopt}; }
+        std::future<std::string> result;
+    };
+    std::unique_ptr<Script> create(std::string) override { return std::make_unique<Held>(end.get_future()); }
     std::promise<std::string> end;
 };
 
@@ -50,6 +53,12 @@ protected:
         EXPECT_TRUE(WindowUser::wait([&] { return window().hears(); }));
     }
 
+    void pressOverTheBus(const char* button)
+    {
+        auto* const actions = QAccessible::queryAccessibleInterface(named(button))->actionInterface();
+        actions->doAction(QAccessibleActionInterface::pressAction());
+    }
+
     HeldScripts scripts;
     QtDispatcher dispatcher;
 };
@@ -62,9 +71,7 @@ TEST_F(WaitTest, hearsNobodyAndShowsWhatItShowedUntilTheOutcomeIsThere)
         user().clickThrough("Next");
         user().click("Cancel");
         user().press(Qt::Key_Space);
-        QAccessible::queryAccessibleInterface(named("Install"))
-            ->actionInterface()
-            ->doAction(QAccessibleActionInterface::pressAction());
+        pressOverTheBus("Install");
         EXPECT_FALSE(window().close());
         settings().logDetailsStr = std::string("written during the wait");
         window().scheduleRedraw();
@@ -87,6 +94,37 @@ TEST_F(WaitTest, hearsAgainAtOnceWhereNothingHasChangedAndNobodyPressed)
     EXPECT_EQ(settings().currentPage.get(), Page::install);
     user().click("Next");
     EXPECT_TRUE(settings().showPermanentlyAlert.get());
+}
+
+TEST_F(WaitTest, dropsAPressOverTheBusThatIsCarriedOutAfterTheWait)
+{
+    show(settings().showPermanentlyAlert, false);
+    show(settings().showFinderAlert, true);
+    const auto group = dispatcher.makeWaitGroup();
+    group->enter();
+    QTimer::singleShot(10ms, &window(), [&] {
+        pressOverTheBus("Close");
+        group->leave();
+    });
+    group->wait();
+    QTest::qWait(200);
+    EXPECT_TRUE(window().hears());
+    EXPECT_EQ(platform.application.terminations, 0);
+    pressOverTheBus("Close");
+    QTest::qWait(200);
+    EXPECT_EQ(platform.application.terminations, 1);
+}
+
+TEST_F(WaitTest, endsAfterTheWaitWhenTheSessionEndsMeanwhile)
+{
+    install("Ok", [&] {
+        QEvent quit(QEvent::Quit);
+        QCoreApplication::sendEvent(QCoreApplication::instance(), &quit);
+        user().clickThrough("Next");
+        EXPECT_TRUE(window().isVisible());
+    });
+    settle();
+    EXPECT_FALSE(window().isVisible());
 }
 
 TEST_F(WaitTest, showsTheWorkAsABarThatOthersCanRead)
