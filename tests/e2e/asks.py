@@ -4,9 +4,10 @@ import os
 import signal
 import subprocess
 import sys
+import time
 
 from desktop import HOST_FOLDERS, Desktop, Wizard, wait_for
-from impatience import Screen, try_everything
+from impatience import Screen, click, clicking, try_everything
 
 BUNDLE, AGENT, HOLD = sys.argv[1:]
 RUNNER = BUNDLE + "/bin/corvellane-command-runner"
@@ -66,6 +67,22 @@ def killed_while_it_asks(desktop):
     kill(wizard)
     wait_until_gone("/usr/bin/pkexec")
     assert not os.path.exists(MAKER)
+
+
+def dismissed_while_somebody_presses_everything(desktop):
+    wizard = start(desktop, "wait")
+    install(wizard)
+    wait_for("the prompt", lambda: prompts(wizard))
+    impatient = clicking(wizard, "Next", 20)
+    try_everything(wizard, Screen(wizard))
+    wizard.process.send_signal(signal.SIGUSR1)
+    wait_for("the page", lambda: "push button Next focused" in wizard.said())
+    assert impatient.wait() == 0
+    assert "push button Next focused" in wizard.said(), "nobody was heard"
+    time.sleep(1)  # a pause: from now on a click is meant for what is shown now
+    click(wizard, "Next")
+    wait_for("the confirmation", lambda: any(words.startswith("push button Install") for words in wizard.said()))
+    kill(wizard)
 
 
 def killed_between_two_commands(desktop):
@@ -136,6 +153,7 @@ def owners(folder):
 
 with Desktop() as desktop:
     killed_while_it_asks(desktop)
+    dismissed_while_somebody_presses_everything(desktop)
     killed_between_two_commands(desktop)
     killed_during_a_copy(desktop)
     refused(desktop, "password:wrong", "The administrator user name or password was incorrect.")

@@ -62,6 +62,10 @@ class Screen:
         cover.destroy()
         self.display.sync()
 
+    def minimise_and_restore(self):
+        for change in ("windowminimize", "windowmap"):
+            subprocess.run(["xdotool", change, "--sync", str(self.window.id)], check=True)
+
     def remember(self):
         self.before = self.picture()
 
@@ -86,6 +90,8 @@ def try_everything(wizard, screen):
     usable = [node for node in wizard.nodes() if node.name in ("Cancel", "Install")]
     click(wizard, "Next", 4)
     click(wizard, "Install")
+    for wheel in "45":
+        subprocess.run(["xdotool", "click", wheel], check=True)
     for key in ["Escape", "Return", "space", "F10", "Tab"]:
         wizard.key(key)
     for button in usable:
