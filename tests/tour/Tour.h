@@ -34,44 +34,34 @@ public:
     std::vector<std::string> run();
 
 private:
-    struct CountedApplication : Application {
-        void terminate() override { ++ends; }
-        Menu* mainMenu() override { return nullptr; }
-        int ends = 0;
-    };
-
-    struct NotedWorkspace : Workspace {
-        bool openUrl(const std::string& wanted) override
-        {
-            url = wanted;
-            return false;
-        }
-        std::string url;
-    };
-    struct ToldFileManager : script::FileManager {
-        bool acceptsRequests() override { return allowed; }
-        std::atomic<bool> allowed = false;
-    };
-
-    /// One run of the wizard, a rehearsal whose host folders lie below a folder of its own.
-    struct Visit {
+    /// One run of the wizard, a rehearsal whose host folders lie below a folder of its own. Stands in for what would
+    /// leave the window: the program's end, the browser, and the permission to use the file manager.
+    struct Visit : Application, Workspace, script::FileManager {
         Visit(Tour& tour, const std::string& name);
 
-        std::shared_ptr<CountedApplication> application = std::make_shared<CountedApplication>();
-        std::shared_ptr<NotedWorkspace> workspace = std::make_shared<NotedWorkspace>();
-        std::shared_ptr<ToldFileManager> fileManager = std::make_shared<ToldFileManager>();
+        void terminate() override { ended = true; }
+        Menu* mainMenu() override { return nullptr; }
+        bool openUrl(const std::string& url) override
+        {
+            openedUrl = url;
+            return false;
+        }
+        bool acceptsRequests() override { return allowed; }
+
+        bool ended = false;
+        std::string openedUrl;
+        std::atomic<bool> allowed = false;
         Installer wizard;
         WindowUser user;
 
     private:
-        DesktopSystem systemFor(const Folders& folders, const std::string& name) const;
+        DesktopSystem systemFor(const Folders& folders, const std::string& name);
     };
 
     void visitToSuccess();
     void visitToFailure();
     void seeAgreement(Visit& visit);
     void seeProducts(Visit& visit);
-    void seeConfirmation(Visit& visit);
     void seePermission(Visit& visit);
     void seeLog(Visit& visit);
 

@@ -65,29 +65,32 @@ std::unique_ptr<Mounted> mount(View view, QWidget* parent, const Widgets& widget
     return mounted;
 }
 
-bool bringChildren(Mounted& mounted, std::vector<View> children, const Widgets& widgets)
+Change bringChildren(Mounted& mounted, std::vector<View> children, const Widgets& widgets)
 {
-    bool changed = mounted.children.size() > children.size();
+    Change most = mounted.children.size() > children.size() ? Change::room : Change::none;
     std::for_each(
         mounted.children.begin() + static_cast<std::ptrdiff_t>(std::min(mounted.children.size(), children.size())),
         mounted.children.end(), [](const auto& child) { retire(*child); });
     mounted.children.resize(children.size());
     for (std::size_t index = 0; index < children.size(); ++index) {
-        changed
-            = bring(mounted.children[index], std::move(children[index]), mounted.standing.widget, widgets) || changed;
+        most = std::max(
+            most, bring(mounted.children[index], std::move(children[index]), mounted.standing.widget, widgets));
     }
-    return changed;
+    return most;
 }
 
 /// Where only a view's contents differ its widget is told; where it stands is its parent's matter.
-bool change(Mounted& mounted, View view, const Widgets& widgets)
+Change change(Mounted& mounted, View view, const Widgets& widgets)
 {
-    const bool differs = mounted.shown != view;
-    if (differs) {
-        widgets.present(view, mounted.standing, nullptr);
-        mounted.shown = std::move(view);
+    if (mounted.shown == view) {
+        return Change::none;
     }
-    return differs;
+    widgets.present(view, mounted.standing, nullptr);
+    const View before = std::exchange(mounted.shown, std::move(view));
+    const bool asksForTheSame = before.frame == mounted.shown.frame && before.padding == mounted.shown.padding
+        && before.priority == mounted.shown.priority;
+    const bool hasOwnSize = mounted.standing.widget == nullptr || mounted.standing.sizes != nullptr;
+    return asksForTheSame && !hasOwnSize ? Change::looks : Change::room;
 }
 
 } // namespace
@@ -98,22 +101,22 @@ Slot Mounted::slot() const
     return {standing, gap != nullptr ? *gap : Gap{0, 0}, shown.frame, shown.padding, shown.priority};
 }
 
-bool bring(std::unique_ptr<Mounted>& mounted, View view, QWidget* parent, const Widgets& widgets)
+Change bring(std::unique_ptr<Mounted>& mounted, View view, QWidget* parent, const Widgets& widgets)
 {
     if (mounted == nullptr || !canStay(*mounted, view)) {
         if (mounted != nullptr) {
             retire(*mounted);
         }
         mounted = mount(std::move(view), parent, widgets);
-        return true;
+        return Change::room;
     }
     std::vector<View> children = takeChildren(view);
-    const bool differs = change(*mounted, std::move(view), widgets);
-    const bool childrenDiffer = bringChildren(*mounted, std::move(children), widgets);
-    if (differs || childrenDiffer) {
+    const Change own = change(*mounted, std::move(view), widgets);
+    const Change most = std::max(own, bringChildren(*mounted, std::move(children), widgets));
+    if (most == Change::room) {
         arrange(*mounted);
     }
-    return differs || childrenDiffer;
+    return most;
 }
 
 void retire(const Mounted& mounted)

@@ -36,10 +36,13 @@ void forEachMounted(const Mounted& mounted, const Visit& visit)
     }
 }
 
-/// Brings what is mounted to what `view` shows; true when anything at all had to be changed. A view stays the same
+/// What a redraw has changed: nothing, what is seen within the same room, or also how the room is shared out.
+enum class Change { none, looks, room };
+
+/// Brings what is mounted to what `view` shows. A view stays the same
 /// where the one at its place before was of the same kind and identity: its widget then keeps focus, selection and
 /// scroll position. An empty pointer is filled.
-bool bring(std::unique_ptr<Mounted>& mounted, View view, QWidget* parent, const Widgets& widgets);
+Change bring(std::unique_ptr<Mounted>& mounted, View view, QWidget* parent, const Widgets& widgets);
 
 /// Takes what is mounted from the screen. The widgets outlive the click that may have led here.
 void retire(const Mounted& mounted);

@@ -48,10 +48,13 @@ void ViewHost::redraw()
     }
     scheduled_ = false;
     focus_.remember();
-    if (bring(root_, body_(), this, widgets_)) {
-        changed_ = true;
+    const Change change = bring(root_, body_(), this, widgets_);
+    if (change == Change::room) {
         setLeastSize();
         layOut();
+    }
+    if (change != Change::none) {
+        changed_ = true;
         focus_.settle(*root_);
     }
 }
