@@ -1,9 +1,8 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
-#include <cstdint>
-#include <cstring>
 #include <string_view>
 
 namespace corvellane::rtf {
@@ -11,51 +10,22 @@ namespace corvellane::rtf {
 /// Which bytes a scan goes over.
 enum class TextBytes : bool { all, ascii };
 
-/// True for a byte that RTF takes as text: no control character but the tab, no backslash, no brace.
+/// By its code, whether RTF takes a byte as text: no control character but the tab, no backslash, no brace.
 template <TextBytes Kind>
-constexpr bool isTextByte(char byte)
-{
-    const auto code = static_cast<unsigned char>(byte);
-    return (code >= 0x20 || byte == '\t') && byte != '\\' && byte != '{' && byte != '}'
-        && (Kind == TextBytes::all || code < 0x80);
-}
-
-/// True when eight bytes, in any order, are all text. A false answer may be wrong.
-template <TextBytes Kind>
-constexpr bool isTextWord(std::uint64_t word)
-{
-    constexpr std::uint64_t ones = 0x0101010101010101U;
-    constexpr std::uint64_t highs = 0x8080808080808080U;
-    const auto holds = [](std::uint64_t bytes, std::uint64_t wanted) {
-        const std::uint64_t zeroWhereEqual = bytes ^ (ones * wanted);
-        return (zeroWhereEqual - ones) & ~zeroWhereEqual;
-    };
-    const std::uint64_t controls = (word - ones * 0x20) & ~word;
-    const std::uint64_t above = Kind == TextBytes::ascii ? word : 0;
-    return ((above | controls | holds(word, '\\') | holds(word, '{') | holds(word, '}')) & highs) == 0;
-}
+constexpr auto isTextByte = [] {
+    std::array<bool, 256> isText{};
+    std::fill(isText.begin() + ' ', Kind == TextBytes::all ? isText.end() : isText.begin() + 0x80, true);
+    isText['\t'] = true;
+    isText['\\'] = isText['{'] = isText['}'] = false;
+    return isText;
+}();
 
 /// How many bytes at the beginning are text.
 template <TextBytes Kind>
 std::size_t textLength(std::string_view bytes)
 {
-    std::size_t length = 0;
-    while (length < bytes.size()) {
-        std::uint64_t word = 0;
-        if (length + sizeof word <= bytes.size()) {
-            std::memcpy(&word, bytes.data() + length, sizeof word);
-            if (isTextWord<Kind>(word)) {
-                length += sizeof word;
-                continue;
-            }
-        }
-        for (const std::size_t end = std::min(length + sizeof word, bytes.size()); length < end; ++length) {
-            if (!isTextByte<Kind>(bytes[length])) {
-                return length;
-            }
-        }
-    }
-    return length;
+    const auto isText = [](char byte) { return isTextByte<Kind>[static_cast<unsigned char>(byte)]; };
+    return static_cast<std::size_t>(std::ranges::find_if_not(bytes, isText) - bytes.begin());
 }
 
 } // namespace corvellane::rtf

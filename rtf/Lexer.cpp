@@ -33,17 +33,18 @@ int hexDigit(char byte)
     return hexDigits[static_cast<unsigned char>(byte)];
 }
 
+std::string_view leadingLetters(std::string_view bytes)
+{
+    return {bytes.begin(), std::ranges::find_if_not(bytes, isLetter)};
+}
+
 /// What could follow a backslash: a word that the reader knows, or a byte in hexadecimal.
 bool startsControl(std::string_view bytes)
 {
     if (bytes.starts_with('\'')) {
         return bytes.size() > 2 && hexDigit(bytes[1]) >= 0 && hexDigit(bytes[2]) >= 0;
     }
-    std::size_t length = 0;
-    while (length < bytes.size() && isLetter(bytes[length])) {
-        ++length;
-    }
-    return findControlWord(bytes.substr(0, length)) != nullptr;
+    return findControlWord(leadingLetters(bytes)) != nullptr;
 }
 
 } // namespace
@@ -76,23 +77,20 @@ bool Lexer::lexToken()
         ++position_;
         return true;
     }
-    if (isTextByte<TextBytes::all>(byte)) {
-        lexText();
-        return true;
-    }
-    ++position_;
-    return false;
+    return lexText();
 }
 
-void Lexer::lexText()
+/// Steps over a byte that is none of the text.
+bool Lexer::lexText()
 {
     const std::string_view rest = bytes_.substr(position_);
     const std::size_t asciiLength = textLength<TextBytes::ascii>(rest);
     const std::size_t length = asciiLength + textLength<TextBytes::all>(rest.substr(asciiLength));
-    position_ += length;
+    position_ += std::max<std::size_t>(length, 1);
     token_.kind = Token::Kind::text;
     token_.ascii = length == asciiLength;
     token_.text = rest.substr(0, length);
+    return length != 0;
 }
 
 bool Lexer::lexControl()
@@ -110,12 +108,9 @@ bool Lexer::lexControl()
 
 void Lexer::lexWord()
 {
-    const std::size_t begin = position_;
-    while (position_ < bytes_.size() && isLetter(bytes_[position_])) {
-        ++position_;
-    }
     token_.kind = Token::Kind::word;
-    token_.text = bytes_.substr(begin, position_ - begin);
+    token_.text = leadingLetters(bytes_.substr(position_));
+    position_ += token_.text.size();
     lexParameter();
     if (at(0, ' ')) {
         ++position_;

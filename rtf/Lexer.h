@@ -56,7 +56,7 @@ public:
 private:
     bool lexToken();
     bool lexControl();
-    void lexText();
+    bool lexText();
     void lexWord();
     void lexSymbol();
     bool lexBytes();
