@@ -5,6 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <array>
 #include <string_view>
 
 namespace corvellane {
@@ -12,82 +13,33 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-std::string_view nameOf(rtf::Alignment kind)
+/// What the report calls each enumerator in their order; nothing for what goes without saying.
+template <typename Kind>
+constexpr auto names = std::array<std::string_view, 0>();
+template <>
+constexpr auto names<rtf::Alignment> = std::to_array<std::string_view>({"", "left", "right", "centre", "justified"});
+template <>
+constexpr auto names<rtf::LineHeight::Kind> = std::to_array<std::string_view>({"", "multiple", "atLeast", "exactly"});
+template <>
+constexpr auto names<rtf::TabKind> = std::to_array<std::string_view>({"left", "centre", "right", "decimal"});
+template <>
+constexpr auto names<rtf::VerticalPosition> = std::to_array<std::string_view>({"", "super", "sub"});
+template <>
+constexpr auto names<rtf::Capitals> = std::to_array<std::string_view>({"", "small", "all"});
+
+/// Compilers write a value that no enumerator has as a number behind its type in brackets.
+template <auto Value>
+constexpr bool isEnumerator()
 {
-    using enum rtf::Alignment;
-    switch (kind) {
-    case natural:
-        break;
-    case left:
-        return "left";
-    case right:
-        return "right";
-    case centre:
-        return "centre";
-    case justified:
-        return "justified";
-    }
-    return {};
+    return std::string_view(__PRETTY_FUNCTION__).find("Value = (") == std::string_view::npos;
 }
 
-std::string_view nameOf(rtf::LineHeight::Kind kind)
+template <typename Kind>
+std::string_view nameOf(Kind kind)
 {
-    using enum rtf::LineHeight::Kind;
-    switch (kind) {
-    case natural:
-        break;
-    case multiple:
-        return "multiple";
-    case atLeast:
-        return "atLeast";
-    case exactly:
-        return "exactly";
-    }
-    return {};
-}
-
-std::string_view nameOf(rtf::TabKind kind)
-{
-    using enum rtf::TabKind;
-    switch (kind) {
-    case left:
-        return "left";
-    case centre:
-        return "centre";
-    case right:
-        return "right";
-    case decimal:
-        return "decimal";
-    }
-    return {};
-}
-
-std::string_view nameOf(rtf::VerticalPosition kind)
-{
-    using enum rtf::VerticalPosition;
-    switch (kind) {
-    case normal:
-        break;
-    case superscript:
-        return "super";
-    case subscript:
-        return "sub";
-    }
-    return {};
-}
-
-std::string_view nameOf(rtf::Capitals kind)
-{
-    using enum rtf::Capitals;
-    switch (kind) {
-    case asTyped:
-        break;
-    case small:
-        return "small";
-    case all:
-        return "all";
-    }
-    return {};
+    constexpr std::size_t count = names<Kind>.size();
+    static_assert(isEnumerator<static_cast<Kind>(count - 1)>() && !isEnumerator<static_cast<Kind>(count)>());
+    return names<Kind>.at(static_cast<std::size_t>(kind));
 }
 
 std::string colorName(const std::optional<rtf::Color>& color)
@@ -213,12 +165,6 @@ int reportAgreement(const Files& files, const std::string& path, AgreementForm f
         console.print(report);
     }
     return 0;
-}
-
-std::optional<std::string> agreementProblem(const Files& files, const std::string& path)
-{
-    const auto agreement = readAgreement(files, path);
-    return agreement ? std::nullopt : std::optional(agreement.error().message);
 }
 
 } // namespace corvellane

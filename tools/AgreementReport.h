@@ -3,7 +3,6 @@
 #include "rtf/AttributedText.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 
 namespace corvellane {
@@ -33,8 +32,5 @@ enum class AgreementForm : std::uint8_t { json, plainText };
 
 /// Prints the agreement in the file in that form, or the reader's message when there is none. The exit code: 0 or 1.
 int reportAgreement(const Files& files, const std::string& path, AgreementForm form, Console& console);
-
-/// The reader's message when the file is missing, unreadable or malformed.
-std::optional<std::string> agreementProblem(const Files& files, const std::string& path);
 
 } // namespace corvellane

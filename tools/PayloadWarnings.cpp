@@ -1,9 +1,9 @@
 #include "tools/PayloadWarnings.h"
 
+#include "agreement/Document.h"
 #include "base/PathNames.h"
 #include "install/ElementKind.h"
 #include "install/ScriptEscapes.h"
-#include "tools/AgreementReport.h"
 #include "tools/PrintableText.h"
 
 #include <algorithm>
@@ -129,11 +129,10 @@ PayloadWarnings warnAboutAgreement(const Files& files, const std::string& produc
     if (name != "resources" && name != "Resources") {
         return {};
     }
-    const fs::path agreement = folder / "CorvellaneEULA.rtf";
-    if (const auto problem = agreementProblem(files, agreement)) {
-        return {{agreement, "is no agreement to show: " + *problem}};
-    }
-    return {};
+    const fs::path path = folder / "CorvellaneEULA.rtf";
+    const auto agreement = readAgreement(files, path);
+    return agreement ? PayloadWarnings()
+                     : PayloadWarnings{{path, "is no agreement to show: " + agreement.error().message}};
 }
 
 PayloadWarnings warnAboutMissingElements(const std::string& product, const std::vector<std::string>& elements)
