@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <map>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -60,6 +61,36 @@ private:
     std::array<char32_t, 256> singles_{};
     /// By both bytes of a pair, the first being the high one; 0 where not yet known. Empty until the first pair.
     std::vector<char32_t> pairs_;
+};
+
+/// The code pages of a document, each opened when it is first asked for.
+class CodePages {
+public:
+    /// Null for a page that cannot be had.
+    CodePage* find(int number)
+    {
+        const auto [place, isNew] = pages_.try_emplace(number);
+        if (isNew) {
+            place->second = CodePage::open(number);
+        }
+        return place->second.get();
+    }
+
+    /// The page, or else the second one, or else ASCII.
+    CodePage& findOr(int number, int substitute)
+    {
+        for (const int candidate : {number, substitute}) {
+            if (CodePage* const page = find(candidate)) {
+                return *page;
+            }
+        }
+        return ascii_;
+    }
+
+private:
+    std::map<int, std::unique_ptr<CodePage>> pages_;
+    CodePage ascii_{
+        U" !\"#$%&'()*+,-./0123456789:;<=>?@ABCDEFGHIJKLMNOPQRSTUVWXYZ[\\]^_`abcdefghijklmnopqrstuvwxyz{|}~"};
 };
 
 /// The pages of the Symbol and Wingdings fonts, beside those of the system.

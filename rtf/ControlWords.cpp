@@ -1,7 +1,6 @@
 #include "rtf/ControlWords.h"
 
-#include "rtf/FormatActions.h"
-#include "rtf/TextActions.h"
+#include "rtf/Actions.h"
 
 #include <algorithm>
 #include <array>

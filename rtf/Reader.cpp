@@ -1,8 +1,8 @@
 #include "rtf/Reader.h"
 
+#include "rtf/Actions.h"
 #include "rtf/ControlWords.h"
 #include "rtf/Lexer.h"
-#include "rtf/TextActions.h"
 #include "rtf/Writer.h"
 
 #include <algorithm>

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "rtf/CodePages.h"
+#include "rtf/CodePage.h"
 #include "rtf/ColorTable.h"
 #include "rtf/FontTable.h"
-#include "rtf/GroupStack.h"
 #include "rtf/State.h"
 #include "rtf/TextBuilder.h"
 #include "rtf/TextDecoder.h"

@@ -1,5 +1,5 @@
 #include "rtf/CodePage.h"
-#include "rtf/CodePages.h"
+#include "rtf/CodePage.h"
 #include "rtf/TextDecoder.h"
 
 #include <gtest/gtest.h>
