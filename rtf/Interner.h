@@ -2,11 +2,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <functional>
 #include <string_view>
 #include <type_traits>
-#include <unordered_map>
 #include <vector>
 
 namespace corvellane::rtf {
@@ -19,11 +17,15 @@ class Interner {
 public:
     std::uint32_t index(const Value& value)
     {
-        const auto [place, isNew] = indices_.try_emplace(value, static_cast<std::uint32_t>(values_.size()));
-        if (isNew) {
-            values_.push_back(value);
+        if (values_.size() * 2 >= slots_.size()) {
+            grow();
         }
-        return place->second;
+        std::uint32_t& slot = slotOf(value);
+        if (slot == 0) {
+            values_.push_back(value);
+            slot = static_cast<std::uint32_t>(values_.size());
+        }
+        return slot - 1;
     }
 
     const Value& operator[](std::uint32_t index) const { return values_[index]; }
@@ -31,15 +33,31 @@ public:
     const std::vector<Value>& values() const { return values_; }
 
 private:
-    struct Hash {
-        std::size_t operator()(const Value& value) const
-        {
-            return std::hash<std::string_view>()({reinterpret_cast<const char*>(&value), sizeof value});
-        }
-    };
+    static std::string_view bytesOf(const Value& value)
+    {
+        return {reinterpret_cast<const char*>(&value), sizeof value};
+    }
 
-    std::unordered_map<Value, std::uint32_t, Hash> indices_;
+    std::uint32_t& slotOf(const Value& value)
+    {
+        std::size_t place = std::hash<std::string_view>()(bytesOf(value)) & (slots_.size() - 1);
+        while (slots_[place] != 0 && bytesOf(values_[slots_[place] - 1]) != bytesOf(value)) {
+            place = (place + 1) & (slots_.size() - 1);
+        }
+        return slots_[place];
+    }
+
+    void grow()
+    {
+        slots_.assign(slots_.empty() ? 64 : slots_.size() * 2, 0);
+        for (std::uint32_t index = 0; index < values_.size(); ++index) {
+            slotOf(values_[index]) = index + 1;
+        }
+    }
+
     std::vector<Value> values_;
+    /// 1 + the index of a value, 0 for a free slot; the size is a power of two.
+    std::vector<std::uint32_t> slots_;
 };
 
 } // namespace corvellane::rtf

@@ -29,8 +29,6 @@ struct CharacterState {
     VerticalPosition script = VerticalPosition::normal;
     Capitals capitals = Capitals::asTyped;
     std::uint8_t padding = 0;
-
-    bool operator==(const CharacterState&) const = default;
 };
 
 /// The paragraph formatting in effect, lengths in twips.
@@ -48,8 +46,6 @@ struct ParagraphState {
     bool lineIsMultiple = false;
     bool pageBreakBefore = false;
     bool inTable = false;
-
-    bool operator==(const ParagraphState&) const = default;
 };
 
 /// A tab stop in twips; chained as the TabStop it becomes.
@@ -60,8 +56,6 @@ struct TabState {
     std::uint8_t padding = 0;
     /// How many stops the chain has up to this one.
     std::uint16_t count = 1;
-
-    bool operator==(const TabState&) const = default;
 };
 
 /// Where the text of a group goes.
