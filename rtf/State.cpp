@@ -33,7 +33,7 @@ LineHeight lineHeight(const ParagraphState& state)
 
 TextAttributes textAttributes(const CharacterState& state)
 {
-    TextAttributes attributes{
+    return {
         .family = static_cast<std::uint32_t>(state.font),
         .size = state.size / 2.0,
         .bold = state.bold,
@@ -45,12 +45,8 @@ TextAttributes textAttributes(const CharacterState& state)
         .script = state.script,
         .baselineOffset = state.offset / 2.0,
         .capitals = state.capitals,
-        .link = std::nullopt,
+        .link = state.link != 0 ? std::optional(state.link - 1) : std::nullopt,
     };
-    if (state.link != 0) {
-        attributes.link = state.link - 1;
-    }
-    return attributes;
 }
 
 ParagraphFormat paragraphFormat(const ParagraphState& state)

@@ -1,5 +1,4 @@
 #include "rtf/CodePage.h"
-#include "rtf/CodePage.h"
 #include "rtf/TextDecoder.h"
 
 #include <gtest/gtest.h>
