@@ -20,6 +20,9 @@ QString nameOf(const QLocale& language)
 
 Translations::Translations(const std::string& folder, const QLocale& locale)
 {
+    if (folder.empty()) {
+        return; // Qt would look in the working directory
+    }
     for (const QString& tag : locale.uiLanguages()) {
         const QLocale language(tag);
         if (language.language() == QLocale::English || language.language() == QLocale::C || !translators_.empty()) {

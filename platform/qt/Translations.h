@@ -14,7 +14,8 @@ namespace corvellane {
 /// "Installer" and stays as written without an entry. Main thread.
 class Translations {
 public:
-    /// Installs the table of the first of the locale's languages that has one; none once English comes first.
+    /// Installs the table of the first of the locale's languages that has one; none once English comes first, and none
+    /// where the folder is empty.
     Translations(const std::string& folder, const QLocale& locale);
 
 private:

@@ -82,6 +82,8 @@ TEST(Translations, takesTheTableOfTheSystemsLanguage)
         const Translations translations(TRANSLATIONS, QLocale(QString::fromLatin1(locale)));
         EXPECT_EQ(QCoreApplication::translate("Installer", "Next").toStdString(), next) << locale;
     }
+    QDir::setCurrent(TRANSLATIONS);
+    const Translations nowhere("", QLocale(QLocale::German));
     EXPECT_EQ(QCoreApplication::translate("Installer", "Next"), QStringLiteral("Next"));
 }
 
