@@ -6,6 +6,7 @@
 #include <QThread>
 
 #include <atomic>
+#include <cassert>
 #include <utility>
 
 namespace corvellane {
@@ -65,13 +66,14 @@ std::shared_ptr<WaitGroup> QtDispatcher::makeWaitGroup()
 /// The event loop's own quitting would not end this loop: a program that is told to end while it waits ends afterwards.
 void QtDispatcher::waitFor(const Group& group)
 {
-    const bool waitedBefore = std::exchange(waiting_, true);
+    assert(!waiting_);
+    waiting_ = true;
     unsettled_ = true;
     observer_.begins();
     while (!group.isEmpty()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
-    waiting_ = waitedBefore;
+    waiting_ = false;
     observer_.ends();
     callMain();
 }
