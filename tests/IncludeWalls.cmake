@@ -48,8 +48,8 @@ set(may_use_json tools)
 set(is_posix "[./]")
 set(may_use_posix platform/posix platform/linux platform/osascript helper)
 
-# Names that no header gives away: of Linux's file system, and of what only its C library has.
-set(linux_names "\"/proc/|_np\\(|pipe2\\(|SOCK_CLOEXEC")
+# Names that no header gives away: of Linux's file system, and of what POSIX's C library need not have.
+set(linux_names "\"/proc/|_np\\(|pipe2\\(|SOCK_CLOEXEC|DT_[A-Z]")
 
 function(check_outside file folder header)
     foreach(kind IN LISTS kinds)

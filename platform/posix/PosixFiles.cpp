@@ -3,21 +3,17 @@
 #include "base/PathNames.h"
 #include "platform/posix/FileDescriptor.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <memory>
-#include <string_view>
+#include <filesystem>
 
 namespace corvellane {
 namespace {
 
-struct CloseFolder {
-    void operator()(DIR* folder) const { closedir(folder); }
-};
+namespace fs = std::filesystem;
 
 Unexpected cannotOpen(const std::string& path, int error)
 {
@@ -41,23 +37,11 @@ Unexpected cannotList(const std::string& folder, int error)
     return cannotOpen(folder, error);
 }
 
-/// What the entry's record does not tell is asked of the file itself.
-std::optional<bool> isFolder(DIR* folder, const dirent& entry)
+std::optional<bool> isFolder(const fs::directory_entry& entry)
 {
-    if (entry.d_type != DT_UNKNOWN) {
-        return entry.d_type == DT_DIR;
-    }
-    struct stat status{};
-    const int descriptor = dirfd(folder);
-    if (descriptor < 0 || fstatat(descriptor, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
-        return std::nullopt;
-    }
-    return S_ISDIR(status.st_mode);
-}
-
-bool isOwnOrParentFolder(std::string_view name)
-{
-    return name == "." || name == "..";
+    std::error_code error;
+    const bool isFolder = !entry.is_symlink(error) && entry.is_directory(error);
+    return error ? std::nullopt : std::optional(isFolder);
 }
 
 /// Fills `bytes` as far as the file goes; an error number, or 0.
@@ -82,25 +66,16 @@ int fill(const FileDescriptor& file, std::string& bytes)
 
 Expected<std::vector<FolderEntry>> PosixFiles::list(const std::string& folder) const
 {
-    const std::unique_ptr<DIR, CloseFolder> handle(opendir(folder.c_str()));
-    if (handle == nullptr) {
-        return cannotList(folder, errno);
-    }
-    const std::string base = folder.ends_with('/') ? folder : folder + '/';
     std::vector<FolderEntry> entries;
-    errno = 0;
-    while (const dirent* entry = readdir(handle.get())) {
-        if (!isOwnOrParentFolder(entry->d_name)) {
-            entries.push_back({base + entry->d_name, isFolder(handle.get(), *entry)});
-        }
-        errno = 0;
+    std::error_code error;
+    fs::directory_iterator entry(folder, error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        entries.push_back({entry->path().native(), isFolder(*entry)});
     }
-    if (errno != 0) {
-        return cannotList(folder, errno);
+    if (error) {
+        return cannotList(folder, error.value());
     }
-    std::ranges::sort(entries, [&](const FolderEntry& left, const FolderEntry& right) {
-        return left.path.compare(base.size(), std::string::npos, right.path, base.size()) < 0;
-    });
+    std::ranges::sort(entries, {}, &FolderEntry::path);
     return entries;
 }
 
