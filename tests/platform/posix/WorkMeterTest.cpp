@@ -1,7 +1,10 @@
 #include "platform/posix/WorkMeter.h"
 
+#include "install/InstallScript.h"
+#include "platform/script/Parser.h"
 #include "tests/ScratchFolder.h"
 
+#include <algorithm>
 #include <thread>
 
 namespace corvellane {
@@ -91,6 +94,18 @@ TEST_F(WorkMeterTest, countsCopiesByTheirBytesAndWhatTheyHaveWritten)
     std::filesystem::remove_all(scratch.path() + "/to/Large \"$\".plugin");
     meter.start(0);
     expectPart(0.5, "the contents of a folder go into the target itself");
+}
+
+TEST_F(WorkMeterTest, knowsTheCopiesOfAnInstallation)
+{
+    const std::string to = scratch.path() + "/to/";
+    const auto script = script::parse(composeInstallScript(
+        {to, to, to, to}, {scratch.path() + "/from/a/Small.plugin", scratch.path() + "/from/b/Large \"$\".plugin"}));
+    meter.begin(script->privilegedCommands);
+    const auto large = std::ranges::find_if(script->privilegedCommands,
+        [](const std::string& command) { return command.find("/from/b/") != std::string::npos; });
+    meter.start(static_cast<std::size_t>(large - script->privilegedCommands.begin()));
+    expectPart(0.25);
 }
 
 } // namespace
