@@ -8,7 +8,7 @@ namespace corvellane {
 
 namespace {
 
-constexpr int longestWait = 1000; // milliseconds
+constexpr int longestWait = 250; // milliseconds
 
 /// Told apart here because a search for a bus that is not there may start a new one.
 bool hasSessionBus()

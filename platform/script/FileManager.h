@@ -7,7 +7,7 @@ class FileManager {
 public:
     virtual ~FileManager() = default;
 
-    /// Whether it answers requests of this program. May take up to a second. Any thread.
+    /// Whether it answers requests of this program. May take up to a quarter of a second. Any thread.
     virtual bool acceptsRequests() = 0;
 };
 
