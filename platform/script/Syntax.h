@@ -84,8 +84,8 @@ struct Statement {
 /// A compiled script.
 struct SyntaxTree {
     Block statements;
-    /// The texts of the commands with administrator privileges, in the order they run in; empty for one that is more
-    /// than a literal.
+    /// The texts of the commands with administrator privileges, in the order of the script, error branches
+    /// included; empty for one that is more than a literal.
     std::vector<std::string> privilegedCommands;
 };
 
