@@ -1,5 +1,6 @@
 #include "platform/posix/QueueDispatcher.h"
 
+#include <atomic>
 #include <utility>
 
 namespace corvellane {
@@ -8,29 +9,23 @@ namespace {
 /// Blocks the thread that waits: there is no window to keep alive.
 class BlockingWaitGroup : public WaitGroup {
 public:
-    void enter() override
-    {
-        const std::lock_guard lock(mutex_);
-        ++inside_;
-    }
+    void enter() override { ++inside_; }
 
     void leave() override
     {
-        const std::lock_guard lock(mutex_);
         --inside_;
-        changed_.notify_all();
+        inside_.notify_all();
     }
 
     void wait() override
     {
-        std::unique_lock lock(mutex_);
-        changed_.wait(lock, [this] { return inside_ == 0; });
+        while (const int inside = inside_) {
+            inside_.wait(inside);
+        }
     }
 
 private:
-    std::mutex mutex_;
-    std::condition_variable changed_;
-    int inside_ = 0;
+    std::atomic<int> inside_ = 0;
 };
 
 } // namespace
