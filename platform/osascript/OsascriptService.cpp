@@ -8,7 +8,6 @@
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <csignal>
 #include <string_view>
 #include <utility>
 
@@ -81,8 +80,6 @@ public:
 
     ScriptExecution execute() override
     {
-        // A command that ends before it has read the whole script must not end this program.
-        std::signal(SIGPIPE, SIG_IGN);
         Streams streams;
         const auto child = start(command_, streams);
         if (!child) {

@@ -1,5 +1,6 @@
 #include "platform/osascript/OsascriptService.h"
 
+#include "platform/posix/ProcessSetup.h"
 #include "tests/ScratchFolder.h"
 
 #include <gtest/gtest.h>
@@ -10,6 +11,8 @@ namespace {
 /// Scripts are handed to a stand-in for the command: a shell script of the test's own.
 class OsascriptServiceTest : public testing::Test {
 protected:
+    OsascriptServiceTest() { setUpProcess(); }
+
     ScriptExecution execute(const std::string& standIn, const std::string& source)
     {
         scratch.write("osascript", "#!/bin/sh\n[ \"$*\" = - ] || exit 9\n" + standIn + "\n");
