@@ -8,19 +8,6 @@
 #include "platform/script/InterpretedScriptService.h"
 
 namespace corvellane {
-namespace {
-
-/// The service and what it refers to.
-struct Scripts {
-    std::shared_ptr<script::Shell> shell;
-    std::shared_ptr<script::AdministratorPrompt> prompt;
-    std::shared_ptr<script::FileManager> fileManager;
-    std::shared_ptr<StandardFolders> folders;
-    std::shared_ptr<WorkMeter> meter;
-    script::InterpretedScriptService service{{*shell, *prompt, *fileManager, *folders, *meter}};
-};
-
-} // namespace
 
 void System::addServicesOfItsOwn()
 {
@@ -37,8 +24,8 @@ void System::addServicesOfItsOwn()
 
 std::shared_ptr<ScriptService> System::makeScripts() const
 {
-    const auto made = std::make_shared<Scripts>(Scripts{shell, prompt, fileManager, folders, meter});
-    return {made, &made->service};
+    return std::make_shared<script::InterpretedScriptService>(
+        script::Host{shell, prompt, fileManager, folders, meter});
 }
 
 } // namespace corvellane

@@ -27,7 +27,7 @@ namespace fs = std::filesystem;
 
 std::string runnerPath;
 
-std::unique_ptr<script::Shell> runner()
+std::shared_ptr<script::Shell> runner()
 {
     auto shell = PkexecPrompt(runnerPath).authorize();
     if (!shell) {

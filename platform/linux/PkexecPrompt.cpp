@@ -91,7 +91,7 @@ Channel makeChannel()
 
 } // namespace
 
-Expected<std::unique_ptr<script::Shell>> PkexecPrompt::authorize()
+Expected<std::shared_ptr<script::Shell>> PkexecPrompt::authorize()
 {
     std::error_code error;
     const std::string runner = std::filesystem::canonical(runner_, error);
@@ -116,7 +116,7 @@ Expected<std::unique_ptr<script::Shell>> PkexecPrompt::authorize()
     channel.theirs.close();
     complaints.writeEnd.close();
     if (runnerComesUp(channel.ours)) {
-        return std::make_unique<RunnerShell>(std::move(channel.ours), *child);
+        return std::make_shared<RunnerShell>(std::move(channel.ours), *child);
     }
     channel.ours.close();
     const int status = exitStatusOf(*child);

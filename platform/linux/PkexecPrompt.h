@@ -25,7 +25,7 @@ public:
     {
     }
 
-    Expected<std::unique_ptr<script::Shell>> authorize() override;
+    Expected<std::shared_ptr<script::Shell>> authorize() override;
 
 private:
     std::string runner_;

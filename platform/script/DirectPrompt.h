@@ -15,21 +15,9 @@ public:
     {
     }
 
-    Expected<std::unique_ptr<Shell>> authorize() override { return std::make_unique<SameShell>(shell_); }
+    Expected<std::shared_ptr<Shell>> authorize() override { return shell_; }
 
 private:
-    class SameShell : public Shell {
-    public:
-        explicit SameShell(std::shared_ptr<Shell> shell)
-            : shell_(std::move(shell))
-        {
-        }
-        Expected<CommandResult> run(const std::string& command) override { return shell_->run(command); }
-
-    private:
-        std::shared_ptr<Shell> shell_;
-    };
-
     std::shared_ptr<Shell> shell_;
 };
 

@@ -1,6 +1,5 @@
 #include "platform/script/ErrorInformation.h"
 
-#include <algorithm>
 #include <string_view>
 
 namespace corvellane::script {
@@ -8,10 +7,8 @@ namespace {
 
 bool isPlain(std::string_view value)
 {
-    return !value.empty() && std::ranges::all_of(value, [](char character) {
-        return (character >= '0' && character <= '9') || (character >= 'a' && character <= 'z')
-            || (character >= 'A' && character <= 'Z');
-    });
+    return !value.empty()
+        && value.find_first_not_of("0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz") == value.npos;
 }
 
 std::string quoted(std::string_view value)

@@ -9,8 +9,8 @@ namespace {
 
 class InterpretedScript : public Script {
 public:
-    InterpretedScript(const Host& host, std::string source)
-        : host_(host)
+    InterpretedScript(Host host, std::string source)
+        : host_(std::move(host))
         , source_(std::move(source))
     {
     }

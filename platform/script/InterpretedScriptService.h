@@ -3,6 +3,8 @@
 #include "platform/ScriptService.h"
 #include "platform/script/Interpreter.h"
 
+#include <utility>
+
 namespace corvellane::script {
 
 /// The script service of systems that have none of their own: compiles and interprets the language of the install
@@ -10,8 +12,8 @@ namespace corvellane::script {
 /// error information and no result.
 class InterpretedScriptService : public ScriptService {
 public:
-    explicit InterpretedScriptService(const Host& host)
-        : host_(host)
+    explicit InterpretedScriptService(Host host)
+        : host_(std::move(host))
     {
     }
 

@@ -114,7 +114,7 @@ private:
             return tl::unexpected(
                 LocatedFailure{{"Can’t get application \"" + name + "\".", error_number::cannotGetObject}, range});
         }
-        if (!host_.fileManager.acceptsRequests()) {
+        if (!host_.fileManager->acceptsRequests()) {
             return tl::unexpected(
                 LocatedFailure{{"Not authorized to send Apple events to Finder.", error_number::notAuthorized}, range});
         }
@@ -141,7 +141,7 @@ private:
 
     Evaluation evaluateForm(const PathToApplicationSupport&)
     {
-        const auto paths = host_.folders.searchPaths(SearchDirectory::applicationSupport, SearchDomain::local);
+        const auto paths = host_.folders->searchPaths(SearchDirectory::applicationSupport, SearchDomain::local);
         return paths.empty() ? std::string() : paths.front();
     }
 
@@ -165,10 +165,10 @@ private:
             return tl::unexpected(text.error());
         }
         if (!command.privileged) {
-            return host_.shell.run(*text).and_then(valueOf);
+            return host_.shell->run(*text).and_then(valueOf);
         }
         return administratorShell().and_then([&](Shell* shell) {
-            host_.progress.start(*command.privileged);
+            host_.progress->start(*command.privileged);
             return shell->run(*text).and_then(valueOf);
         });
     }
@@ -176,7 +176,7 @@ private:
     Expected<Shell*> administratorShell()
     {
         if (administratorShell_ == nullptr) {
-            auto shell = host_.prompt.authorize();
+            auto shell = host_.prompt->authorize();
             if (!shell) {
                 return tl::unexpected(std::move(shell.error()));
             }
@@ -187,7 +187,7 @@ private:
 
     const Host& host_;
     std::map<std::string, Value> variables_;
-    std::unique_ptr<Shell> administratorShell_;
+    std::shared_ptr<Shell> administratorShell_;
     bool isReturning_ = false;
 };
 
@@ -206,9 +206,9 @@ std::optional<std::string> asText(const Value& value)
 
 Expected<Value, LocatedFailure> run(const SyntaxTree& script, const Host& host)
 {
-    host.progress.begin(script.privilegedCommands);
+    host.progress->begin(script.privilegedCommands);
     Execution execution = Interpreter(host).run(script.statements);
-    host.progress.end();
+    host.progress->end();
     return execution;
 }
 

@@ -3,6 +3,7 @@
 #include "platform/script/Syntax.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <variant>
@@ -20,11 +21,11 @@ class Shell;
 
 /// What a running script can reach.
 struct Host {
-    Shell& shell;
-    AdministratorPrompt& prompt;
-    FileManager& fileManager;
-    const StandardFolders& folders;
-    Progress& progress;
+    std::shared_ptr<Shell> shell;
+    std::shared_ptr<AdministratorPrompt> prompt;
+    std::shared_ptr<FileManager> fileManager;
+    std::shared_ptr<const StandardFolders> folders;
+    std::shared_ptr<Progress> progress;
 };
 
 /// Nothing, a text or an integer.

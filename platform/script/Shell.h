@@ -34,7 +34,7 @@ public:
 
     /// A shell whose commands run with administrator rights, for one run of one script; or why there is none. A
     /// person who declines is `error_number::userCanceled`.
-    virtual Expected<std::unique_ptr<Shell>> authorize() = 0;
+    virtual Expected<std::shared_ptr<Shell>> authorize() = 0;
 };
 
 } // namespace corvellane::script

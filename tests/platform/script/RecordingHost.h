@@ -15,7 +15,12 @@ namespace corvellane::script {
 /// What scripts run against in tests: what happens is recorded, and no command is run.
 class RecordingHost : AdministratorPrompt, FileManager, Progress {
 public:
-    Host host() { return {shell_, *this, *this, folders_, *this}; }
+    /// Outlived by this.
+    Host host()
+    {
+        const std::shared_ptr<void> nobody;
+        return {{nobody, &shell_}, {nobody, this}, {nobody, this}, {nobody, &folders_}, {nobody, this}};
+    }
 
     /// A command that is not here succeeds and prints nothing.
     std::map<std::string, CommandResult> results;
@@ -40,13 +45,13 @@ private:
         std::string prefix;
     };
 
-    Expected<std::unique_ptr<Shell>> authorize() override
+    Expected<std::shared_ptr<Shell>> authorize() override
     {
         journal.emplace_back("prompt");
         if (declines) {
             return Unexpected({"User canceled.", error_number::userCanceled});
         }
-        return std::make_unique<RecordingShell>(*this, "sudo ");
+        return std::make_shared<RecordingShell>(*this, "sudo ");
     }
 
     bool acceptsRequests() override { return fileManagerAnswers; }
