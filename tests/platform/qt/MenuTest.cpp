@@ -1,5 +1,7 @@
 #include "platform/qt/QtApplication.h"
 
+#include "platform/Menu.h"
+
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
