@@ -4,12 +4,24 @@
 #include "app/WaitingWindow.h"
 #include "platform/Resources.h"
 #include "platform/qt/QtApplication.h"
+#include "platform/qt/QtDispatcher.h"
+#include "platform/qt/QtPasteboard.h"
 
 #include <QApplication>
 
 #include <utility>
 
 namespace corvellane {
+
+DesktopSystem::DesktopSystem()
+    : qtApplication(std::make_shared<QtApplication>())
+    , qtDispatcher(std::make_shared<QtDispatcher>())
+{
+    application = qtApplication;
+    dispatcher = qtDispatcher;
+    pasteboard = std::make_shared<QtPasteboard>();
+    addDesktopOfItsOwn();
+}
 
 Installer::Installer(DesktopSystem system, const std::string& translations)
     : system_(std::move(system))

@@ -27,7 +27,7 @@ struct System {
     std::shared_ptr<Resources> resources;
     std::shared_ptr<Workspace> workspace;
 
-    /// What scripts reach where the system has no script service of its own.
+    /// What scripts reach where the system has no script service of its own; elsewhere there is no shell and no prompt.
     std::shared_ptr<script::Shell> shell;
     std::shared_ptr<script::AdministratorPrompt> prompt;
     std::shared_ptr<script::FileManager> fileManager;

@@ -24,8 +24,7 @@ void System::addServicesOfItsOwn()
 
 std::shared_ptr<ScriptService> System::makeScripts() const
 {
-    return std::make_shared<script::InterpretedScriptService>(
-        script::Host{shell, prompt, fileManager, folders, meter});
+    return std::make_shared<script::InterpretedScriptService>(script::Host{shell, prompt, fileManager, folders, meter});
 }
 
 } // namespace corvellane

@@ -1,6 +1,7 @@
 #include "tools/Rehearsal.h"
 
 #include "platform/Resources.h"
+#include "platform/ScriptService.h"
 #include "platform/posix/PosixStandardFolders.h"
 #include "platform/script/DirectPrompt.h"
 
@@ -33,13 +34,31 @@ private:
     std::string productsFolder_;
 };
 
+/// Runs none.
+struct RefusedScripts : ScriptService {
+    struct Refused : Script {
+        ScriptExecution execute() override
+        {
+            return {ScriptExecution::Value{"Nothing has been installed: on this system scripts run by a service of its "
+                                           "own, which would ask for a password."},
+                std::nullopt};
+        }
+    };
+
+    std::unique_ptr<Script> create(std::string) override { return std::make_unique<Refused>(); }
+};
+
 } // namespace
 
 void makeRehearsal(System& system, const std::string& productsFolder, const std::string& into)
 {
     system.resources = std::make_shared<RehearsalResources>(productsFolder);
     system.folders = std::make_shared<PosixStandardFolders>(into);
-    system.prompt = std::make_shared<script::DirectPrompt>(system.shell);
+    if (system.shell == nullptr) {
+        system.scripts = std::make_shared<RefusedScripts>();
+    } else {
+        system.prompt = std::make_shared<script::DirectPrompt>(system.shell);
+    }
     const System windowless;
     system.workspace = windowless.workspace;
     system.fileManager = windowless.fileManager;

@@ -12,6 +12,9 @@ namespace corvellane {
 /// maker keeps it, the host folders below a scratch folder; nobody is asked for a password, nothing is opened, and no
 /// file manager takes requests. What is installed really is, by the present user. Both folders are absolute paths
 /// without a trailing "/"; `into` may be empty, which leaves the host folders where the system has them.
+///
+/// Where the system has a script service of its own, which would ask for a password, every installation fails and says
+/// so.
 void makeRehearsal(System& system, const std::string& productsFolder, const std::string& into);
 
 /// The installer's own state on a rehearsal's services, without a window.

@@ -2,8 +2,9 @@
 #include "platform/Resources.h"
 #include "platform/ScriptService.h"
 #include "tests/ScratchFolder.h"
+#include "tools/Rehearsal.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <mach-o/dyld.h>
 
@@ -25,6 +26,14 @@ TEST(OtherSystem, runsScriptsByItsOwnServiceAndFindsItsBundle)
         "/usr/bin/osascript could not be started");
     runningProgram = "/gone";
     EXPECT_EQ(System().resources->folder("Products"), std::nullopt);
+}
+
+TEST(OtherSystem, refusesToRehearseWhereThatWouldAskForAPassword)
+{
+    System system;
+    makeRehearsal(system, "/Products", "/into");
+    const ScriptExecution execution = system.platform().scripts.create("return 1")->execute();
+    EXPECT_THAT(execution.result.value().text.value(), testing::HasSubstr("Nothing has been installed"));
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "platform/qt/QtWorkspace.h"
+#include "platform/qt/FreedesktopWorkspace.h"
 
 #include "tests/ScratchFolder.h"
 #include "tests/UrlOpener.h"
@@ -6,14 +6,14 @@
 namespace corvellane {
 namespace {
 
-TEST(QtWorkspace, opensOnlyWhatAProgramIsRegisteredFor)
+TEST(FreedesktopWorkspace, opensOnlyWhatAProgramIsRegisteredFor)
 {
     const ScratchFolder home;
     home.write("applications/mimeinfo.cache", "[MIME Cache]\nx-scheme-handler/x-settings.known=settings.desktop;\n");
     qputenv("XDG_DATA_HOME", QByteArray::fromStdString(home.path()));
     const UrlOpener registered("x-settings.known");
     const UrlOpener unregistered("x-settings");
-    QtWorkspace workspace;
+    FreedesktopWorkspace workspace;
     EXPECT_TRUE(workspace.openUrl("x-settings.known:pane?Privacy"));
     EXPECT_EQ(registered.opened, QStringList("x-settings.known:pane?Privacy"));
     for (const char* const address : {"x-settings:pane", "no address", ""}) {
