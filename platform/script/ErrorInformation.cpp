@@ -8,7 +8,8 @@ namespace {
 bool isPlain(std::string_view value)
 {
     return !value.empty()
-        && value.find_first_not_of("0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz") == value.npos;
+        && value.find_first_not_of("0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz")
+        == std::string_view::npos;
 }
 
 std::string quoted(std::string_view value)
