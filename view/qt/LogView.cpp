@@ -123,9 +123,8 @@ LogView::LogView(QWidget* parent)
 
 void LogView::present(const LogArea& log)
 {
-    shown_ = log.text;
     setAccessibleName(localized(log.name));
-    lines_ = std::make_unique<LogText>(*shown_, fontOf(standardFont));
+    lines_ = std::make_unique<LogText>(*log.text, fontOf(standardFont));
     horizontalScrollBar()->setSingleStep(static_cast<int>(lines_->lineHeight()));
     verticalScrollBar()->setSingleStep(static_cast<int>(lines_->lineHeight()));
     updateScrollBars();

@@ -80,7 +80,6 @@ private:
     QPointF textOrigin() const;
     void updateScrollBars();
 
-    Snapshot<std::string> shown_;
     std::unique_ptr<LogText> lines_;
 };
 
