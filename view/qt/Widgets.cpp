@@ -77,7 +77,7 @@ private:
 
     Standing panel(const Panel::Arrangement& arrangement, bool modal) const
     {
-        Panel& panel = theWidget<Panel>();
+        auto& panel = theWidget<Panel>();
         panel.present(arrangement, view.backdrop, modal);
         return {&panel, &panel, &panel};
     }
