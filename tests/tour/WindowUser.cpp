@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QListView>
+#include <QStyle>
 #include <QTest>
 #include <QWindow>
 
@@ -83,7 +84,8 @@ void WindowUser::clickRow(int row, int x) const
     if (QListView* const view = list()) {
         view->scrollTo(view->model()->index(row, 0));
         const QRect area = view->visualRect(view->model()->index(row, 0));
-        clickAt(view->viewport()->mapTo(&window_, QPoint(area.left() + x, area.center().y())));
+        const QPoint point(area.left() + x, area.center().y());
+        clickAt(view->viewport()->mapTo(&window_, QStyle::visualPos(view->layoutDirection(), area, point)));
     }
 }
 

@@ -31,7 +31,7 @@ public:
     /// Clicks where the button is, whatever lies in front of it.
     void clickThrough(const std::string& label) const;
 
-    /// Clicks on a row of the list, so many points from its left edge.
+    /// Clicks on a row of the list, so many points from the edge where its text begins.
     void clickRow(int row, int x) const;
 
     void press(Qt::Key key) const;

@@ -2,7 +2,9 @@
 
 #include "view/qt/Appearance.h"
 
+#include <QGuiApplication>
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -54,7 +56,7 @@ int Slot::innerWidth(int width) const
     return fitted(width, widthExtent()) - padding.left - padding.right;
 }
 
-void Slot::place(const QRect& cell, Placement horizontally, Placement vertically) const
+void Slot::place(const QRect& cell, Placement horizontally, Placement vertically, const QRect& whole) const
 {
     if (standing.widget == nullptr) {
         return;
@@ -63,7 +65,8 @@ void Slot::place(const QRect& cell, Placement horizontally, Placement vertically
     const int height = fitted(cell.height(), heightExtent(width));
     const QRect outer(placed(cell.left(), cell.width(), width, horizontally),
         placed(cell.top(), cell.height(), height, vertically), width, height);
-    standing.widget->setGeometry(outer.adjusted(padding.left, padding.top, -padding.right, -padding.bottom));
+    const QRect inner = outer.adjusted(padding.left, padding.top, -padding.right, -padding.bottom);
+    standing.widget->setGeometry(QStyle::visualRect(QGuiApplication::layoutDirection(), whole, inner));
     if (standing.panel != nullptr) {
         standing.panel->layOut();
     }
@@ -185,7 +188,7 @@ void Panel::layOut()
         return placeStack(*stack(), area);
     }
     const Placement placement = std::get<Layers>(arrangement_).children;
-    std::ranges::for_each(slots_, [&](const Slot& slot) { slot.place(area, placement, placement); });
+    std::ranges::for_each(slots_, [&](const Slot& slot) { slot.place(area, placement, placement, area); });
 }
 
 void Panel::placeStack(const Stack& stack, const QRect& area) const
@@ -196,10 +199,10 @@ void Panel::placeStack(const Stack& stack, const QRect& area) const
         const int length = lengthsOfSlots[index];
         if (stack.axis == Axis::horizontal) {
             const QRect cell(area.left() + position, area.top(), length, area.height());
-            slots_[index].place(cell, Placement::leading, stack.across);
+            slots_[index].place(cell, Placement::leading, stack.across, area);
         } else {
             const QRect cell(area.left(), area.top() + position, area.width(), length);
-            slots_[index].place(cell, stack.across, Placement::leading);
+            slots_[index].place(cell, stack.across, Placement::leading, area);
         }
         position += length + stack.spacing;
     }

@@ -44,15 +44,16 @@ struct Slot {
     Extent widthExtent() const;
     Extent heightExtent(int width) const;
 
-    /// Gives the widget its share of `cell`, without the padding; what it cannot fill is left at the sides.
-    void place(const QRect& cell, Placement horizontally, Placement vertically) const;
+    /// Gives the widget its share of `cell`, without the padding; what it cannot fill is left at the sides. Positions
+    /// are those of text from left to right, and mirrored in `whole` for the other direction.
+    void place(const QRect& cell, Placement horizontally, Placement vertically, const QRect& whole) const;
 
 private:
     int innerWidth(int width) const;
 };
 
 /// The widget of a view that holds others: draws the view's backdrop and lays out the children, a stack by the rules of
-/// `distribute`, or layers, which all have the same room.
+/// `distribute`, or layers, which all have the same room; from the side where the text begins.
 class Panel : public QWidget, public Measurable {
 public:
     using Arrangement = std::variant<Stack, Layers>;

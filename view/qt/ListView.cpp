@@ -4,6 +4,7 @@
 #include "view/qt/Appearance.h"
 #include "view/qt/Pictures.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -17,19 +18,31 @@ namespace {
 constexpr int inset = 10;
 constexpr int aboveName = 4;
 
+/// Positions in a row are those of text from left to right, and mirrored for the other direction.
+QRect mirrored(const QRect& row, const QRect& area)
+{
+    return QStyle::visualRect(QGuiApplication::layoutDirection(), row, area);
+}
+
 /// A symbol grows with the text beside it.
+int sizeOf(const Symbol& symbol)
+{
+    return qRound(symbol.size * textScale());
+}
+
 QRect symbolArea(const QRect& row, const Symbol& symbol)
 {
-    const int size = qRound(symbol.size * textScale());
-    return {row.left() + inset, row.top() + (row.height() - size) / 2, size, size};
+    const int size = sizeOf(symbol);
+    return mirrored(row, {row.left() + inset, row.top() + (row.height() - size) / 2, size, size});
 }
 
 /// The name's own area; a name longer than the row ends at the row's end.
 QRect nameArea(const QRect& row, const Symbol& symbol, const QFontMetrics& metrics, const QString& name)
 {
-    const int left = symbolArea(row, symbol).right() + 1 + standardSpacing;
+    const int left = row.left() + inset + sizeOf(symbol) + standardSpacing;
     const int natural = metrics.horizontalAdvance(name);
-    return {left, row.top(), std::max(0, std::min(natural + 1, row.right() - inset - left)), row.height()};
+    const int width = std::max(0, std::min(natural + 1, row.right() - inset - left));
+    return mirrored(row, {left, row.top(), width, row.height()});
 }
 
 void paintFocus(QPainter& painter, const QRect& row)
@@ -136,6 +149,8 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, c
     const QRect area = nameArea(option.rect, symbol, metrics, name);
     painter->setFont(font);
     painter->setPen(colorOf(Tint::label));
+    // A name has a direction of its own, whatever that of the window.
+    painter->setLayoutDirection(Qt::LayoutDirectionAuto);
     painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
         metrics.elidedText(name, Qt::ElideMiddle, area.width()));
     if (option.state.testFlag(QStyle::State_HasFocus)) {
@@ -146,7 +161,7 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, c
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const
 {
-    const int symbol = symbolArea({}, model_.list().plain).height();
+    const int symbol = sizeOf(model_.list().plain);
     return {inset, std::max(symbol, QFontMetrics(fontOf(model_.list().font)).height()) + 2 * aboveName};
 }
 

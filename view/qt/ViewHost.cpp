@@ -121,7 +121,7 @@ void ViewHost::setLeastSize()
 
 void ViewHost::layOut()
 {
-    root_->slot().place(rect(), Placement::centre, Placement::centre);
+    root_->slot().place(rect(), Placement::centre, Placement::centre, rect());
 }
 
 void ViewHost::resizeEvent(QResizeEvent* event)
@@ -136,8 +136,8 @@ void ViewHost::resizeEvent(QResizeEvent* event)
 void ViewHost::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    const bool looksDifferent
-        = event->type() == QEvent::ApplicationFontChange || event->type() == QEvent::LanguageChange;
+    const bool looksDifferent = event->type() == QEvent::ApplicationFontChange
+        || event->type() == QEvent::LanguageChange || event->type() == QEvent::LayoutDirectionChange;
     if (looksDifferent && root_ != nullptr) {
         QMetaObject::invokeMethod(this, [this] { rebuild(); }, Qt::QueuedConnection);
     }

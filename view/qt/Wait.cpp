@@ -126,6 +126,10 @@ void BusyBar::showPart(double part)
 void BusyBar::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    if (isRightToLeft()) {
+        painter.translate(width(), 0);
+        painter.scale(-1, 1);
+    }
     painter.fillRect(rect(), colorOf(Tint::separator));
     painter.fillRect(0, 0, width() * value() / whole, height(), colorOf(Tint::blue));
     const double seconds = static_cast<double>(alive_.elapsed()) / 1000;
