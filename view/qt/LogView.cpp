@@ -2,7 +2,11 @@
 
 #include "view/qt/Appearance.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 
@@ -11,29 +15,6 @@
 
 namespace corvellane::view {
 namespace {
-
-constexpr qsizetype longestPiece = 512;
-
-/// Without kerning a width is the sum of its characters' widths.
-QFont withoutKerning(QFont font)
-{
-    font.setKerning(false);
-    return font;
-}
-
-bool isLineBreak(QChar character)
-{
-    return character == '\n' || character == '\r' || character == QChar::LineSeparator
-        || character == QChar::ParagraphSeparator;
-}
-
-QString decoded(std::string_view text)
-{
-    QString result = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    result.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    result.replace('\t', QStringLiteral("        "));
-    return result;
-}
 
 void setRange(QScrollBar& bar, int content, int page)
 {
@@ -48,75 +29,14 @@ int placed(int content, int available, int scrolled)
 
 } // namespace
 
-LogText::LogText(std::string_view text, const QFont& font)
-    : text_(decoded(text))
-    , font_(withoutKerning(font))
-    , metrics_(font_)
-{
-    for (std::size_t code = 0; code < asciiWidths_.size(); ++code) {
-        asciiWidths_[code] = metrics_.horizontalAdvance(QChar(static_cast<char16_t>(code)));
-    }
-    qsizetype begin = 0;
-    for (qsizetype at = 0; at < text_.size(); ++at) {
-        if (isLineBreak(text_[at])) {
-            addLine(begin, at);
-            begin = at + 1;
-        }
-    }
-    addLine(begin, text_.size());
-    firstPieces_.push_back(static_cast<std::uint32_t>(pieces_.size()));
-}
-
-void LogText::addLine(qsizetype begin, qsizetype end)
-{
-    firstPieces_.push_back(static_cast<std::uint32_t>(pieces_.size()));
-    double left = 0;
-    while (begin < end) {
-        const qsizetype length = pieceEnd(begin, end) - begin;
-        pieces_.push_back({begin, length, left});
-        left += widthOf(begin, length);
-        begin += length;
-    }
-    width_ = std::max(width_, left);
-}
-
-qsizetype LogText::pieceEnd(qsizetype begin, qsizetype end) const
-{
-    if (end - begin <= longestPiece) {
-        return end;
-    }
-    const qsizetype cut = begin + longestPiece;
-    return text_[cut].isLowSurrogate() ? cut - 1 : cut;
-}
-
-double LogText::widthOf(qsizetype begin, qsizetype length) const
-{
-    double sum = 0;
-    for (qsizetype at = begin; at < begin + length; ++at) {
-        const char16_t code = text_[at].unicode();
-        if (code >= asciiWidths_.size()) {
-            return metrics_.horizontalAdvance(text_.mid(begin, length));
-        }
-        sum += asciiWidths_[code];
-    }
-    return sum;
-}
-
-std::vector<LogText::Piece> LogText::piecesBetween(std::size_t line, double left, double right) const
-{
-    const auto begin = pieces_.begin() + firstPieces_[line];
-    const auto end = pieces_.begin() + firstPieces_[line + 1];
-    auto first = std::partition_point(begin, end, [&](const Piece& piece) { return piece.left <= left; });
-    const auto last = std::partition_point(first, end, [&](const Piece& piece) { return piece.left < right; });
-    first = first == begin ? begin : first - 1;
-    return {first, last};
-}
-
 LogView::LogView(QWidget* parent)
     : QAbstractScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
+    // What programs print reads from left to right.
+    setLayoutDirection(Qt::LeftToRight);
+    viewport()->setCursor(Qt::IBeamCursor);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
@@ -125,6 +45,7 @@ void LogView::present(const LogArea& log)
 {
     setAccessibleName(localized(log.name));
     lines_ = std::make_unique<LogText>(*log.text, fontOf(standardFont));
+    selection_ = {};
     horizontalScrollBar()->setSingleStep(static_cast<int>(lines_->lineHeight()));
     verticalScrollBar()->setSingleStep(static_cast<int>(lines_->lineHeight()));
     updateScrollBars();
@@ -154,6 +75,14 @@ void LogView::updateScrollBars()
     }
 }
 
+// Drawing
+
+std::size_t LogView::lineAt(double y) const
+{
+    const auto last = static_cast<double>(lines_->lineCount() - 1);
+    return static_cast<std::size_t>(std::clamp(y / lines_->lineHeight(), 0.0, last));
+}
+
 void LogView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
@@ -162,23 +91,40 @@ void LogView::paintEvent(QPaintEvent* event)
         return;
     }
     painter.setFont(lines_->font());
-    painter.setPen(colorOf(Tint::label));
-    const QPointF origin = textOrigin();
-    const QRectF sight = QRectF(event->rect()).translated(-origin);
-    const double height = lines_->lineHeight();
-    const auto lineAt = [&](double y) {
-        return static_cast<std::size_t>(std::clamp(y / height, 0.0, static_cast<double>(lines_->lineCount())));
-    };
-    const std::size_t end = std::min(lineAt(sight.bottom()) + 1, lines_->lineCount());
-    for (std::size_t line = lineAt(sight.top()); line < end; ++line) {
-        const double baseline = origin.y() + height * static_cast<double>(line) + lines_->ascent();
-        for (const LogText::Piece& piece : lines_->piecesBetween(line, sight.left(), sight.right())) {
-            painter.drawText(QPointF(origin.x() + piece.left, baseline), lines_->charactersOf(piece));
-        }
+    painter.save();
+    painter.translate(textOrigin());
+    const QRectF sight = QRectF(event->rect()).translated(-textOrigin());
+    const std::size_t last = lineAt(sight.bottom());
+    for (std::size_t line = lineAt(sight.top()); line <= last; ++line) {
+        paintLine(painter, line, sight);
     }
+    painter.restore();
     if (hasFocus()) {
         painter.setPen(colorOf(Tint::blue));
         painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void LogView::paintLine(QPainter& painter, std::size_t line, const QRectF& sight) const
+{
+    const double top = lines_->lineHeight() * static_cast<double>(line);
+    const auto drawText = [&](const QColor& color) {
+        painter.setPen(color);
+        for (const LogText::Piece& piece : lines_->piecesBetween(line, sight.left(), sight.right())) {
+            painter.drawText(QPointF(piece.left, top + lines_->ascent()), lines_->charactersOf(piece));
+        }
+    };
+    drawText(colorOf(Tint::label));
+    const qsizetype begin = std::max(selection_.begin(), lines_->lineBegin(line));
+    const qsizetype end = std::min(selection_.end(), lines_->lineEnd(line));
+    if (begin < end) {
+        const double left = lines_->leftOf(begin);
+        const QRectF selected(left, top, lines_->leftOf(end) - left, lines_->lineHeight());
+        painter.fillRect(selected, colorOf(Tint::blue));
+        painter.save();
+        painter.setClipRect(selected);
+        drawText(Qt::white);
+        painter.restore();
     }
 }
 
@@ -192,8 +138,91 @@ void LogView::scrollContentsBy(int, int)
     viewport()->update();
 }
 
+// Selecting
+
+void LogView::select(Selection selection)
+{
+    selection_ = selection;
+    viewport()->update();
+}
+
+QString LogView::selectedText() const
+{
+    return lines_->text().mid(selection_.begin(), selection_.end() - selection_.begin());
+}
+
+void LogView::copy() const
+{
+    if (selection_.begin() != selection_.end()) {
+        QGuiApplication::clipboard()->setText(selectedText());
+    }
+}
+
+qsizetype LogView::characterAt(const QPoint& point) const
+{
+    const QPointF inside = point - textOrigin();
+    return lines_->characterAt(lineAt(inside.y()), inside.x());
+}
+
+void LogView::extendTo(qsizetype character)
+{
+    select({selection_.anchor, character});
+    showCharacter(character);
+}
+
+/// Scrolls no further than is needed.
+void LogView::showCharacter(qsizetype character)
+{
+    const auto line = static_cast<double>(lines_->lineOf(character));
+    const QPointF corner = textOrigin() + QPointF(lines_->leftOf(character), line * lines_->lineHeight());
+    const auto scroll = [](QScrollBar& bar, double from, double to, int room) {
+        const double beyond = std::min(from, 0.0) + std::max(to - room, 0.0);
+        bar.setValue(bar.value() + static_cast<int>(beyond));
+    };
+    scroll(*horizontalScrollBar(), corner.x() - standardPadding, corner.x() + standardPadding, viewport()->width());
+    scroll(*verticalScrollBar(), corner.y(), corner.y() + lines_->lineHeight(), viewport()->height());
+}
+
+bool LogView::extendByKey(const QKeyEvent& key)
+{
+    const qsizetype cursor = selection_.cursor;
+    const std::size_t line = lines_->lineOf(cursor);
+    const auto inLine = [&](std::size_t wanted) { return lines_->characterAt(wanted, lines_->leftOf(cursor)); };
+    const auto around
+        = [&](qsizetype character) { return lines_->stretchAround(character, QTextBoundaryFinder::Grapheme); };
+    if (key.matches(QKeySequence::SelectNextChar)) {
+        extendTo(around(cursor).second);
+    } else if (key.matches(QKeySequence::SelectPreviousChar)) {
+        extendTo(around(std::max<qsizetype>(cursor - 1, 0)).first);
+    } else if (key.matches(QKeySequence::SelectNextLine)) {
+        extendTo(line + 1 < lines_->lineCount() ? inLine(line + 1) : lines_->lineEnd(line));
+    } else if (key.matches(QKeySequence::SelectPreviousLine)) {
+        extendTo(line > 0 ? inLine(line - 1) : 0);
+    } else if (key.matches(QKeySequence::SelectStartOfLine)) {
+        extendTo(lines_->lineBegin(line));
+    } else if (key.matches(QKeySequence::SelectEndOfLine)) {
+        extendTo(lines_->lineEnd(line));
+    } else if (key.matches(QKeySequence::SelectStartOfDocument)) {
+        extendTo(0);
+    } else if (key.matches(QKeySequence::SelectEndOfDocument)) {
+        extendTo(lines_->text().size());
+    } else {
+        return false;
+    }
+    return true;
+}
+
 void LogView::keyPressEvent(QKeyEvent* event)
 {
+    if (event->matches(QKeySequence::Copy)) {
+        return copy();
+    }
+    if (event->matches(QKeySequence::SelectAll)) {
+        return selectAll();
+    }
+    if (extendByKey(*event)) {
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Home:
         horizontalScrollBar()->setValue(0);
@@ -203,6 +232,48 @@ void LogView::keyPressEvent(QKeyEvent* event)
     default:
         QAbstractScrollArea::keyPressEvent(event);
     }
+}
+
+void LogView::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        const qsizetype character = characterAt(event->position().toPoint());
+        const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
+        select({extends ? selection_.anchor : character, character});
+    }
+}
+
+void LogView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons().testFlag(Qt::LeftButton)) {
+        extendTo(characterAt(event->position().toPoint()));
+    }
+}
+
+/// Where the desktop has a selection of its own, the middle button pastes it.
+void LogView::mouseReleaseEvent(QMouseEvent* event)
+{
+    QClipboard* const clipboard = QGuiApplication::clipboard();
+    if (event->button() == Qt::LeftButton && selection_.begin() != selection_.end() && clipboard->supportsSelection()) {
+        clipboard->setText(selectedText(), QClipboard::Selection);
+    }
+}
+
+void LogView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const auto [begin, end]
+        = lines_->stretchAround(characterAt(event->position().toPoint()), QTextBoundaryFinder::Word);
+    select({begin, end});
+}
+
+void LogView::contextMenuEvent(QContextMenuEvent* event)
+{
+    const auto title = [](const char* key) { return QCoreApplication::translate("QWidgetTextControl", key); };
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(title("&Copy"), this, &LogView::copy)->setEnabled(selection_.begin() != selection_.end());
+    menu->addAction(title("Select All"), this, &LogView::selectAll);
+    menu->popup(event->globalPos());
 }
 
 void LogView::focusInEvent(QFocusEvent* event)

@@ -3,6 +3,7 @@
 #include "view/qt/Layout.h"
 #include "view/qt/LogView.h"
 
+#include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
@@ -99,11 +100,11 @@ TEST_F(WindowWorld, cutsNothingOffInLargeLetters)
 
 TEST(LogText, findsThePiecesInSight)
 {
-    const LogText text("first\r\nsecond\n\n" + std::string(1500, 'x') + "\nlast", fontOf(standardFont));
+    const LogText text("1\tfirst\r\nsecond\n\n" + std::string(1500, 'x') + "\nlast", fontOf(standardFont));
     EXPECT_EQ(text.lineCount(), 5U);
     ASSERT_EQ(text.piecesBetween(1, 0, 100).size(), 1U);
     EXPECT_EQ(text.charactersOf(text.piecesBetween(1, 0, 100)[0]), "second");
-    EXPECT_TRUE(text.piecesBetween(2, 0, 100).empty());
+    EXPECT_EQ(text.leftOf(2), 8 * QFontMetricsF(text.font()).horizontalAdvance(' ')) << "the tab stop";
     EXPECT_EQ(text.piecesBetween(3, 0, text.width()).size(), 3U);
     EXPECT_EQ(text.piecesBetween(3, text.width() - 5, text.width()).size(), 1U);
     EXPECT_NEAR(text.width(), QFontMetricsF(text.font()).horizontalAdvance(QString(1500, 'x')), 1500 / 512.0 + 1);
@@ -129,6 +130,62 @@ TEST_F(WindowWorld, opensLongLogsAndScrollsThem)
     settings().logDetailsStr = std::string("short");
     show(settings().showLogDetailsWindow, true);
     EXPECT_EQ(log->verticalScrollBar()->maximum(), 0);
+}
+
+/// The areas of all that stands for a view, in the order of the tree.
+std::vector<QRect> areasIn(const QWidget& window)
+{
+    std::vector<QRect> areas;
+    for (const QWidget* const each : window.findChildren<QWidget*>()) {
+        if (dynamic_cast<Panel*>(each->parentWidget()) != nullptr && each->isVisible()) {
+            areas.push_back(areaOf(*each));
+        }
+    }
+    return areas;
+}
+
+TEST_F(WindowWorld, mirrorsEverythingWhereTextRunsFromRightToLeft)
+{
+    show(settings().showPermanentlyAlert, true);
+    for (const Page page : allPages) {
+        goTo(page);
+        std::vector<QRect> expected = areasIn(window());
+        for (QRect& area : expected) {
+            area.moveRight(window().width() - 1 - area.left());
+        }
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        QTest::qWait(1);
+        EXPECT_EQ(areasIn(window()), expected) << nameOf(page);
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+        QTest::qWait(1);
+    }
+}
+
+TEST_F(WindowWorld, selectsAndCopiesPartsOfALog)
+{
+    const std::string text = "one\ttwo\n\nthr\xF0\x9F\x98\x80 four\n" + std::string(500, 'x');
+    settings().logDetailsStr = text;
+    goTo(Page::summary);
+    show(settings().showLogDetailsWindow, true);
+    auto* const log = named<LogView>("Details");
+    const auto typed = [&](const QKeySequence& keys) {
+        QTest::keySequence(log, keys);
+        QTest::keySequence(log, QKeySequence::Copy);
+        return QApplication::clipboard()->text().toStdString();
+    };
+    EXPECT_EQ(typed(QKeySequence::SelectAll), text);
+    log->select({1, 1});
+    EXPECT_EQ(typed(QKeySequence::SelectEndOfLine), "ne\ttwo");
+    EXPECT_EQ(typed(QKeySequence::SelectPreviousChar), "ne\ttw");
+    log->select({9, 12});
+    EXPECT_EQ(typed(QKeySequence::SelectNextChar), "thr\xF0\x9F\x98\x80") << "no half of a character";
+    log->select({1, 1});
+    typed(QKeySequence::SelectNextLine);
+    EXPECT_EQ(typed(QKeySequence::SelectNextLine), "ne\ttwo\n\n");
+    const int aboveTheMiddle = 3 * QFontMetrics(log->font()).lineSpacing() / 2;
+    const QPoint inOne(standardPadding + 4, log->viewport()->height() / 2 - aboveTheMiddle);
+    QTest::mouseDClick(log->viewport(), Qt::LeftButton, {}, inOne);
+    EXPECT_EQ(typed({}), "one");
 }
 
 } // namespace
