@@ -2,6 +2,9 @@
 
 #include "platform/Resources.h"
 #include "view/Metrics.h"
+#include "view/qt/Appearance.h"
+
+#include <QScreen>
 
 namespace corvellane {
 namespace {
@@ -27,7 +30,8 @@ CorvellaneInstallerApp::CorvellaneInstallerApp(const Platform& platform)
 {
     contentView_.observe(*settings_, [this] { window_.scheduleRedraw(); });
     window_.setWindowTitle(QStringLiteral("Corvellane Plugin Installer"));
-    window_.resize(leastWidth, leastHeight);
+    const QSize opening = QSize(leastWidth, leastHeight) * view::textScale();
+    window_.resize(opening.boundedTo(window_.screen()->availableSize()));
 }
 
 view::View CorvellaneInstallerApp::body()

@@ -11,6 +11,8 @@ namespace {
 
 constexpr Font plainFont{13, false};
 constexpr Font emphasisedFont{13, true};
+/// What stands alone in a card keeps off its edges.
+constexpr Padding besideTheEdge{8, 0, 8, 0};
 
 /// A card that takes the space the window offers up to its maximum, in points.
 View card(View content, Tint fill, int maximumWidth, int maximumHeight)
@@ -43,7 +45,8 @@ View installConfirmationCard(AppSettings& settings)
     View install = button<&AppSettings::confirmInstallation>("Install", settings);
     std::get<Button>(install.element).style = Button::Style::emphasised;
     return card(column(5, Placement::centre, gap(5),
-                    text("Click \"Install\" button to complete the installation.", emphasisedFont, Placement::centre),
+                    text("Click \"Install\" button to complete the installation.", emphasisedFont, Placement::centre)
+                        .withPadding(besideTheEdge),
                     row(standardSpacing, gap(), button<&AppSettings::closeInstallConfirmation>("Cancel", settings),
                         space(20), std::move(install), gap())
                         .withPadding(onAllSides)),

@@ -49,7 +49,9 @@ View TextWithAttributedString::body() const
 View introView()
 {
     return column(0, Placement::centre,
-        row(standardSpacing, gap(3), text("You will be guided through the steps necessary to use this software."),
+        row(standardSpacing, gap(3),
+            text("You will be guided through the steps necessary to use this software.", standardFont,
+                Placement::centre),
             gap(3)),
         gap())
         .withPadding(onTop);

@@ -31,7 +31,7 @@ bool WindowUser::reads(const std::string& text) const
 {
     const QList<QLabel*> labels = visible<QLabel>(window_);
     return std::any_of(
-        labels.begin(), labels.end(), [&](const QLabel* label) { return label->text() == view::localized(text); });
+        labels.begin(), labels.end(), [&](const QLabel* label) { return label->accessibleName() == view::localized(text); });
 }
 
 /// Where several have the label, the one in front.

@@ -19,6 +19,20 @@ int widestStretch(const QFontMetrics& metrics, const QString& text)
     return widest;
 }
 
+/// No line ends in a word of one or two letters, which belongs to the next one.
+QString withShortWordsBound(QString text)
+{
+    qsizetype begin = 0;
+    for (qsizetype at = text.indexOf(' '); at >= 0; at = text.indexOf(' ', begin)) {
+        const bool isShort = at - begin <= 2 && begin > 0;
+        if (isShort && text[begin].isLetter()) {
+            text[at] = QChar::Nbsp;
+        }
+        begin = at + 1;
+    }
+    return text;
+}
+
 } // namespace
 
 TextLabel::TextLabel(QWidget* parent)
@@ -41,7 +55,8 @@ void TextLabel::present(const Text& text)
     setPalette(colors);
     setAlignment(text.lines == Placement::centre ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
     setFocusPolicy(text.announced ? Qt::TabFocus : Qt::NoFocus);
-    setText(wordsOf(text));
+    setText(withShortWordsBound(wordsOf(text)));
+    setAccessibleName(wordsOf(text));
     const int natural = fontMetrics().size(0, this->text()).width() + 1;
     widths_ = {std::min(natural, widestStretch(fontMetrics(), this->text()) + 1), natural};
     measuredWidth_ = -1;
@@ -59,6 +74,31 @@ Extent TextLabel::heightExtent(int width) const
         measuredWidth_ = width;
     }
     return {measuredHeight_, measuredHeight_};
+}
+
+/// The least width that takes no more lines.
+int TextLabel::balancedWidth(int width) const
+{
+    const int height = measuredHeight(width);
+    int least = widths_.minimum;
+    for (int most = width; least < most;) {
+        const int middle = least + (most - least) / 2;
+        if (measuredHeight(middle) <= height) {
+            most = middle;
+        } else {
+            least = middle + 1;
+        }
+    }
+    return least;
+}
+
+void TextLabel::resizeEvent(QResizeEvent* event)
+{
+    const int spare = width() < widths_.maximum ? width() - balancedWidth(width()) : 0;
+    const int before = alignment().testFlag(Qt::AlignHCenter) ? spare / 2 : 0;
+    const int after = spare - before;
+    setContentsMargins(isRightToLeft() ? after : before, 0, isRightToLeft() ? before : after, 0);
+    QLabel::resizeEvent(event);
 }
 
 int TextLabel::measuredHeight(int width) const

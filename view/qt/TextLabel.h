@@ -7,7 +7,7 @@
 
 namespace corvellane::view {
 
-/// The widget of a text. No markup, no mnemonics.
+/// The widget of a text. No markup, no mnemonics. Lines that wrap are about equally long.
 class TextLabel : public QLabel, public Measurable {
 public:
     explicit TextLabel(QWidget* parent);
@@ -21,8 +21,12 @@ public:
     Extent widthExtent() const override;
     Extent heightExtent(int width) const override;
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     int measuredHeight(int width) const;
+    int balancedWidth(int width) const;
 
     Extent widths_;
     mutable int measuredWidth_ = -1;

@@ -52,7 +52,7 @@ TEST_F(WindowWorld, sharesTheHeightOutAtEverySize)
         EXPECT_EQ(panel.left(), 195);
         EXPECT_EQ(panel.right() + 1, size.width() - 20);
         const QList<QLabel*> labels = window().findChildren<QLabel*>();
-        const auto title = std::ranges::find(labels, "Select Products to install", &QLabel::text);
+        const auto title = std::ranges::find(labels, "Select Products to install", &QLabel::accessibleName);
         const int rowTop = areaOf(*named("Next")).top() - standardPadding;
         EXPECT_NEAR(areaOf(**title).top() - standardSpacing, panel.height(), 1);
         EXPECT_NEAR(rowTop - panel.bottom() - 1 - 2 * standardSpacing, panel.height(), 1);
