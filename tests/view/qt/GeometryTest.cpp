@@ -167,7 +167,7 @@ TEST_F(WindowWorld, selectsAndCopiesPartsOfALog)
     settings().logDetailsStr = text;
     goTo(Page::summary);
     show(settings().showLogDetailsWindow, true);
-    auto* const log = named<LogView>("Details");
+    auto* const log = dynamic_cast<LogView*>(named<QAbstractScrollArea>("Details"));
     const auto typed = [&](const QKeySequence& keys) {
         QTest::keySequence(log, keys);
         QTest::keySequence(log, QKeySequence::Copy);
