@@ -16,6 +16,15 @@
 namespace corvellane::view {
 namespace {
 
+/// Bars for dragging, without arrows to step by.
+constexpr auto plainBars = R"(
+    QScrollBar { background: #f6f6f6; }
+    QScrollBar:vertical { width: 14px; }
+    QScrollBar:horizontal { height: 14px; }
+    QScrollBar::handle { background: #b8b8bc; border-radius: 4px; margin: 3px; min-width: 24px; min-height: 24px; }
+    QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+    QScrollBar::add-page, QScrollBar::sub-page { background: none; })";
+
 void setRange(QScrollBar& bar, int content, int page)
 {
     bar.setRange(0, std::max(0, content - page));
@@ -37,6 +46,9 @@ LogView::LogView(QWidget* parent)
     // What programs print reads from left to right.
     setLayoutDirection(Qt::LeftToRight);
     viewport()->setCursor(Qt::IBeamCursor);
+    for (QScrollBar* const bar : {horizontalScrollBar(), verticalScrollBar()}) {
+        bar->setStyleSheet(QString::fromLatin1(plainBars));
+    }
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
