@@ -84,7 +84,7 @@ qsizetype LogText::pieceEnd(qsizetype begin, qsizetype end) const
     if (cut < end && text_[cut].isLowSurrogate()) {
         --cut;
     }
-    return std::find(text_.begin() + begin, text_.begin() + cut, QChar('\t')) - text_.begin();
+    return std::ranges::find(text_.begin() + begin, text_.begin() + cut, QChar('\t')) - text_.begin();
 }
 
 double LogText::widthOf(qsizetype begin, qsizetype length) const
@@ -156,8 +156,8 @@ qsizetype LogText::characterAt(std::size_t line, double x) const
 
 double LogText::leftOf(qsizetype character) const
 {
-    const auto after = std::partition_point(
-        pieces_.begin(), pieces_.end(), [&](const Piece& piece) { return piece.begin <= character; });
+    const auto after
+        = std::ranges::partition_point(pieces_, [&](const Piece& piece) { return piece.begin <= character; });
     const Piece& piece = *(after - 1);
     QTextLayout layout(charactersOf(piece));
     shape(layout);
