@@ -50,6 +50,15 @@ void insertParagraph(
     }
 }
 
+/// Stays at its beginning when it is first shown, whatever size it has by then: no cursor is to be brought into view.
+class TextViewer : public QTextEdit {
+public:
+    using QTextEdit::QTextEdit;
+
+protected:
+    void showEvent(QShowEvent* event) override { QAbstractScrollArea::showEvent(event); }
+};
+
 QPalette paperPalette(QPalette palette)
 {
     palette.setColor(QPalette::Base, Qt::white);
@@ -75,7 +84,7 @@ void fillTextDocument(QTextDocument& document, const rtf::AttributedText& text)
 
 QWidget* makeRichTextViewer(const rtf::AttributedText& text, QWidget* parent)
 {
-    auto* viewer = new QTextEdit(parent);
+    auto* viewer = new TextViewer(parent);
     viewer->setReadOnly(true);
     viewer->setTextInteractionFlags(
         Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::LinksAccessibleByMouse);
