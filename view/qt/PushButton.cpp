@@ -4,6 +4,7 @@
 #include "view/qt/Pictures.h"
 
 #include <QIcon>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
 
@@ -97,6 +98,16 @@ void PushButton::paintLink()
     painter.setFont(underlined);
     painter.setPen(palette().color(QPalette::Link));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
+}
+
+void PushButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        return QPushButton::keyPressEvent(event);
+    }
+    if (!event->isAutoRepeat()) {
+        click();
+    }
 }
 
 void PushButton::enterEvent(QEnterEvent* event)

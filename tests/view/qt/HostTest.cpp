@@ -107,6 +107,31 @@ TEST_F(WindowWorld, followsTheReadingOrderWithTheTabKey)
     }
 }
 
+TEST_F(WindowWorld, pressesTheFocusedButtonWithReturnAndEnterOnce)
+{
+    const auto press = [&](Qt::Key key, bool held) {
+        QKeyEvent event(QEvent::KeyPress, key, key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier, {}, held);
+        QApplication::sendEvent(QApplication::focusWidget(), &event);
+        settle();
+    };
+    named("Next")->setFocus();
+    press(Qt::Key_Return, false);
+    EXPECT_EQ(settings().currentPage.get(), Page::license);
+    press(Qt::Key_Return, true);
+    EXPECT_FALSE(settings().showLicenseAlert.get()) << "a key that is held";
+    press(Qt::Key_Enter, false);
+    ASSERT_TRUE(settings().showLicenseAlert.get());
+    EXPECT_EQ(QApplication::focusWidget(), named("Read License"));
+    press(Qt::Key_Return, true);
+    EXPECT_TRUE(settings().showLicenseAlert.get());
+    press(Qt::Key_Return, false);
+    EXPECT_FALSE(settings().showLicenseAlert.get());
+    goTo(Page::products);
+    user().list()->setFocus();
+    press(Qt::Key_Return, false);
+    EXPECT_EQ(settings().currentPage.get(), Page::products) << "there is no default button";
+}
+
 TEST_F(WindowWorld, showsNamesAndLogsAsTheyStand)
 {
     settings().products.set(ProductSelection({"/p/<b>Bold & Co"}));
