@@ -14,9 +14,9 @@ namespace {
 View pageRow(Page page, Page currentPage)
 {
     const Tint dot = page == currentPage ? Tint::blue : Tint::gray;
-    return row(standardSpacing, symbol("circle.fill", dot, 8),
-        verbatim(std::string(sideBarLabel(page)), ContentView::textColor), gap())
-        .withFrame({{}, {}, 20, 20});
+    View label = verbatim(std::string(sideBarLabel(page)), ContentView::textColor);
+    std::get<Text>(label.element).remark = page == currentPage ? "Current step" : "";
+    return row(standardSpacing, symbol("circle.fill", dot, 8), std::move(label), gap()).withFrame({{}, {}, 20, 20});
 }
 
 View pageList(Page currentPage)
@@ -84,9 +84,10 @@ View ContentView::body(AppSettings& settings) const
 
 View ContentView::mainColumn(AppSettings& settings) const
 {
-    return column(standardSpacing, Placement::centre, gap(20),
-        verbatim(std::string(pageTitle(settings.currentPage.get())), textColor).withPadding(below),
-        contentRow(settings), gap(), buttonRow(settings));
+    View title = verbatim(std::string(pageTitle(settings.currentPage.get())), textColor).withPadding(below);
+    std::get<Text>(title.element).announcement = Announcement::spoken;
+    return column(standardSpacing, Placement::centre, gap(20), std::move(title), contentRow(settings), gap(),
+        buttonRow(settings));
 }
 
 View ContentView::contentRow(AppSettings& settings) const

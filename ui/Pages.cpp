@@ -27,7 +27,7 @@ View message(bool failed)
 {
     const char* const key = failed ? "The installation was not completed successfully."
                                    : "You have been successfully installed selected products.";
-    return holding(Text{key, true, thirdTitleFont, Tint::label, Placement::centre, true})
+    return holding(Text{key, true, thirdTitleFont, Tint::label, Placement::centre, Announcement::focused, {}})
         .withBackdrop({Tint::white, 0, {}})
         .withPadding({standardPadding, standardPadding, standardPadding, 0});
 }

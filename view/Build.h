@@ -51,13 +51,13 @@ inline View space(int length)
 /// A text that is looked up in the table of translated texts.
 inline View text(std::string key, Font font = standardFont, Placement lines = Placement::leading)
 {
-    return holding(Text{std::move(key), true, font, Tint::label, lines, false});
+    return holding(Text{std::move(key), true, font, Tint::label, lines, Announcement::none, {}});
 }
 
 /// A text that is shown as it stands.
 inline View verbatim(std::string shown, Tint tint)
 {
-    return holding(Text{std::move(shown), false, standardFont, tint, Placement::leading, false});
+    return holding(Text{std::move(shown), false, standardFont, tint, Placement::leading, Announcement::none, {}});
 }
 
 /// A symbol image stretched to a square.

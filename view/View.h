@@ -64,6 +64,10 @@ struct Fill {
     bool operator==(const Fill&) const = default;
 };
 
+/// How those who do not see a text learn that it is new in the window: it is spoken, or takes the keyboard focus as
+/// well.
+enum class Announcement { none, spoken, focused };
+
 /// Plain text, UTF-8. Wraps where it is offered less than its natural width.
 struct Text {
     std::string text;
@@ -72,8 +76,9 @@ struct Text {
     Font font = standardFont;
     Tint tint = Tint::label;
     Placement lines = Placement::leading;
-    /// Takes the keyboard focus when it appears, so that it is read out.
-    bool announced = false;
+    Announcement announcement = Announcement::none;
+    /// A key of the table of translated texts; what else there is to say to those who do not see the window.
+    std::string remark;
     bool operator==(const Text&) const = default;
 };
 

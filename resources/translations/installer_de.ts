@@ -84,6 +84,10 @@
         <translation>In die Zwischenablage kopieren</translation>
     </message>
     <message>
+        <source>Current step</source>
+        <translation>Aktueller Schritt</translation>
+    </message>
+    <message>
         <source>Progress of the installation</source>
         <translation>Fortschritt der Installation</translation>
     </message>

@@ -84,6 +84,10 @@
         <translation>Copiar al portapapeles</translation>
     </message>
     <message>
+        <source>Current step</source>
+        <translation>Paso actual</translation>
+    </message>
+    <message>
         <source>Progress of the installation</source>
         <translation>Progreso de la instalación</translation>
     </message>

@@ -84,6 +84,10 @@
         <translation>Copier dans le presse-papiers</translation>
     </message>
     <message>
+        <source>Current step</source>
+        <translation>Étape actuelle</translation>
+    </message>
+    <message>
         <source>Progress of the installation</source>
         <translation>Progression de l’installation</translation>
     </message>

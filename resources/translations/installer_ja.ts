@@ -84,6 +84,10 @@
         <translation>クリップボードにコピー</translation>
     </message>
     <message>
+        <source>Current step</source>
+        <translation>現在のステップ</translation>
+    </message>
+    <message>
         <source>Progress of the installation</source>
         <translation>インストールの進行状況</translation>
     </message>

@@ -84,6 +84,10 @@
         <translation>复制到剪贴板</translation>
     </message>
     <message>
+        <source>Current step</source>
+        <translation>当前步骤</translation>
+    </message>
+    <message>
         <source>Progress of the installation</source>
         <translation>安装进度</translation>
     </message>

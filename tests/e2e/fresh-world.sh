@@ -15,7 +15,7 @@ leave() {
 trap leave EXIT
 
 cp -rL "$1" "$work/bundle"
-cp "$(dirname "$0")"/*.py "$work"
+cp "$(dirname "$0")"/*.py "$(dirname "$0")"/*.txt "$work"
 for folder in /Applications /Library; do
     [ -d "$folder" ] || { mkdir "$folder"; made+=("$folder"); }
 done

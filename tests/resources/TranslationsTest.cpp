@@ -39,6 +39,9 @@ private:
             if (text.localizable && !text.text.empty()) {
                 keys.insert(text.text);
             }
+            if (!text.remark.empty()) {
+                keys.insert(text.remark);
+            }
         }
         for (const Button& button : allOf<Button>(body())) {
             keys.insert(button.label);
@@ -49,7 +52,7 @@ private:
 TEST_F(Translated, everyKeyOfTheWindowInEveryLanguageAndButtonsByTheirNames)
 {
     const std::set<std::string> keys = keysShown();
-    EXPECT_EQ(keys.size(), 21U);
+    EXPECT_EQ(keys.size(), 22U);
     const std::vector<std::pair<const char*, const char*>> named{
         {"Click Agree to continue or click Disagree to cancel and quit the Installer.", "Agree"},
         {"Click Agree to continue or click Disagree to cancel and quit the Installer.", "Disagree"},

@@ -97,7 +97,7 @@ TEST_F(WizardWorld, showsBothOutcomes)
     const View failure = body();
     EXPECT_EQ(allOf<Symbol>(failure).back(), (Symbol{"exclamationmark.circle", Tint::red, 60}));
     const Text message = allOf<Text>(failure).back();
-    EXPECT_TRUE(message.announced);
+    EXPECT_EQ(message.announcement, view::Announcement::focused);
     EXPECT_EQ(message.lines, Placement::centre);
     EXPECT_EQ(viewsOf<Text>(failure).back().padding, (Padding{16, 16, 16, 0}));
     EXPECT_TRUE(press(failure, "Details"));

@@ -2,8 +2,11 @@
 
 #include "view/qt/Layout.h"
 #include "view/qt/LogView.h"
+#include "view/qt/ViewHost.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
+#include <QAccessibleObject>
 #include <QAccessibleWidget>
 
 namespace corvellane::view {
@@ -57,6 +60,32 @@ private:
     LogView& log_;
 };
 
+class AccessibleAnnouncer : public QAccessibleObject {
+public:
+    explicit AccessibleAnnouncer(Announcer& announcer)
+        : QAccessibleObject(&announcer)
+        , announcer_(announcer)
+    {
+    }
+
+    QAccessibleInterface* parent() const override
+    {
+        return QAccessible::queryAccessibleInterface(&announcer_.window());
+    }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QAccessible::Role role() const override { return QAccessible::Notification; }
+    QAccessible::State state() const override { return {}; }
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? announcer_.words() : QString();
+    }
+
+private:
+    Announcer& announcer_;
+};
+
 QAccessibleInterface* interfaceOf(const QString&, QObject* object)
 {
     if (auto* const log = dynamic_cast<LogView*>(object)) {
@@ -65,7 +94,26 @@ QAccessibleInterface* interfaceOf(const QString&, QObject* object)
     if (auto* const panel = dynamic_cast<Panel*>(object)) {
         return new QAccessibleWidget(panel, panel->isModal() ? QAccessible::Dialog : QAccessible::Grouping);
     }
+    if (auto* const window = dynamic_cast<ViewHost*>(object)) {
+        return new QAccessibleWidget(window, QAccessible::Window);
+    }
+    if (auto* const announcer = dynamic_cast<Announcer*>(object)) {
+        return new AccessibleAnnouncer(*announcer);
+    }
     return nullptr;
+}
+
+/// Null where nobody listens.
+QAccessibleInterface* accessibleRow(QAbstractItemView& list, int row)
+{
+    QAccessibleInterface* const rows = QAccessible::isActive() ? QAccessible::queryAccessibleInterface(&list) : nullptr;
+    return rows != nullptr ? rows->child(row) : nullptr;
+}
+
+void tell(QObject& object, QAccessible::Event what)
+{
+    QAccessibleEvent event(&object, what);
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace
@@ -73,6 +121,51 @@ QAccessibleInterface* interfaceOf(const QString&, QObject* object)
 void installAccessibility()
 {
     QAccessible::installFactory(interfaceOf);
+}
+
+void nameForAssistance(QWidget& widget, const QString& name)
+{
+    if (widget.accessibleName() != name) {
+        widget.setAccessibleName(name);
+    }
+}
+
+void describeForAssistance(QWidget& widget, const QString& description)
+{
+    if (widget.accessibleDescription() != description) {
+        widget.setAccessibleDescription(description);
+    }
+}
+
+void tellTick(QAbstractItemView& list, int row)
+{
+    if (QAccessibleInterface* const accessible = accessibleRow(list, row)) {
+        QAccessible::State changed;
+        changed.checked = true;
+        QAccessibleStateChangeEvent event(accessible, changed);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+void tellFocus(QAbstractItemView& list, int row)
+{
+    if (QAccessibleInterface* const accessible = accessibleRow(list, row)) {
+        QAccessibleEvent event(accessible, QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+Announcer::Announcer(QWidget& window)
+    : QObject(&window)
+    , window_(window)
+{
+}
+
+void Announcer::say(const QString& words)
+{
+    words_ = words;
+    tell(*this, QAccessible::NameChanged);
+    tell(*this, QAccessible::ObjectShow);
 }
 
 } // namespace corvellane::view

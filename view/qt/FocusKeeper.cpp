@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 #include <vector>
 
 namespace corvellane::view {
@@ -71,6 +72,26 @@ QString wordsOf(const Mounted& root)
     return words;
 }
 
+QWidget* textToRead(const Mounted& root)
+{
+    QWidget* found = nullptr;
+    forEachMounted(root, [&](const Mounted& each) {
+        const auto* text = each.as<Text>();
+        found = text != nullptr && text->announcement == Announcement::focused ? each.standing.widget : found;
+    });
+    return found;
+}
+
+QString wordsToSpeak(const Mounted& root)
+{
+    QString words;
+    forEachMounted(root, [&](const Mounted& each) {
+        const auto* text = each.as<Text>();
+        words = text != nullptr && text->announcement == Announcement::spoken ? TextLabel::wordsOf(*text) : words;
+    });
+    return words;
+}
+
 /// What lies behind a modal view in the same layers can be used only while there is none.
 void enableBehind(const Mounted& root, const Mounted* modal)
 {
@@ -97,12 +118,18 @@ void FocusKeeper::settle(const Mounted& root)
 {
     setTabOrder(root);
     const Mounted* const modal = modalOf(root);
-    QWidget* const alert = modal != nullptr ? modal->standing.widget : nullptr;
-    if (alert != alert_) {
-        enableBehind(root, modal);
-        settleAlert(alert, modal != nullptr ? *modal : root);
+    const QPointer<QWidget> textBefore = std::exchange(textToRead_, textToRead(root));
+    const bool readsAnother = modal == nullptr && textToRead_ != nullptr && textToRead_ != textBefore;
+    if (readsAnother) {
+        behindAlert_ = nullptr;
     }
-    readOut(root);
+    if (alert_ != (modal != nullptr ? modal->standing.widget : nullptr)) {
+        settleAlert(root, modal);
+    }
+    if (readsAnother) {
+        textToRead_->setFocus(Qt::OtherFocusReason);
+    }
+    speak(wordsToSpeak(root));
 }
 
 void FocusKeeper::setTabOrder(const Mounted& root) const
@@ -120,21 +147,24 @@ void FocusKeeper::setTabOrder(const Mounted& root) const
     });
 }
 
-void FocusKeeper::settleAlert(QWidget* alert, const Mounted& root)
+void FocusKeeper::settleAlert(const Mounted& root, const Mounted* modal)
 {
     const bool hadAlert = !alert_.isNull();
-    alert_ = alert;
-    if (alert == nullptr) {
+    alert_ = modal != nullptr ? modal->standing.widget : nullptr;
+    if (modal == nullptr) {
+        enableBehind(root, nullptr);
         return giveBack();
     }
     if (!hadAlert) {
         behindAlert_ = before_;
     }
-    alert->setAccessibleName(wordsOf(root));
-    if (QWidget* const first = firstFocusable(root)) {
+    nameForAssistance(*alert_, wordsOf(*modal));
+    if (QWidget* const first = firstFocusable(*modal)) {
         first->setFocus(Qt::OtherFocusReason);
     }
-    QAccessibleEvent shown(alert, QAccessible::Alert);
+    // Only now: a widget that is disabled while it has the focus hands it on to whatever comes next.
+    enableBehind(root, modal);
+    QAccessibleEvent shown(alert_, QAccessible::Alert);
     QAccessible::updateAccessibility(&shown);
 }
 
@@ -146,18 +176,13 @@ void FocusKeeper::giveBack()
     behindAlert_ = nullptr;
 }
 
-void FocusKeeper::readOut(const Mounted& root)
+/// What is there when the window opens is read with it.
+void FocusKeeper::speak(const QString& words)
 {
-    QWidget* announced = nullptr;
-    forEachMounted(root, [&](const Mounted& each) {
-        if (each.as<Text>() != nullptr && each.as<Text>()->announced) {
-            announced = each.standing.widget;
-        }
-    });
-    if (announced != nullptr && announced != announced_ && alert_ == nullptr) {
-        announced->setFocus(Qt::OtherFocusReason);
+    if (spoken_ && spoken_ != words && !words.isEmpty()) {
+        announcer_.say(words);
     }
-    announced_ = announced;
+    spoken_ = words;
 }
 
 FocusKeeper::Places FocusKeeper::placesIn(const Mounted& root) const

@@ -1,17 +1,22 @@
 #pragma once
 
+#include "view/qt/Accessibility.h"
 #include "view/qt/Mounted.h"
 
 #include <QPointer>
 
+#include <optional>
+
 namespace corvellane::view {
 
 /// Sees to the keyboard focus: the Tab key follows the reading order; while an alert is shown nothing behind it can be
-/// used, the alert has the focus, and the focus goes back afterwards; a text that is to be read out takes it.
+/// used, the alert has the focus, and the focus goes back afterwards; texts that are new are announced as they ask for
+/// it.
 class FocusKeeper {
 public:
     explicit FocusKeeper(QWidget& window)
         : window_(window)
+        , announcer_(window)
     {
     }
 
@@ -36,15 +41,18 @@ public:
 
 private:
     void setTabOrder(const Mounted& root) const;
-    void settleAlert(QWidget* alert, const Mounted& root);
-    void readOut(const Mounted& root);
+    void settleAlert(const Mounted& root, const Mounted* modal);
+    void speak(const QString& words);
     void giveBack();
 
     QWidget& window_;
     QPointer<QWidget> before_;
     QPointer<QWidget> behindAlert_;
     QPointer<QWidget> alert_;
-    QPointer<QWidget> announced_;
+    QPointer<QWidget> textToRead_;
+    Announcer announcer_;
+    /// As of the last time; absent before the first.
+    std::optional<QString> spoken_;
 };
 
 } // namespace corvellane::view

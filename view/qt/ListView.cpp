@@ -1,6 +1,7 @@
 #include "view/qt/ListView.h"
 
 #include "base/PathNames.h"
+#include "view/qt/Accessibility.h"
 #include "view/qt/Appearance.h"
 #include "view/qt/Pictures.h"
 
@@ -8,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <utility>
@@ -206,9 +208,35 @@ ListView::ListView(QWidget* parent, const bool& deaf)
     setModel(&model_);
 }
 
+void ListView::dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles)
+{
+    QListView::dataChanged(first, last, roles);
+    if (roles.contains(Qt::CheckStateRole)) {
+        for (int row = first.row(); row <= last.row(); ++row) {
+            tellTick(*this, row);
+        }
+    }
+}
+
+/// The list as a whole is what gets the focus; its row, the first one in the beginning, is spoken of after it.
+void ListView::focusInEvent(QFocusEvent* event)
+{
+    if (event->reason() != Qt::MouseFocusReason && !currentIndex().isValid()) {
+        const QSignalBlocker silently(selectionModel());
+        selectionModel()->setCurrentIndex(model_.index(0), QItemSelectionModel::NoUpdate);
+    }
+    QListView::focusInEvent(event);
+    const auto tellRow = [this] {
+        if (hasFocus() && currentIndex().isValid()) {
+            tellFocus(*this, currentIndex().row());
+        }
+    };
+    QMetaObject::invokeMethod(this, tellRow, Qt::QueuedConnection);
+}
+
 void ListView::present(const List& list)
 {
-    setAccessibleName(QString::fromStdString(list.name));
+    nameForAssistance(*this, QString::fromStdString(list.name));
     const List& shown = model_.list();
     if (std::tie(list.plain, list.ticked, list.font) != std::tie(shown.plain, shown.ticked, shown.font)) {
         scheduleDelayedItemsLayout();

@@ -65,6 +65,8 @@ public:
     void present(const List& list);
 
 protected:
+    void dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) override;
+    void focusInEvent(QFocusEvent* event) override;
     /// The second of two quick clicks is a click like the first.
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
 

@@ -1,5 +1,6 @@
 #include "view/qt/PushButton.h"
 
+#include "view/qt/Accessibility.h"
 #include "view/qt/Appearance.h"
 #include "view/qt/Pictures.h"
 
@@ -46,7 +47,7 @@ void PushButton::present(const Button& button)
     isLink_ = button.style == Button::Style::link;
     setFont(fontOf({standardFont.size, button.style == Button::Style::emphasised}));
     setText(withoutMnemonics(label));
-    setAccessibleName(label);
+    nameForAssistance(*this, label);
     setCursor(isLink_ ? Qt::PointingHandCursor : Qt::ArrowCursor);
     setIcon(button.symbol.empty() ? QIcon() : symbolIcon(button.symbol));
     setEnabled(button.enabled);

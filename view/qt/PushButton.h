@@ -7,9 +7,9 @@
 
 namespace corvellane::view {
 
-/// The widget of a button. No shortcut, no mnemonic, never a default button; while it has the focus the space bar, Return
-/// and Enter press it, once however long they are held. Performs nothing while `deaf`, nor afterwards for a press made
-/// then.
+/// The widget of a button. No shortcut, no mnemonic, never a default button; while it has the focus the space bar,
+/// Return and Enter press it, once however long they are held. Performs nothing while `deaf`, nor afterwards for a
+/// press made then.
 class PushButton : public QPushButton, public Measurable {
 public:
     PushButton(QWidget* parent, const bool& deaf);

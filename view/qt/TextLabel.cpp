@@ -1,5 +1,6 @@
 #include "view/qt/TextLabel.h"
 
+#include "view/qt/Accessibility.h"
 #include "view/qt/Appearance.h"
 
 #include <QTextBoundaryFinder>
@@ -54,12 +55,14 @@ void TextLabel::present(const Text& text)
     colors.setColor(QPalette::WindowText, colorOf(text.tint));
     setPalette(colors);
     setAlignment(text.lines == Placement::centre ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
-    setFocusPolicy(text.announced ? Qt::TabFocus : Qt::NoFocus);
+    setFocusPolicy(text.announcement == Announcement::focused ? Qt::TabFocus : Qt::NoFocus);
+    // The name first: a label that has one tells of no other when its text changes.
+    nameForAssistance(*this, wordsOf(text));
     setText(withShortWordsBound(wordsOf(text)));
-    setAccessibleName(wordsOf(text));
     const int natural = fontMetrics().size(0, this->text()).width() + 1;
     widths_ = {std::min(natural, widestStretch(fontMetrics(), this->text()) + 1), natural};
     measuredWidth_ = -1;
+    describeForAssistance(*this, text.remark.empty() ? QString() : localized(text.remark));
 }
 
 Extent TextLabel::widthExtent() const

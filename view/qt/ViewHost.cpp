@@ -89,8 +89,6 @@ void ViewHost::endWait()
     frozen_ = false;
     if (std::exchange(outdated_, false)) {
         rebuild();
-    } else if (std::exchange(scheduled_, false)) {
-        scheduleRedraw();
     }
 }
 

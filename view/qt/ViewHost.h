@@ -33,7 +33,7 @@ public:
     /// The program waits from now on: the window keeps showing what it shows, makes no tree and hears no person.
     void beginWait();
 
-    /// The wait has ended, and trees are made again.
+    /// The wait has ended; trees are made again from its outcome on, so that nothing between the two is seen or heard.
     void endWait();
 
     /// What the wait has led to is in the state: shows it, and hears the person again once it is on the screen.

@@ -1,5 +1,6 @@
 #include "view/qt/Wait.h"
 
+#include "view/qt/Accessibility.h"
 #include "view/qt/Appearance.h"
 
 #include <QEvent>
@@ -160,7 +161,7 @@ void Wait::begin()
 {
     deaf_ = true;
     gate_.shut();
-    bar_.setAccessibleName(localized("Progress of the installation"));
+    nameForAssistance(bar_, localized("Progress of the installation"));
     beat_.start(beat);
 }
 

@@ -1,5 +1,6 @@
 #include "view/qt/Widgets.h"
 
+#include "view/qt/Accessibility.h"
 #include "view/qt/ListView.h"
 #include "view/qt/LogView.h"
 #include "view/qt/Pictures.h"
@@ -52,7 +53,7 @@ struct Presenter {
     Standing operator()(const RichText& rich) const
     {
         QWidget* const viewer = standing.widget != nullptr ? standing.widget : makeRichTextViewer(*rich.text, parent);
-        viewer->setAccessibleName(QString::fromStdString(rich.name));
+        nameForAssistance(*viewer, QString::fromStdString(rich.name));
         return {viewer};
     }
 
