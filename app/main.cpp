@@ -1,13 +1,12 @@
 #include "app/Installer.h"
 #include "platform/posix/ProcessSetup.h"
-
-#include <QApplication>
+#include "platform/qt/Display.h"
 
 int main(int count, char** arguments)
 {
     corvellane::setUpProcess();
     QGuiApplication::setDesktopFileName("com.corvellane.PluginInstaller");
-    const QApplication platform(count, arguments);
+    const QApplication platform = corvellane::applicationOnDisplay(count, arguments);
     corvellane::view::ViewHost::prepareApplication();
     return corvellane::Installer().run();
 }

@@ -1,15 +1,14 @@
 #include "app/Installer.h"
 #include "platform/posix/ProcessSetup.h"
+#include "platform/qt/Display.h"
 #include "tools/CommandLine.h"
 #include "tools/Rehearsal.h"
-
-#include <QApplication>
 
 int main(int count, char** arguments)
 {
     using namespace corvellane;
     setUpProcess();
-    const QApplication platform(count, arguments);
+    const QApplication platform = applicationOnDisplay(count, arguments);
     CLI::App program("The wizard with its window, installing below a scratch folder.", "rehearse-window");
     std::string products;
     std::string into;
