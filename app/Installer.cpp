@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/WaitingWindow.h"
+#include "app/WindowIcon.h"
 #include "platform/Resources.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtDispatcher.h"
@@ -29,6 +30,7 @@ Installer::Installer(DesktopSystem system, const std::string& translations)
     , scene_(system_.platform())
 {
     AppDelegate::applicationDidFinishLaunching(*system_.application);
+    showIcon(window());
     showWaits(*system_.qtDispatcher, window());
     window().setPartDone([meter = system_.meter] { return meter->partDone(); });
     system_.qtApplication->offerMainMenu(window(), [this] { return window().hears(); });
