@@ -3,19 +3,31 @@
 # depends on instead.
 
 set(bundle "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
-set(plugins ${qtPlugins}/platforms/libqoffscreen.so ${qtPlugins}/platforms/libqxcb.so)
+# Windows are drawn in memory: of Wayland, nothing is taken that needs a graphics driver.
+set(plugins
+    platforms/libqoffscreen.so
+    platforms/libqwayland-generic.so
+    platforms/libqxcb.so
+    wayland-decoration-client/libbradient.so
+    wayland-shell-integration/libxdg-shell.so)
+set(pluginFiles ${plugins})
+list(TRANSFORM pluginFiles PREPEND ${qtPlugins}/)
 
-# The C and C++ libraries, fonts, D-Bus, and what talks to the display and its drivers are the machine's own.
+# The C and C++ libraries, fonts, D-Bus, and what talks to the display and its drivers are the machine's own. A library
+# for Wayland's mouse pointers is not on every desktop.
 file(GET_RUNTIME_DEPENDENCIES
     EXECUTABLES ${bundle}/bin/corvellane-installer
-    MODULES ${plugins}
+    MODULES ${pluginFiles}
     RESOLVED_DEPENDENCIES_VAR libraries
     PRE_INCLUDE_REGEXES ^libQt6 ^libicu ^libxcb- ^libxkbcommon
-        "^lib(b2|double-conversion|gomp|md4c|OpenGL|pcre2-16|png16|utf8proc)[.]"
+        "^lib(b2|double-conversion|gomp|md4c|OpenGL|pcre2-16|png16|utf8proc|wayland-cursor)[.]"
     PRE_EXCLUDE_REGEXES .)
 
 file(INSTALL ${libraries} DESTINATION ${bundle}/lib FOLLOW_SYMLINK_CHAIN)
-file(INSTALL ${plugins} DESTINATION ${bundle}/plugins/platforms)
+foreach(plugin ${plugins})
+    cmake_path(GET plugin PARENT_PATH kind)
+    file(INSTALL ${qtPlugins}/${plugin} DESTINATION ${bundle}/plugins/${kind})
+endforeach()
 file(WRITE ${bundle}/bin/qt.conf "[Paths]\nPrefix = ..\nPlugins = plugins\n")
 
 foreach(library ${libraries})

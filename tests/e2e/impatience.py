@@ -39,6 +39,17 @@ class Screen:
 
         wait_for("the answer to a ping", is_answered)
 
+    def icon_sizes(self):
+        """The widths of the window's icons; the window manager gives one of its own to a window without any."""
+        icons = self.window.get_full_property(self.display.intern_atom("_NET_WM_ICON"), X.AnyPropertyType)
+        words = list(icons.value) if icons else []
+        sizes = []
+        while words:
+            width, height = words[:2]
+            sizes.append(width)
+            del words[: 2 + width * height]
+        return sizes
+
     def picture(self):
         """The window's pixels, without the bar at its lower edge."""
         size = self.window.get_geometry()

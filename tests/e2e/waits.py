@@ -47,6 +47,7 @@ def waits_until(desktop, outcome):
     wizard = Wizard(desktop, BUNDLE, "/Applications/output")
     wizard.walk_to_the_confirmation()
     screen = Screen(wizard)
+    wait_for("the icon", lambda: screen.icon_sizes() == [16, 24, 32, 48, 64, 128, 256])
     click(wizard, "Install")
     look_at_the_wait(wizard, screen, desktop.managed)
     impatient = clicking(wizard, "Next", 20)
