@@ -95,10 +95,6 @@
 <context>
     <name>Menu</name>
     <message>
-        <source>Corvellane Plugin Installer</source>
-        <translation>Corvellane Plugin Installer</translation>
-    </message>
-    <message>
         <source>Quit</source>
         <translation>Beenden</translation>
     </message>
@@ -113,6 +109,99 @@
     <message>
         <source>Zoom</source>
         <translation>Zoomen</translation>
+    </message>
+</context>
+<context>
+    <name>Desktop</name>
+    <message>
+        <source>Install the Corvellane image and video plug-ins</source>
+        <translation>Die Bild- und Video-Plug-ins von Corvellane installieren</translation>
+    </message>
+    <message>
+        <source>plug-in;photo;video;install;</source>
+        <translation>Plug-in;Foto;Video;installieren;</translation>
+    </message>
+    <message>
+        <source>A wizard that installs the Corvellane plug-ins for photo and video applications: it shows the licence agreement, lets you choose the products, asks once for an administrator's password, and shows the full log when something goes wrong.</source>
+        <translation>Ein Assistent, der die Corvellane-Plug-ins für Foto- und Videoprogramme installiert: Er zeigt den Lizenzvertrag, lässt Sie die Produkte auswählen, fragt einmal nach dem Passwort eines Administrators und zeigt das vollständige Protokoll, wenn etwas schiefgeht.</translation>
+    </message>
+    <message>
+        <source>Install plug-ins</source>
+        <translation>Plug-ins installieren</translation>
+    </message>
+    <message>
+        <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Zum Installieren der ausgewählten Corvellane-Plug-ins für alle Benutzer dieses Rechners ist eine Legitimierung nötig</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>&amp;Link-Adresse kopieren</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alle auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Hierher blättern</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Rechter Rand</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Seite nach links</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Seite nach oben</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Seite nach rechts</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Seite nach unten</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Nach links blättern</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Nach oben blättern</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Nach rechts blättern</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Nach unten blättern</translation>
     </message>
 </context>
 </TS>

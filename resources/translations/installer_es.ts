@@ -95,10 +95,6 @@
 <context>
     <name>Menu</name>
     <message>
-        <source>Corvellane Plugin Installer</source>
-        <translation>Corvellane Plugin Installer</translation>
-    </message>
-    <message>
         <source>Quit</source>
         <translation>Salir</translation>
     </message>
@@ -113,6 +109,99 @@
     <message>
         <source>Zoom</source>
         <translation>Ampliar/reducir</translation>
+    </message>
+</context>
+<context>
+    <name>Desktop</name>
+    <message>
+        <source>Install the Corvellane image and video plug-ins</source>
+        <translation>Instalar los complementos de imagen y vídeo de Corvellane</translation>
+    </message>
+    <message>
+        <source>plug-in;photo;video;install;</source>
+        <translation>complemento;foto;vídeo;instalar;</translation>
+    </message>
+    <message>
+        <source>A wizard that installs the Corvellane plug-ins for photo and video applications: it shows the licence agreement, lets you choose the products, asks once for an administrator's password, and shows the full log when something goes wrong.</source>
+        <translation>Un asistente que instala los complementos de Corvellane para aplicaciones de foto y vídeo: muestra el contrato de licencia, permite elegir los productos, pide una sola vez la contraseña de un administrador y muestra el registro completo si algo sale mal.</translation>
+    </message>
+    <message>
+        <source>Install plug-ins</source>
+        <translation>Instalar complementos</translation>
+    </message>
+    <message>
+        <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Se requiere autenticación para instalar los complementos de Corvellane seleccionados para todos los usuarios de este equipo</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copiar dirección del en&amp;lace</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Desplazar hasta aquí</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Borde izquierdo</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Principio</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Borde derecho</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Final</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Página a la izquierda</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Página arriba</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Página a la derecha</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Página abajo</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Desplazar a la izquierda</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Desplazar hacia arriba</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Desplazar a la derecha</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Desplazar hacia abajo</translation>
     </message>
 </context>
 </TS>

@@ -95,10 +95,6 @@
 <context>
     <name>Menu</name>
     <message>
-        <source>Corvellane Plugin Installer</source>
-        <translation>Corvellane Plugin Installer</translation>
-    </message>
-    <message>
         <source>Quit</source>
         <translation>Quitter</translation>
     </message>
@@ -113,6 +109,99 @@
     <message>
         <source>Zoom</source>
         <translation>Agrandir/Réduire</translation>
+    </message>
+</context>
+<context>
+    <name>Desktop</name>
+    <message>
+        <source>Install the Corvellane image and video plug-ins</source>
+        <translation>Installer les modules d’image et de vidéo Corvellane</translation>
+    </message>
+    <message>
+        <source>plug-in;photo;video;install;</source>
+        <translation>module;photo;vidéo;installer;</translation>
+    </message>
+    <message>
+        <source>A wizard that installs the Corvellane plug-ins for photo and video applications: it shows the licence agreement, lets you choose the products, asks once for an administrator's password, and shows the full log when something goes wrong.</source>
+        <translation>Un assistant qui installe les modules Corvellane pour les applications de photo et de vidéo : il présente le contrat de licence, laisse choisir les produits, demande une seule fois le mot de passe d’un administrateur et affiche le journal complet en cas de problème.</translation>
+    </message>
+    <message>
+        <source>Install plug-ins</source>
+        <translation>Installer des modules</translation>
+    </message>
+    <message>
+        <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Une authentification est requise pour installer les modules Corvellane sélectionnés pour tous les utilisateurs de cet ordinateur</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copier l’adresse du &amp;lien</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Défiler jusqu’ici</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Bord gauche</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Bord droit</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Page à gauche</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Page à droite</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Défiler vers la gauche</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Défiler vers le haut</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Défiler vers la droite</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Défiler vers le bas</translation>
     </message>
 </context>
 </TS>

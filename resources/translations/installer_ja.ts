@@ -95,10 +95,6 @@
 <context>
     <name>Menu</name>
     <message>
-        <source>Corvellane Plugin Installer</source>
-        <translation>Corvellane Plugin Installer</translation>
-    </message>
-    <message>
         <source>Quit</source>
         <translation>終了</translation>
     </message>
@@ -113,6 +109,99 @@
     <message>
         <source>Zoom</source>
         <translation>拡大／縮小</translation>
+    </message>
+</context>
+<context>
+    <name>Desktop</name>
+    <message>
+        <source>Install the Corvellane image and video plug-ins</source>
+        <translation>Corvellane の画像・動画用プラグインをインストールします</translation>
+    </message>
+    <message>
+        <source>plug-in;photo;video;install;</source>
+        <translation>プラグイン;写真;動画;インストール;</translation>
+    </message>
+    <message>
+        <source>A wizard that installs the Corvellane plug-ins for photo and video applications: it shows the licence agreement, lets you choose the products, asks once for an administrator's password, and shows the full log when something goes wrong.</source>
+        <translation>写真と動画のアプリケーション用の Corvellane プラグインをインストールするウィザードです。使用許諾契約を表示し、製品を選択でき、管理者のパスワードを一度だけ求め、問題が起きたときは完全なログを表示します。</translation>
+    </message>
+    <message>
+        <source>Install plug-ins</source>
+        <translation>プラグインのインストール</translation>
+    </message>
+    <message>
+        <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>選択した Corvellane プラグインをこのコンピューターのすべてのユーザー用にインストールするには認証が必要です</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>リンクのアドレスをコピー(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべてを選択</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>ここまでスクロール</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左端</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>先頭</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右端</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>末尾</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>前のページへ(左)</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>前のページ</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>次のページへ(右)</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>次のページ</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>左へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>上へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>右へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>下へスクロール</translation>
     </message>
 </context>
 </TS>

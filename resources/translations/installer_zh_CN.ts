@@ -95,10 +95,6 @@
 <context>
     <name>Menu</name>
     <message>
-        <source>Corvellane Plugin Installer</source>
-        <translation>Corvellane Plugin Installer</translation>
-    </message>
-    <message>
         <source>Quit</source>
         <translation>退出</translation>
     </message>
@@ -113,6 +109,99 @@
     <message>
         <source>Zoom</source>
         <translation>缩放</translation>
+    </message>
+</context>
+<context>
+    <name>Desktop</name>
+    <message>
+        <source>Install the Corvellane image and video plug-ins</source>
+        <translation>安装 Corvellane 图像和视频插件</translation>
+    </message>
+    <message>
+        <source>plug-in;photo;video;install;</source>
+        <translation>插件;照片;视频;安装;</translation>
+    </message>
+    <message>
+        <source>A wizard that installs the Corvellane plug-ins for photo and video applications: it shows the licence agreement, lets you choose the products, asks once for an administrator's password, and shows the full log when something goes wrong.</source>
+        <translation>为照片和视频应用程序安装 Corvellane 插件的向导：显示许可协议，让您选择产品，只需输入一次管理员密码，并在出现问题时显示完整日志。</translation>
+    </message>
+    <message>
+        <source>Install plug-ins</source>
+        <translation>安装插件</translation>
+    </message>
+    <message>
+        <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>要为此计算机的所有用户安装所选的 Corvellane 插件，需要进行身份验证</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>复制链接地址(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>滚动到此处</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左边缘</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>顶部</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右边缘</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>底部</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>向左翻页</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>向上翻页</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>向右翻页</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>向下翻页</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>向上滚动</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>向右滚动</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>向下滚动</translation>
     </message>
 </context>
 </TS>
