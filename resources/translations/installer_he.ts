@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Click Agree to continue or click Disagree to cancel and quit the Installer.</source>
-        <translation>יש ללחוץ על „הסכמה” כדי להמשיך או על „סירוב” כדי לבטל ולצאת מתוכנית ההתקנה.</translation>
+        <translation>יש ללחוץ על &quot;הסכמה&quot; כדי להמשיך או על &quot;סירוב&quot; כדי לבטל ולצאת מתוכנית ההתקנה.</translation>
     </message>
     <message>
         <source>Read License</source>
@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Click &quot;Install&quot; button to complete the installation.</source>
-        <translation>יש ללחוץ על „התקנה” כדי להשלים את ההתקנה.</translation>
+        <translation>יש ללחוץ על &quot;התקנה&quot; כדי להשלים את ההתקנה.</translation>
     </message>
     <message>
         <source>Cancel</source>
