@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Click Agree to continue or click Disagree to cancel and quit the Installer.</source>
-        <translation>Jätkamiseks klõpsake „Nõustun“; loobumiseks ja paigaldusprogrammist väljumiseks klõpsake „Ei nõustu“.</translation>
+        <translation>Jätkamiseks klõpsake „Nõustun“, loobumiseks ja paigaldusprogrammist väljumiseks „Ei nõustu“.</translation>
     </message>
     <message>
         <source>Read License</source>

@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Read License</source>
-        <translation>Прочитать лицензию</translation>
+        <translation>Читать лицензию</translation>
     </message>
     <message>
         <source>Disagree</source>

@@ -41,23 +41,23 @@
     </message>
     <message>
         <source>To continue using the software you must agree to the terms of the software license agreement.</source>
-        <translation>Щоб і надалі користуватися програмним забезпеченням, потрібно погодитися з умовами ліцензійної угоди.</translation>
+        <translation>Щоб і надалі користуватися програмним забезпеченням, потрібно прийняти умови ліцензійної угоди.</translation>
     </message>
     <message>
         <source>Click Agree to continue or click Disagree to cancel and quit the Installer.</source>
-        <translation>Натисніть «Погоджуюсь», щоб продовжити, або «Не погоджуюсь», щоб скасувати встановлення й вийти з програми встановлення.</translation>
+        <translation>Натисніть «Приймаю», щоб продовжити, або «Не приймаю», щоб скасувати встановлення й вийти з програми встановлення.</translation>
     </message>
     <message>
         <source>Read License</source>
-        <translation>Прочитати ліцензію</translation>
+        <translation>Читати ліцензію</translation>
     </message>
     <message>
         <source>Disagree</source>
-        <translation>Не погоджуюсь</translation>
+        <translation>Не приймаю</translation>
     </message>
     <message>
         <source>Agree</source>
-        <translation>Погоджуюсь</translation>
+        <translation>Приймаю</translation>
     </message>
     <message>
         <source>Click &quot;Install&quot; button to complete the installation.</source>
