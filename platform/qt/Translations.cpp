@@ -1,7 +1,6 @@
 #include "platform/qt/Translations.h"
 
 #include <QCoreApplication>
-#include <QLibraryInfo>
 
 namespace corvellane {
 
@@ -9,11 +8,14 @@ namespace {
 
 QString nameOf(const QLocale& language)
 {
-    if (language.language() != QLocale::Chinese) {
-        return QLocale::languageToCode(language.language());
+    switch (language.language()) {
+    case QLocale::Chinese:
+        return language.script() == QLocale::SimplifiedHanScript ? QStringLiteral("zh_CN") : QStringLiteral("zh_TW");
+    case QLocale::NorwegianNynorsk:
+        return QStringLiteral("nb");
+    default:
+        return language.name();
     }
-    const bool simplified = language.script() == QLocale::SimplifiedHanScript;
-    return simplified ? QStringLiteral("zh_CN") : QStringLiteral("zh_TW");
 }
 
 } // namespace
@@ -25,22 +27,14 @@ Translations::Translations(const std::string& folder, const QLocale& locale)
     }
     for (const QString& tag : locale.uiLanguages()) {
         const QLocale language(tag);
-        if (language.language() == QLocale::English || language.language() == QLocale::C || !translators_.empty()) {
+        if (language.language() == QLocale::English || language.language() == QLocale::C) {
             return;
         }
-        install(QStringLiteral("installer_") + nameOf(language), QString::fromStdString(folder));
-        if (!translators_.empty()) {
-            install(QStringLiteral("qtbase_") + nameOf(language), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+        // For "de_AT", Qt goes on to "de" by itself.
+        if (table_.load(QStringLiteral("installer_") + nameOf(language), QString::fromStdString(folder))) {
+            QCoreApplication::installTranslator(&table_);
+            return;
         }
-    }
-}
-
-void Translations::install(const QString& name, const QString& folder)
-{
-    auto translator = std::make_unique<QTranslator>();
-    if (translator->load(name, folder)) {
-        QCoreApplication::installTranslator(translator.get());
-        translators_.push_back(std::move(translator));
     }
 }
 

@@ -3,25 +3,22 @@
 #include <QLocale>
 #include <QTranslator>
 
-#include <memory>
 #include <string>
-#include <vector>
 
 namespace corvellane {
 
-/// The tables of translated texts that lie in a folder as "installer_LANGUAGE.qm", LANGUAGE being "de" or "zh_CN", and
-/// Qt's own for the same language. They hold for as long as this lives; a text is looked up in the context
-/// "Installer" and stays as written without an entry. Main thread.
+/// The table of translated texts for a person's language, from a folder with tables "installer_LANGUAGE.qm", LANGUAGE
+/// being "de", "pt_BR" or "zh_TW". A table holds the window's own texts, in the contexts "Installer" and "Menu", and
+/// Qt's words that the window can show, with the direction that text runs in. It holds for as long as this lives; a
+/// text without an entry stays as written. Main thread.
 class Translations {
 public:
     /// Installs the table of the first of the locale's languages that has one; none once English comes first, and none
-    /// where the folder is empty.
+    /// where the folder is empty. Whoever writes Norwegian of either kind gets "nb"; Chinese goes by its script.
     Translations(const std::string& folder, const QLocale& locale);
 
 private:
-    void install(const QString& name, const QString& folder);
-
-    std::vector<std::unique_ptr<QTranslator>> translators_;
+    QTranslator table_;
 };
 
 } // namespace corvellane
