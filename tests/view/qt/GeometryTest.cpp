@@ -1,9 +1,12 @@
+#include "platform/qt/Translations.h"
 #include "tests/view/qt/WindowWorld.h"
 #include "view/qt/Appearance.h"
 #include "view/qt/Layout.h"
 #include "view/qt/LogView.h"
 
 #include <QClipboard>
+#include <QDir>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
@@ -96,6 +99,50 @@ TEST_F(WindowWorld, cutsNothingOffInLargeLetters)
         }
     }
     QApplication::setFont(usual);
+}
+
+/// Every page, every alert and the panel, one after the other.
+class EverySight : public WindowWorld {
+protected:
+    void expectNothingCutOffAnywhere(const std::string& where)
+    {
+        settings().completedWithErrors.set(true);
+        for (const Page page : allPages) {
+            goTo(page);
+            expectNothingCutOff(window(), where);
+        }
+        for (auto* const flag : {&settings().showLogDetailsWindow, &settings().showFinderAlert,
+                 &settings().showPermanentlyAlert, &settings().showLicenseAlert}) {
+            settings().currentPage.set(flag == &settings().showLogDetailsWindow ? Page::summary : Page::install);
+            show(*flag, true);
+            expectNothingCutOff(window(), where);
+            flag->set(false);
+        }
+    }
+};
+
+TEST_F(EverySight, hasRoomForEveryLanguage)
+{
+    const QFont usual = QApplication::font();
+    QFont doubled = usual;
+    doubled.setPixelSize(30);
+    for (const QString& table : QDir(TRANSLATIONS).entryList({"*.qm"})) {
+        const QString language = table.section('_', 1).section('.', 0, 0);
+        if (language == "hi" && QFontDatabase::families(QFontDatabase::Devanagari).isEmpty()) {
+            continue; // without a font its letters do not join, and take other room each time
+        }
+        const Translations translations(TRANSLATIONS, QLocale(language));
+        settle();
+        expectNothingCutOffAnywhere(language.toStdString() + " ");
+        EXPECT_EQ(window().size(), QSize(648, 405)) << language.toStdString();
+        QApplication::setFont(doubled);
+        settle();
+        expectNothingCutOffAnywhere(language.toStdString() + ", doubled, ");
+        EXPECT_LE(window().width(), 1024) << language.toStdString();
+        QApplication::setFont(usual);
+        settle();
+        window().resize(648, 405);
+    }
 }
 
 TEST(LogText, findsThePiecesInSight)
