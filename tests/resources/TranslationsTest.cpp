@@ -107,7 +107,7 @@ TEST_F(Translated, everyTextInEveryLanguageAndButtonsByTheirNames)
         {R"(Click "Install" button to complete the installation.)", "Install"},
     };
     const std::map<QString, Table> tables = allTables();
-    EXPECT_EQ(tables.size(), 38U);
+    EXPECT_GE(tables.size(), 38U);
     for (const auto& [name, table] : tables) {
         SCOPED_TRACE(name.toStdString());
         Table missing = tables.at("installer_de.ts");
