@@ -9,6 +9,7 @@
 #include "platform/qt/QtPasteboard.h"
 
 #include <QApplication>
+#include <QLocale>
 
 #include <utility>
 
@@ -26,7 +27,7 @@ DesktopSystem::DesktopSystem()
 
 Installer::Installer(DesktopSystem system, const std::string& translations)
     : system_(std::move(system))
-    , translations_(translations, QLocale::system())
+    , translations_(translations, QLocale::system().uiLanguages())
     , scene_(system_.platform())
 {
     AppDelegate::applicationDidFinishLaunching(*system_.application);

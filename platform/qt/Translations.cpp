@@ -1,12 +1,13 @@
 #include "platform/qt/Translations.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 namespace corvellane {
 
 namespace {
 
-QString nameOf(const QLocale& language)
+QString nameOf(const QString& tag, const QLocale& language)
 {
     switch (language.language()) {
     case QLocale::Chinese:
@@ -14,24 +15,25 @@ QString nameOf(const QLocale& language)
     case QLocale::NorwegianNynorsk:
         return QStringLiteral("nb");
     default:
-        return language.name();
+        // "pt" alone is Portugal's here, Brazil's to QLocale.
+        return tag.contains('-') || tag.contains('_') ? language.name() : QLocale::languageToCode(language.language());
     }
 }
 
 } // namespace
 
-Translations::Translations(const std::string& folder, const QLocale& locale)
+Translations::Translations(const std::string& folder, const QStringList& languages)
 {
     if (folder.empty()) {
         return; // Qt would look in the working directory
     }
-    for (const QString& tag : locale.uiLanguages()) {
+    for (const QString& tag : languages) {
         const QLocale language(tag);
         if (language.language() == QLocale::English || language.language() == QLocale::C) {
             return;
         }
         // For "de_AT", Qt goes on to "de" by itself.
-        if (table_.load(QStringLiteral("installer_") + nameOf(language), QString::fromStdString(folder))) {
+        if (table_.load(QStringLiteral("installer_") + nameOf(tag, language), QString::fromStdString(folder))) {
             QCoreApplication::installTranslator(&table_);
             return;
         }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLocale>
+#include <QStringList>
 #include <QTranslator>
 
 #include <string>
@@ -13,9 +13,10 @@ namespace corvellane {
 /// text without an entry stays as written. Main thread.
 class Translations {
 public:
-    /// Installs the table of the first of the locale's languages that has one; none once English comes first, and none
-    /// where the folder is empty. Whoever writes Norwegian of either kind gets "nb"; Chinese goes by its script.
-    Translations(const std::string& folder, const QLocale& locale);
+    /// Installs the table of the first of the languages, as QLocale::uiLanguages() names them, that has one; none once
+    /// English comes first, and none where the folder is empty. Whoever writes Norwegian of either kind gets "nb";
+    /// Chinese goes by its script.
+    Translations(const std::string& folder, const QStringList& languages);
 
 private:
     QTranslator table_;

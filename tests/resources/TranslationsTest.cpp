@@ -176,20 +176,24 @@ TEST(Translations, takesTheTableOfTheSystemsLanguage)
         {"zh_CN", "下一步"}, {"zh_SG", "下一步"}, {"zh_Hans_HK", "下一步"}, {"sr_RS", "Next"}, {"ca_ES", "Next"},
         {"en_GB", "Next"}, {"C", "Next"}};
     for (const auto& [locale, next] : rows) {
-        const Translations translations(TRANSLATIONS, QLocale(QString::fromLatin1(locale)));
+        const Translations translations(TRANSLATIONS, QLocale(QString::fromLatin1(locale)).uiLanguages());
         EXPECT_EQ(QCoreApplication::translate("Installer", "Next").toStdString(), next) << locale;
     }
     for (const char* const locale : {"zh_TW", "zh_HK", "zh_MO", "zh-Hant"}) {
-        const Translations translations(TRANSLATIONS, QLocale(QString::fromLatin1(locale)));
+        const Translations translations(TRANSLATIONS, QLocale(QString::fromLatin1(locale)).uiLanguages());
         EXPECT_EQ(QCoreApplication::translate("Installer", "Close").toStdString(), "關閉") << locale;
     }
     {
-        const Translations arabic(TRANSLATIONS, QLocale(QLocale::Arabic));
+        const Translations afterCatalan(TRANSLATIONS, {"ca", "pt", "de"});
+        EXPECT_EQ(QCoreApplication::translate("Installer", "Next"), QStringLiteral("Seguinte")) << "not Brazil's";
+    }
+    {
+        const Translations arabic(TRANSLATIONS, {"ar"});
         EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::RightToLeft);
     }
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
     QDir::setCurrent(TRANSLATIONS);
-    const Translations nowhere("", QLocale(QLocale::German));
+    const Translations nowhere("", {"de"});
     EXPECT_EQ(QCoreApplication::translate("Installer", "Next"), QStringLiteral("Next"));
 }
 

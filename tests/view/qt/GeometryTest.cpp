@@ -131,7 +131,7 @@ TEST_F(EverySight, hasRoomForEveryLanguage)
         if (language == "hi" && QFontDatabase::families(QFontDatabase::Devanagari).isEmpty()) {
             continue; // without a font its letters do not join, and take other room each time
         }
-        const Translations translations(TRANSLATIONS, QLocale(language));
+        const Translations translations(TRANSLATIONS, {language});
         settle();
         expectNothingCutOffAnywhere(language.toStdString() + " ");
         EXPECT_EQ(window().size(), QSize(648, 405)) << language.toStdString();
