@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>تقدم التثبيت</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>الخطوة الحالية</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Напредък на инсталирането</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Текуща стъпка</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

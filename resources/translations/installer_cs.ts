@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Průběh instalace</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Aktuální krok</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Installationens forløb</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Nuværende trin</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Πρόοδος της εγκατάστασης</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Τρέχον βήμα</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Paigaldamise edenemine</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Praegune samm</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Asennuksen edistyminen</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Nykyinen vaihe</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Dul chun cinn na suiteála</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>An chéim reatha</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

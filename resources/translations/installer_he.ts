@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>התקדמות ההתקנה</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>השלב הנוכחי</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>इंस्टॉलेशन की प्रगति</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>वर्तमान चरण</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Napredak instalacije</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Trenutačni korak</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

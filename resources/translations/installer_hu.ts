@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>A telepítés folyamata</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Jelenlegi lépés</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

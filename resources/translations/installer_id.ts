@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Kemajuan pemasangan</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Langkah saat ini</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Avanzamento dell’installazione</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Passaggio attuale</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

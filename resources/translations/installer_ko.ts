@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>설치 진행 상황</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>현재 단계</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Diegimo eiga</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Dabartinis žingsnis</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Instalēšanas norise</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Pašreizējais solis</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Progress tal-installazzjoni</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Il-pass attwali</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

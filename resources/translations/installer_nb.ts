@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Fremdrift for installasjonen</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Nåværende trinn</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

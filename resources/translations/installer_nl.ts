@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Voortgang van de installatie</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Huidige stap</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

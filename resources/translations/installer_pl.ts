@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Postęp instalacji</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Bieżący krok</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Progresso da instalação</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Passo atual</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Progresul instalării</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Pasul curent</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Ход установки</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Текущий шаг</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Priebeh inštalácie</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Aktuálny krok</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Potek namestitve</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Trenutni korak</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

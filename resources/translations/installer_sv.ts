@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Installationens förlopp</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Aktuellt steg</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>ความคืบหน้าของการติดตั้ง</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>ขั้นตอนปัจจุบัน</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

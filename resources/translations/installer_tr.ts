@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Kurulumun ilerlemesi</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Geçerli adım</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

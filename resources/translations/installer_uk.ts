@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Перебіг встановлення</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Поточний крок</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

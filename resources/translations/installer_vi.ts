@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>Tiến trình cài đặt</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Bước hiện tại</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

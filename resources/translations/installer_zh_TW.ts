@@ -87,6 +87,10 @@
         <source>Progress of the installation</source>
         <translation>安裝進度</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>目前步驟</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
