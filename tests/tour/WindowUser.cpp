@@ -30,8 +30,8 @@ QList<Kind*> visible(const QWidget& window)
 bool WindowUser::reads(const std::string& text) const
 {
     const QList<QLabel*> labels = visible<QLabel>(window_);
-    return std::any_of(
-        labels.begin(), labels.end(), [&](const QLabel* label) { return label->accessibleName() == view::localized(text); });
+    return std::any_of(labels.begin(), labels.end(),
+        [&](const QLabel* label) { return label->accessibleName() == view::localized(text); });
 }
 
 /// Where several have the label, the one in front.
