@@ -49,23 +49,6 @@ TEST_F(RichTextViewer, wrapsAtItsOwnWidthAlsoAfterAResize)
     EXPECT_EQ(viewer_->horizontalScrollBar()->maximum(), 0);
 }
 
-TEST_F(RichTextViewer, opensAtItsBeginningWhereItGetsItsSizeOnlyAfterwards)
-{
-    for (const char* const start : {R"({\rtf1 )", R"({\rtf1\fs96 Large\par )"}) {
-        const auto text = rtf::read(start + std::string(R"(\fs24 first\par )") + std::string(9000, 'w') + "}").value();
-        auto* late = static_cast<QTextEdit*>(makeRichTextViewer(text, &window_));
-        late->setVisible(true);
-        late->resize(280, 150);
-        QApplication::processEvents();
-        late->setFocus(Qt::TabFocusReason);
-        late->resize(260, 90);
-        QApplication::processEvents();
-        EXPECT_GT(late->verticalScrollBar()->maximum(), 0);
-        EXPECT_EQ(late->verticalScrollBar()->value(), 0) << start;
-        delete late;
-    }
-}
-
 TEST_F(RichTextViewer, isReadAndCopiedButNotChanged)
 {
     const QString before = viewer_->toPlainText();
