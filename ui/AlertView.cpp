@@ -70,7 +70,8 @@ View automationPermissionCard(AppSettings& settings)
     return card(
         column(standardSpacing, Placement::centre,
             text("To make changes with Installer please allow Finder access from Settings", standardFont,
-                Placement::centre),
+                Placement::centre)
+                .withPadding(besideTheEdge),
             row(standardSpacing, button<&AppSettings::terminateApp>("Close", settings), std::move(openSettings)),
             holding(Timer{1.0, Action<bool()>::calling<&probeAgain>(settings)})),
         Tint::white, 500, 150);
