@@ -1,5 +1,6 @@
 #include "view/qt/LogView.h"
 
+#include "view/qt/Accessibility.h"
 #include "view/qt/Appearance.h"
 
 #include <QClipboard>
@@ -55,7 +56,7 @@ LogView::LogView(QWidget* parent)
 
 void LogView::present(const LogArea& log)
 {
-    setAccessibleName(localized(log.name));
+    nameForAssistance(*this, localized(log.name));
     lines_ = std::make_unique<LogText>(*log.text, fontOf(standardFont));
     selection_ = {};
     horizontalScrollBar()->setSingleStep(static_cast<int>(lines_->lineHeight()));

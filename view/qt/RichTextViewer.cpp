@@ -50,15 +50,6 @@ void insertParagraph(
     }
 }
 
-/// Stays at its beginning when it is first shown, whatever size it has by then: no cursor is to be brought into view.
-class TextViewer : public QTextEdit {
-public:
-    using QTextEdit::QTextEdit;
-
-protected:
-    void showEvent(QShowEvent* event) override { QAbstractScrollArea::showEvent(event); }
-};
-
 QPalette paperPalette(QPalette palette)
 {
     palette.setColor(QPalette::Base, Qt::white);
@@ -84,7 +75,7 @@ void fillTextDocument(QTextDocument& document, const rtf::AttributedText& text)
 
 QWidget* makeRichTextViewer(const rtf::AttributedText& text, QWidget* parent)
 {
-    auto* viewer = new TextViewer(parent);
+    auto* viewer = new QTextEdit(parent);
     viewer->setReadOnly(true);
     viewer->setTextInteractionFlags(
         Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::LinksAccessibleByMouse);
