@@ -62,6 +62,7 @@ void TextLabel::present(const Text& text)
     const int natural = fontMetrics().size(0, this->text()).width() + 1;
     widths_ = {std::min(natural, widestStretch(fontMetrics(), this->text()) + 1), natural};
     measuredWidth_ = -1;
+    balance(); // another text may stand in the same room
     describeForAssistance(*this, text.remark.empty() ? QString() : localized(text.remark));
 }
 
@@ -95,12 +96,17 @@ int TextLabel::balancedWidth(int width) const
     return least;
 }
 
-void TextLabel::resizeEvent(QResizeEvent* event)
+void TextLabel::balance()
 {
     const int spare = width() < widths_.maximum ? width() - balancedWidth(width()) : 0;
     const int before = alignment().testFlag(Qt::AlignHCenter) ? spare / 2 : 0;
     const int after = spare - before;
     setContentsMargins(isRightToLeft() ? after : before, 0, isRightToLeft() ? before : after, 0);
+}
+
+void TextLabel::resizeEvent(QResizeEvent* event)
+{
+    balance();
     QLabel::resizeEvent(event);
 }
 

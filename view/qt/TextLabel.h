@@ -27,6 +27,7 @@ protected:
 private:
     int measuredHeight(int width) const;
     int balancedWidth(int width) const;
+    void balance();
 
     Extent widths_;
     mutable int measuredWidth_ = -1;
