@@ -19,6 +19,11 @@ struct System {
     /// The services that stand here now. They live as long as this or a copy of it.
     Platform platform();
 
+    /// Asks nobody: installs from that products folder below the folder `into`, by the present user. Paths are absolute
+    /// and have no "/" at their end. None where the system has a script service of its own.
+    std::shared_ptr<script::AdministratorPrompt> makeRehearsalPrompt(
+        const std::string& products, const std::string& into) const;
+
     std::shared_ptr<Application> application;
     std::shared_ptr<Console> console;
     std::shared_ptr<Files> files;

@@ -2,9 +2,10 @@
 
 #include "platform/linux/LinuxShell.h"
 #include "platform/linux/PkexecPrompt.h"
+#include "platform/linux/RehearsalPrompt.h"
+#include "platform/linux/RootPrompt.h"
 #include "platform/linux/RunningExecutable.h"
 #include "platform/posix/ExecutableBundle.h"
-#include "platform/script/DirectPrompt.h"
 #include "platform/script/InterpretedScriptService.h"
 
 namespace corvellane {
@@ -14,12 +15,19 @@ void System::addServicesOfItsOwn()
     const auto bundle = std::make_shared<ExecutableBundle>(runningExecutable());
     resources = bundle;
     shell = std::make_shared<LinuxShell>(realUser());
+    const std::string runner = bundle->program("corvellane-command-runner").value_or("");
+    const std::string products = bundle->folder("Products").value_or("");
     if (hasRootRights()) {
-        prompt = std::make_shared<script::DirectPrompt>(shell);
+        prompt = std::make_shared<RootPrompt>(runner, products);
     } else {
-        prompt = std::make_shared<PkexecPrompt>(
-            bundle->program("corvellane-command-runner").value_or(""), bundle->folder("Products"));
+        prompt = std::make_shared<PkexecPrompt>(runner, products);
     }
+}
+
+std::shared_ptr<script::AdministratorPrompt> System::makeRehearsalPrompt(
+    const std::string& products, const std::string& into) const
+{
+    return std::make_shared<RehearsalPrompt>(runner::installFolders(into, realUser().home, products));
 }
 
 std::shared_ptr<ScriptService> System::makeScripts() const

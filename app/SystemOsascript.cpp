@@ -31,6 +31,11 @@ void System::addServicesOfItsOwn()
     resources = std::make_shared<ExecutableBundle>(runningExecutable());
 }
 
+std::shared_ptr<script::AdministratorPrompt> System::makeRehearsalPrompt(const std::string&, const std::string&) const
+{
+    return nullptr;
+}
+
 std::shared_ptr<ScriptService> System::makeScripts() const
 {
     return std::make_shared<OsascriptService>();

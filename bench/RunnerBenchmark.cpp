@@ -1,4 +1,4 @@
-// The command runner beside a root shell that does the same. Root, on a machine with polkit:
+// The command runner beside one root shell that does the same. Root, on a machine with polkit:
 //
 //     tests/machine/on-a-copy tests/machine/with-polkit build/release/bench/runner-benchmark BUNDLE/bin
 //
@@ -7,13 +7,16 @@
 
 #include "install/InstallScript.h"
 #include "platform/linux/PkexecPrompt.h"
+#include "platform/linux/Preflight.h"
 #include "platform/linux/ShellDialect.h"
 #include "platform/posix/ChildProcess.h"
 
 #include <benchmark/benchmark.h>
 
 #include <fcntl.h>
+#include <fts.h>
 
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -27,9 +30,11 @@ namespace fs = std::filesystem;
 
 std::string runnerPath;
 
-std::shared_ptr<script::Shell> runner()
+const fs::path products = "/opt/runner-benchmark";
+
+std::shared_ptr<script::Shell> runner(const std::vector<std::string>& commands)
 {
-    auto shell = PkexecPrompt(runnerPath).authorize();
+    auto shell = PkexecPrompt(runnerPath, products).authorize(commands);
     if (!shell) {
         std::cerr << shell.error().message << '\n';
         std::exit(1);
@@ -61,54 +66,54 @@ std::vector<std::string> commandsOf(const std::string& script)
     return commands;
 }
 
-/// The commands that install a folder's products below a scratch folder.
+/// The commands that install elements into this machine's folders, for root.
 std::vector<std::string> installCommands(const std::vector<std::string>& elements)
 {
-    const std::string base = fs::temp_directory_path() / "runner-benchmark";
-    const HostPaths hosts{base + "/app/", base + "/video/", base + "/photo/", base + "/lightroom/"};
-    fs::create_directories(hosts.photo);
-    return commandsOf(composeInstallScript(hosts, elements));
+    const auto folders = runner::installFolders("", "/root", products);
+    fs::create_directories(folders.photo);
+    return commandsOf(
+        composeInstallScript({folders.application, folders.video, folders.photo, folders.lightroom}, elements));
 }
 
 const std::vector<std::string>& sampleCommands()
 {
     static const std::vector<std::string> commands = [] {
-        const std::string samples = fs::absolute("resources/Products");
-        return installCommands({samples + "/Velvetgrain Tessellane/Velvetgrain Tessellane 2.plugin",
-            samples + "/Velvetgrain Photo/Velvetgrain.plugin",
-            samples + "/Velvetgrain Lightroom/Velvetgrain 3 Lightroom"});
+        fs::copy("resources/Products", products, fs::copy_options::recursive | fs::copy_options::skip_existing);
+        return installCommands({products / "Velvetgrain Tessellane/Velvetgrain Tessellane 2.plugin",
+            products / "Velvetgrain Photo/Velvetgrain.plugin",
+            products / "Velvetgrain Lightroom/Velvetgrain 3 Lightroom"});
     }();
     return commands;
+}
+
+void fill(const fs::path& element, int files, std::size_t size)
+{
+    for (int file = 0; file < files; ++file) {
+        const fs::path folder = element / std::to_string(file % 100);
+        fs::create_directories(folder);
+        std::ofstream(folder / std::to_string(file)) << std::string(size, 'x');
+    }
 }
 
 /// One element of 10,000 files with 1 GB in all.
 const std::vector<std::string>& largeCommands()
 {
     static const std::vector<std::string> commands = [] {
-        const fs::path element = fs::temp_directory_path() / "large" / "Large.plugin";
-        const std::string contents(100000, 'x');
-        for (int file = 0; file < 10000; ++file) {
-            const fs::path folder = element / std::to_string(file % 100);
-            fs::create_directories(folder);
-            std::ofstream(folder / std::to_string(file)) << contents;
-        }
+        const fs::path element = products / "Large/Large.plugin";
+        fill(element, 10000, 100000);
         return installCommands({element});
     }();
     return commands;
 }
 
-/// A shell script that runs each command in a shell of its own, as `do shell script` does.
+/// A script for one shell that stops at the first failure.
 std::string shellScriptOf(const std::vector<std::string>& commands)
 {
-    const fs::path folder = fs::temp_directory_path() / "commands";
-    fs::create_directories(folder);
-    std::string script = "set -e\n";
+    std::string script = inBsdDialect("set -e\n");
     for (const std::string& command : commands) {
-        const fs::path file = folder / std::to_string(script.size());
-        std::ofstream(file) << inBsdDialect(command);
-        script += "/bin/sh " + file.native() + "\n";
+        script += command + "\n";
     }
-    const fs::path file = folder / ("script-" + std::to_string(script.size()));
+    const fs::path file = fs::temp_directory_path() / ("script-" + std::to_string(script.size()));
     std::ofstream(file) << script;
     return file;
 }
@@ -126,7 +131,7 @@ void runAll(benchmark::State& state, script::Shell& shell, const std::vector<std
 /// As every run but the first finds it: installed. What comes first would create the files and the others replace them.
 void throughRunner(benchmark::State& state, const std::vector<std::string>& (*commands)())
 {
-    const auto shell = runner();
+    const auto shell = runner(commands());
     runAll(state, *shell, commands());
     for (auto _ : state) {
         runAll(state, *shell, commands());
@@ -136,7 +141,7 @@ void throughRunner(benchmark::State& state, const std::vector<std::string>& (*co
 void byRootShell(benchmark::State& state, const std::vector<std::string>& (*commands)())
 {
     const std::string script = shellScriptOf(commands());
-    runAll(state, *runner(), commands());
+    runAll(state, *runner(commands()), commands());
     for (auto _ : state) {
         if (runChild({"/bin/sh", script}) != 0) {
             state.SkipWithError("the shell script failed");
@@ -159,27 +164,45 @@ BENCHMARK(pkexecTrue)->UseRealTime()->Unit(benchmark::kMillisecond)->MinTime(2);
 
 void promptToFirstCommand(benchmark::State& state)
 {
+    const std::vector<std::string> commands{"rm -R -f \"/Applications/Corvellane/none\""};
     for (auto _ : state) {
-        benchmark::DoNotOptimize(runner()->run("true"));
+        benchmark::DoNotOptimize(runner(commands)->run(commands[0]));
     }
 }
 BENCHMARK(promptToFirstCommand)->UseRealTime()->Unit(benchmark::kMillisecond)->MinTime(2);
 
-std::string peakMemoryOf(script::Shell& shell)
+fs::path manyFiles()
 {
-    return shell.run("sed -n 's/^VmHWM:[[:space:]]*//p' /proc/$PPID/status")->output;
+    const fs::path element = products / "Many/Many.plugin";
+    if (!fs::exists(element)) {
+        fill(element, 50000, 1);
+    }
+    return element;
 }
 
-void printPeakMemory()
+void walkBare(benchmark::State& state)
 {
-    const auto shell = runner();
-    for (const std::string& command : sampleCommands()) {
-        benchmark::DoNotOptimize(shell->run(command));
+    std::string element = manyFiles();
+    const std::array<char*, 2> roots{element.data(), nullptr};
+    for (auto _ : state) {
+        FTS* const walk = fts_open(roots.data(), FTS_PHYSICAL | FTS_NOCHDIR, nullptr);
+        while (fts_read(walk) != nullptr) { }
+        fts_close(walk);
     }
-    std::cout << "the runner's peak memory after the samples: " << peakMemoryOf(*shell);
-    benchmark::DoNotOptimize(shell->run("head -c 100000000 /dev/zero; head -c 100000000 /dev/zero >&2"));
-    std::cout << "and after 100 MB on each stream: " << peakMemoryOf(*shell);
 }
+BENCHMARK(walkBare)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+void lookBeforeThePassword(benchmark::State& state)
+{
+    const auto commands = installCommands({manyFiles()});
+    const runner::Site site{runner::installFolders("", "/root", products), {.home = "/root"}, runner::Owner::rootAlone};
+    for (auto _ : state) {
+        if (const auto reason = whyNotInstallable(commands, site)) {
+            state.SkipWithError(reason->message.c_str());
+        }
+    }
+}
+BENCHMARK(lookBeforeThePassword)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace corvellane
@@ -193,6 +216,5 @@ int main(int count, char** arguments)
     }
     corvellane::runnerPath = corvellane::fs::absolute(arguments[1]) / "corvellane-command-runner";
     benchmark::RunSpecifiedBenchmarks();
-    corvellane::printPeakMemory();
     return 0;
 }

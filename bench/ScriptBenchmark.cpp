@@ -2,7 +2,6 @@
 
 #include "app/System.h"
 #include "platform/ScriptService.h"
-#include "platform/script/DirectPrompt.h"
 #include "platform/script/Parser.h"
 
 #include <benchmark/benchmark.h>
@@ -34,11 +33,10 @@ BENCHMARK(spawnBare)->Unit(benchmark::kMillisecond)->UseRealTime()->MinTime(3);
 void runScriptOfCommands(benchmark::State& state)
 {
     System system;
-    system.prompt = std::make_shared<script::DirectPrompt>(system.shell);
     ScriptService& service = system.platform().scripts;
     std::string source;
     for (int count = 0; count < commandCount; ++count) {
-        source += "do shell script \"true\" with administrator privileges\n";
+        source += "do shell script \"true\"\n";
     }
     for (auto _ : state) {
         benchmark::DoNotOptimize(service.create(source)->execute());

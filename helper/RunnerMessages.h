@@ -9,15 +9,15 @@
 #include <utility>
 
 /// What the command runner and the installer say to each other. The runner says `up` when it is up. From then on a
-/// request is one command, without NUL, and the reply to it the exit status, then what the command wrote to standard
-/// output and to standard error. A number is four bytes, the highest first; a text is its length in bytes and the
-/// bytes, at most `longestText`. Whatever breaks these rules ends the conversation.
+/// request is one command of an installation, without NUL, and the reply to it the exit status, then what the command
+/// wrote to standard output and to standard error. A number is four bytes, the highest first; a text is its length in
+/// bytes and the bytes, at most `longestText`. Whatever breaks these rules ends the conversation.
 ///
 /// `Read` is called with a place and a number of bytes to put there, and says whether it could; `Write` is called with
 /// the bytes to send.
 namespace corvellane::runner {
 
-constexpr std::string_view up = "corvellane-command-runner 1\n";
+constexpr std::string_view up = "corvellane-command-runner 2\n";
 constexpr std::size_t longestText = std::size_t{1} << 20U;
 
 struct Reply {

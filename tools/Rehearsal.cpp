@@ -3,7 +3,6 @@
 #include "platform/Resources.h"
 #include "platform/ScriptService.h"
 #include "platform/posix/PosixStandardFolders.h"
-#include "platform/script/DirectPrompt.h"
 
 #include <filesystem>
 #include <utility>
@@ -54,10 +53,9 @@ void makeRehearsal(System& system, const std::string& productsFolder, const std:
 {
     system.resources = std::make_shared<RehearsalResources>(productsFolder);
     system.folders = std::make_shared<PosixStandardFolders>(into);
-    if (system.shell == nullptr) {
+    system.prompt = system.makeRehearsalPrompt(productsFolder, into);
+    if (system.prompt == nullptr) {
         system.scripts = std::make_shared<RefusedScripts>();
-    } else {
-        system.prompt = std::make_shared<script::DirectPrompt>(system.shell);
     }
     const System windowless;
     system.workspace = windowless.workspace;

@@ -1,18 +1,16 @@
 #include "platform/linux/PkexecPrompt.h"
 
-#include "platform/linux/IsolatedChild.h"
+#include "platform/linux/Preflight.h"
 #include "platform/linux/RunnerShell.h"
-#include "platform/posix/RootOnly.h"
+#include "platform/posix/UserAccount.h"
 #include "platform/script/ErrorInformation.h"
 
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 
-#include <array>
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <string_view>
 
 namespace corvellane {
@@ -22,26 +20,9 @@ namespace {
 constexpr int declined = 126;
 constexpr int notAuthorized = 127;
 
-Unexpected refusal(std::string message)
+Failure refusal(std::string message)
 {
-    return Unexpected({std::move(message), script::error_number::notPermitted});
-}
-
-/// `reason` may be empty, and may end as programs end what they print.
-Unexpected cannotStart(std::string reason)
-{
-    reason.erase(reason.find_last_not_of(" \n") + 1);
-    return refusal("The program that runs commands with administrator rights could not be started."
-        + (reason.empty() ? reason : " " + reason));
-}
-
-Unexpected cannotAsk(const Failure& failure)
-{
-    if (failure.number != ENOENT) {
-        return cannotStart(failure.message);
-    }
-    return refusal("There is no way to ask for an administrator’s password, because the program pkexec is missing. "
-                   "Install it, or start the installer as root.");
+    return {std::move(message), script::error_number::notPermitted};
 }
 
 bool isSystemBusRunning()
@@ -57,11 +38,11 @@ bool isSystemBusRunning()
 
 /// `complaint` only chooses the words: pkexec gives a refused password, a missing agent and a fault of its own the same
 /// status. Its words are English, because it gets no environment.
-Unexpected explainRefusal(int status, const std::string& complaint)
+Failure explainRefusal(int status, const std::string& complaint)
 {
     const auto isSaid = [&complaint](const char* words) { return complaint.find(words) != std::string::npos; };
     if (status == declined) {
-        return Unexpected({"User canceled.", script::error_number::userCanceled});
+        return {"User canceled.", script::error_number::userCanceled};
     }
     if (status == notAuthorized && !isSystemBusRunning()) {
         return refusal("There is no way to ask for an administrator’s password, because the system’s message bus is "
@@ -74,55 +55,73 @@ Unexpected explainRefusal(int status, const std::string& complaint)
     if (status == notAuthorized && isSaid("Not authorized")) {
         return refusal("The administrator user name or password was incorrect.");
     }
-    return cannotStart(complaint);
+    return runnerCannotStart(complaint);
 }
 
-struct Channel {
-    FileDescriptor ours;
-    FileDescriptor theirs;
-};
-
-Channel makeChannel()
+/// A tracer that came before this process was closed to others is still there.
+bool isTraced()
 {
-    std::array<int, 2> ends{-1, -1};
-    socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data());
-    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+    std::error_code error;
+    for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task", error)) {
+        std::ifstream status(thread.path() / "status");
+        for (std::string line; std::getline(status, line);) {
+            if (line.starts_with("TracerPid:") && line.find_first_of("123456789") != std::string::npos) {
+                return true;
+            }
+        }
+    }
+    return static_cast<bool>(error);
+}
+
+/// Says why somebody else than root could change a part of the installer, and what to do about it.
+Failure changeable(const std::string& reason)
+{
+    return refusal(reason
+        + " So the installer must not ask for administrator rights. Have it unpacked by root with "
+          "“tar --no-same-owner”, below /opt for example.");
 }
 
 } // namespace
 
-Expected<std::shared_ptr<script::Shell>> PkexecPrompt::authorize()
+PkexecPrompt::PkexecPrompt(std::string runner, std::string products, std::string pkexec)
+    : runner_(std::move(runner))
+    , products_(std::move(products))
+    , pkexec_(std::move(pkexec))
 {
-    std::error_code error;
-    const std::string runner = std::filesystem::canonical(runner_, error);
-    if (error || !onlyRootCanChange(runner) || (products_ && !onlyRootCanChangeTree(*products_))) {
-        return refusal("The installer can be changed by others than the system’s administrator, and so must not ask "
-                       "for administrator rights. Have it unpacked by root with “tar --no-same-owner”, below /opt for "
-                       "example.");
+}
+
+std::optional<Failure> PkexecPrompt::whyNotAsked(const std::vector<std::string>& commands) const
+{
+    for (const std::string& path : {runner_, products_}) {
+        if (const auto reason = path.empty() ? std::nullopt : runner::whyChangeable(path)) {
+            return changeable(*reason);
+        }
+    }
+    const std::string home = realUser().home;
+    const runner::Site site{runner::installFolders("", home, products_), {.home = home}, runner::Owner::rootAlone};
+    return whyNotInstallable(commands, site);
+}
+
+Expected<std::shared_ptr<script::Shell>> PkexecPrompt::authorize(const std::vector<std::string>& commands)
+{
+    if (access(pkexec_.c_str(), X_OK) != 0) {
+        return Unexpected(refusal("There is no way to ask for an administrator’s password, because the program pkexec "
+                                  "is missing. Install it, or start the installer as root."));
+    }
+    if (auto reason = whyNotAsked(commands)) {
+        return Unexpected(*std::move(reason));
     }
     // From here on other programs of the user cannot reach into this process for the channel.
     prctl(PR_SET_DUMPABLE, 0);
-    Channel channel = makeChannel();
-    Pipe complaints = makePipe();
-    if (!channel.ours.isOpen() || !complaints.readEnd.isOpen()) {
-        return cannotStart(std::strerror(errno));
+    if (isTraced()) {
+        return Unexpected(refusal("Another program controls the installer, such as a debugger, and so it must not ask "
+                                  "for administrator rights. Start the installer without it."));
     }
-    // pkexec passes parts of its environment on and refuses to start for the sake of others, so it gets none.
-    const auto child = startIsolatedChild({{pkexec_, "--disable-internal-agent", runner}, {}},
-        {channel.theirs.get(), channel.theirs.get(), complaints.writeEnd.get()});
-    if (!child) {
-        return cannotAsk(child.error());
-    }
-    channel.theirs.close();
-    complaints.writeEnd.close();
-    if (runnerComesUp(channel.ours)) {
-        return std::make_shared<RunnerShell>(std::move(channel.ours), *child);
-    }
-    channel.ours.close();
-    const int status = exitStatusOf(*child);
-    std::string complaint;
-    drain(complaints.readEnd, complaint);
-    return explainRefusal(status, complaint);
+    // The name under which polkit knows the runner. pkexec passes parts of its environment on and refuses to start for
+    // the sake of others, so it gets none.
+    std::error_code error;
+    const std::string runner = std::filesystem::canonical(runner_, error);
+    return startRunner({{pkexec_, "--disable-internal-agent", runner, products_}, {}}, &explainRefusal);
 }
 
 } // namespace corvellane

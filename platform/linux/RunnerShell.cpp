@@ -1,13 +1,14 @@
 #include "platform/linux/RunnerShell.h"
 
 #include "helper/RunnerMessages.h"
-#include "platform/linux/ShellDialect.h"
-#include "platform/posix/ChildProcess.h"
+#include "platform/linux/IsolatedChild.h"
 #include "platform/script/ErrorInformation.h"
 
 #include <sys/socket.h>
 
+#include <array>
 #include <cerrno>
+#include <cstring>
 
 namespace corvellane {
 namespace {
@@ -38,6 +39,24 @@ bool receiveAll(const FileDescriptor& channel, char* bytes, std::size_t size)
     return true;
 }
 
+bool comesUp(const FileDescriptor& channel)
+{
+    std::string message(runner::up.size(), '\0');
+    return receiveAll(channel, message.data(), message.size()) && message == runner::up;
+}
+
+struct Channel {
+    FileDescriptor ours;
+    FileDescriptor theirs;
+};
+
+Channel makeChannel()
+{
+    std::array<int, 2> ends{-1, -1};
+    socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data());
+    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+}
+
 } // namespace
 
 RunnerShell::~RunnerShell()
@@ -49,7 +68,7 @@ RunnerShell::~RunnerShell()
 Expected<script::CommandResult> RunnerShell::run(const std::string& command)
 {
     std::string request;
-    runner::writeText(inBsdDialect(command), [&](std::string_view bytes) { request += bytes; });
+    runner::writeText(command, [&](std::string_view bytes) { request += bytes; });
     auto reply = sendAll(channel_, request)
         ? runner::readReply([this](char* bytes, std::size_t size) { return receiveAll(channel_, bytes, size); })
         : std::nullopt;
@@ -60,10 +79,36 @@ Expected<script::CommandResult> RunnerShell::run(const std::string& command)
     return script::CommandResult{reply->status, std::move(reply->output), std::move(reply->errors)};
 }
 
-bool runnerComesUp(const FileDescriptor& channel)
+Expected<std::shared_ptr<script::Shell>> startRunner(const Invocation& invocation, const ExplainEnd& explain)
 {
-    std::string message(runner::up.size(), '\0');
-    return receiveAll(channel, message.data(), message.size()) && message == runner::up;
+    Channel channel = makeChannel();
+    Pipe complaints = makePipe();
+    if (!channel.ours.isOpen() || !complaints.readEnd.isOpen()) {
+        return Unexpected(runnerCannotStart(std::strerror(errno)));
+    }
+    const auto child
+        = startIsolatedChild(invocation, {channel.theirs.get(), channel.theirs.get(), complaints.writeEnd.get()});
+    if (!child) {
+        return Unexpected(runnerCannotStart(child.error().message));
+    }
+    channel.theirs.close();
+    complaints.writeEnd.close();
+    if (comesUp(channel.ours)) {
+        return std::make_shared<RunnerShell>(std::move(channel.ours), *child);
+    }
+    channel.ours.close();
+    const int status = exitStatusOf(*child);
+    std::string complaint;
+    drain(complaints.readEnd, complaint);
+    return Unexpected(explain(status, complaint));
+}
+
+Failure runnerCannotStart(std::string reason)
+{
+    reason.erase(reason.find_last_not_of(" \n") + 1);
+    return {"The program that runs commands with administrator rights could not be started."
+            + (reason.empty() ? reason : " " + reason),
+        script::error_number::notPermitted};
 }
 
 } // namespace corvellane

@@ -1,13 +1,17 @@
 #pragma once
 
+#include "platform/posix/ChildProcess.h"
 #include "platform/posix/FileDescriptor.h"
 #include "platform/script/Shell.h"
+
+#include <functional>
+#include <memory>
 
 #include <sys/types.h>
 
 namespace corvellane {
 
-/// Has commands run by a command runner in another process, which ends with this object.
+/// Has commands of an installation carried out by a command runner in another process, which ends with this object.
 class RunnerShell : public script::Shell {
 public:
     /// `channel` is the connection to the runner with the process id `runner`, a child of this process.
@@ -27,7 +31,14 @@ private:
     pid_t runner_;
 };
 
-/// Whether the runner at the other end of the channel says that it is up; waits until it does or ends.
-bool runnerComesUp(const FileDescriptor& channel);
+/// Says what it means that the program by which a runner is started has ended instead, with this exit status and these
+/// words on its standard error.
+using ExplainEnd = std::function<Failure(int status, const std::string& complaint)>;
+
+/// Starts a runner and waits until it is up.
+Expected<std::shared_ptr<script::Shell>> startRunner(const Invocation& invocation, const ExplainEnd& explain);
+
+/// `reason` may be empty, and may end as programs end what they print.
+Failure runnerCannotStart(std::string reason);
 
 } // namespace corvellane

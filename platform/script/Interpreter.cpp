@@ -48,8 +48,9 @@ Expected<std::string> textOf(const Value& value)
 
 class Interpreter {
 public:
-    explicit Interpreter(const Host& host)
+    Interpreter(const Host& host, const std::vector<std::string>& privilegedCommands)
         : host_(host)
+        , privilegedCommands_(privilegedCommands)
     {
     }
 
@@ -164,6 +165,9 @@ private:
         if (!text) {
             return tl::unexpected(text.error());
         }
+        if (text->find('\0') != std::string::npos) {
+            return Unexpected({"The command cannot be run because it contains a NUL.", error_number::cannotConvert});
+        }
         if (!command.privileged) {
             return host_.shell->run(*text).and_then(valueOf);
         }
@@ -176,7 +180,7 @@ private:
     Expected<Shell*> administratorShell()
     {
         if (administratorShell_ == nullptr) {
-            auto shell = host_.prompt->authorize();
+            auto shell = host_.prompt->authorize(privilegedCommands_);
             if (!shell) {
                 return tl::unexpected(std::move(shell.error()));
             }
@@ -186,6 +190,7 @@ private:
     }
 
     const Host& host_;
+    const std::vector<std::string>& privilegedCommands_;
     std::map<std::string, Value> variables_;
     std::shared_ptr<Shell> administratorShell_;
     bool isReturning_ = false;
@@ -207,7 +212,7 @@ std::optional<std::string> asText(const Value& value)
 Expected<Value, LocatedFailure> run(const SyntaxTree& script, const Host& host)
 {
     host.progress->begin(script.privilegedCommands);
-    Execution execution = Interpreter(host).run(script.statements);
+    Execution execution = Interpreter(host, script.privilegedCommands).run(script.statements);
     host.progress->end();
     return execution;
 }

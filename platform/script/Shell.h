@@ -4,19 +4,21 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace corvellane::script {
 
-/// What a shell command left behind. Of each stream at most the first 1 MiB is kept.
+/// What a command left behind. Of each stream at most 1 MiB is kept: its beginning, its end, and between them a line
+/// that says how much is missing.
 struct CommandResult {
-    /// The exit status, 0 to 255; 128 and the signal's number when a signal ended the shell.
+    /// The exit status, 0 to 255; 128 and the signal's number when a signal ended it.
     int status = 0;
     std::string output;
     std::string errors;
 };
 
-/// Runs shell commands, one at a time. Scripts write them for the BSD tools; where the tools are others, it is the
-/// shell that makes the command mean the same.
+/// Runs commands as scripts write them for a shell and the BSD tools, one at a time; where the tools are others, it
+/// makes the command mean the same.
 class Shell {
 public:
     virtual ~Shell() = default;
@@ -33,8 +35,10 @@ public:
     virtual ~AdministratorPrompt() = default;
 
     /// A shell whose commands run with administrator rights, for one run of one script; or why there is none. A
-    /// person who declines is `error_number::userCanceled`.
-    virtual Expected<std::shared_ptr<Shell>> authorize() = 0;
+    /// person who declines is `error_number::userCanceled`. `commands` is all that the script may have run with them,
+    /// in its order, so that what cannot succeed is told before anybody is asked; empty for a command that is known
+    /// only when it runs.
+    virtual Expected<std::shared_ptr<Shell>> authorize(const std::vector<std::string>& commands) = 0;
 };
 
 } // namespace corvellane::script

@@ -160,4 +160,4 @@ with Desktop() as desktop:
     refused(desktop, "none", "no authentication agent is running")
     dismissed_and_asked_again(desktop)
     assert owners(MAKER) | owners("/Library") == {0}
-    assert owners(LIGHTROOM + "Modules") == {os.getuid()}
+    assert owners(os.path.expanduser("~/Library")) == {os.getuid()}

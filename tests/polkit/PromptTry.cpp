@@ -1,10 +1,12 @@
-// prompt-try RUNNER SCRIPT [PRODUCTS]: runs the script in the file SCRIPT with administrator rights asked for through
-// polkit, and prints "result: TEXT" or "error: DESCRIPTION". RUNNER is the path of the command runner, PRODUCTS the
-// folder that the script copies from.
+// prompt-try RUNNER SCRIPT [PRODUCTS]: runs the script in the file SCRIPT with administrator rights, asked for through
+// polkit unless root has them, and prints "result: TEXT" or "error: DESCRIPTION". RUNNER is the path of the command
+// runner, PRODUCTS the folder that the script copies from.
 
 #include "app/System.h"
 #include "platform/ScriptService.h"
 #include "platform/linux/PkexecPrompt.h"
+#include "platform/linux/RootPrompt.h"
+#include "platform/posix/UserAccount.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -14,11 +16,15 @@
 int main(int count, char** arguments)
 {
     using namespace corvellane;
-    const auto products = count > 3 ? std::optional<std::string>(arguments[3]) : std::nullopt;
+    const std::string products = count > 3 ? arguments[3] : "";
     const char* const pkexec = std::getenv("PKEXEC");
     System system;
-    system.prompt
-        = std::make_shared<PkexecPrompt>(arguments[1], products, pkexec == nullptr ? "/usr/bin/pkexec" : pkexec);
+    if (hasRootRights()) {
+        system.prompt = std::make_shared<RootPrompt>(arguments[1], products);
+    } else {
+        system.prompt
+            = std::make_shared<PkexecPrompt>(arguments[1], products, pkexec == nullptr ? "/usr/bin/pkexec" : pkexec);
+    }
     std::ifstream file(arguments[2]);
     const std::string source{std::istreambuf_iterator<char>(file), {}};
     const ScriptExecution execution = system.platform().scripts.create(source)->execute();

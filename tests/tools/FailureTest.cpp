@@ -1,7 +1,7 @@
 #include "app/System.h"
 #include "install/InstallScript.h"
 #include "platform/ScriptService.h"
-#include "platform/script/DirectPrompt.h"
+#include "platform/linux/RehearsalPrompt.h"
 #include "tests/ScratchFolder.h"
 #include "tools/FolderTree.h"
 
@@ -37,7 +37,8 @@ protected:
         begun.clear();
         target = into;
         System system;
-        system.prompt = std::make_shared<script::DirectPrompt>(std::make_shared<FailingShell>(*this, system.shell));
+        system.prompt = std::make_shared<FailingPrompt>(
+            *this, runner::InstallFolders{from, hosts.application, hosts.video, hosts.photo, hosts.lightroom});
         return system.platform().scripts.create(script)->execute().result.value().text.value();
     }
 
@@ -55,7 +56,7 @@ protected:
         return lines;
     }
 
-    /// Runs one command without the means to open a file, so that it fails, and the others as they are.
+    /// Has one command fail before it does anything.
     struct FailingShell : script::Shell {
         FailingShell(FailureTest& owner, std::shared_ptr<script::Shell> real)
             : test(owner)
@@ -65,10 +66,25 @@ protected:
         Expected<script::CommandResult> run(const std::string& command) override
         {
             test.begun.push_back(test.treeOf(test.target));
-            return shell->run(test.commandsUntilFailure-- == 0 ? "ulimit -n 3; " + command : command);
+            return test.commandsUntilFailure-- == 0 ? script::CommandResult{1, {}, "failed"} : shell->run(command);
         }
         FailureTest& test;
         std::shared_ptr<script::Shell> shell;
+    };
+
+    struct FailingPrompt : RehearsalPrompt {
+        FailingPrompt(FailureTest& owner, runner::InstallFolders folders)
+            : RehearsalPrompt(std::move(folders))
+            , test(owner)
+        {
+        }
+        Expected<std::shared_ptr<script::Shell>> authorize(const std::vector<std::string>& commands) override
+        {
+            return RehearsalPrompt::authorize(commands).map([this](const std::shared_ptr<script::Shell>& shell) {
+                return std::shared_ptr<script::Shell>(std::make_shared<FailingShell>(test, shell));
+            });
+        }
+        FailureTest& test;
     };
 
     ScratchFolder scratch;
@@ -86,7 +102,7 @@ TEST_F(FailureTest, stopsAtAnyFailingCommandAndIsHealedByASecondRun)
     const auto whole = treeOf("whole");
     for (std::size_t failing = 0; failing < steps.size(); ++failing) {
         const std::string into = "run " + std::to_string(failing);
-        EXPECT_THAT(run(into, static_cast<int>(failing)), HasSubstr("open"));
+        EXPECT_EQ(run(into, static_cast<int>(failing)), "failed");
         EXPECT_EQ(begun.size(), failing + 1) << "nothing runs after the command that failed";
         EXPECT_EQ(treeOf(into), steps[failing]) << "what was done before stays";
         EXPECT_EQ(run(into, -1), "Ok");
@@ -94,12 +110,15 @@ TEST_F(FailureTest, stopsAtAnyFailingCommandAndIsHealedByASecondRun)
     }
 }
 
-TEST_F(FailureTest, leavesWhatWasDoneBeforeAVanishedSource)
+TEST_F(FailureTest, findsAVanishedElementBeforeAnythingIsDoneAndAVanishedPartWhenItsTurnComes)
 {
-    fs::remove_all(scratch.path() + "/from/A.plugin");
-    EXPECT_EQ(run("into", -1), "cp: cannot stat '" + scratch.path() + "/from/A.plugin': No such file or directory");
+    const std::string from = scratch.path() + "/from/";
+    fs::remove_all(from + "Velvetgrain 3 Lightroom/Corvellane Velvetgrain 3");
+    EXPECT_THAT(run("into", -1), HasSubstr("/app/Velvetgrain 3 Lightroom/Corvellane Velvetgrain 3/.': No such file"));
     EXPECT_TRUE(fs::exists(scratch.path() + "/into/video/Tessellane 2.plugin/x"));
-    EXPECT_FALSE(fs::exists(scratch.path() + "/into/lr"));
+    fs::remove_all(from + "A.plugin");
+    EXPECT_EQ(run("nothing", -1), "“" + from + "A.plugin” cannot be read: No such file or directory.");
+    EXPECT_FALSE(fs::exists(scratch.path() + "/nothing/app"));
 }
 
 } // namespace

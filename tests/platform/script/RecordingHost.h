@@ -45,7 +45,7 @@ private:
         std::string prefix;
     };
 
-    Expected<std::shared_ptr<Shell>> authorize() override
+    Expected<std::shared_ptr<Shell>> authorize(const std::vector<std::string>&) override
     {
         journal.emplace_back("prompt");
         if (declines) {
