@@ -100,6 +100,17 @@ private:
     const User& user_;
 };
 
+/// Whether all is as the command would have it, so that no program is needed.
+bool isDone(const InstallCommand& command)
+{
+    struct stat status{};
+    if (const auto* folder = std::get_if<MakeFolder>(&command)) {
+        return stat(folder->path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+    }
+    const auto* gone = std::get_if<Remove>(&command);
+    return gone != nullptr && lstat(gone->path.c_str(), &status) != 0 && errno == ENOENT;
+}
+
 Reply refuse(const std::string& reason)
 {
     return {refused, {}, reason + "\n"};
@@ -167,8 +178,12 @@ Reply carryOut(std::string_view text, const Site& site)
     if (const auto* echo = std::get_if<WriteText>(&*command)) {
         return write(*echo);
     }
+    if (isDone(*command)) {
+        return {};
+    }
+    // Names in messages are UTF-8; a tool that had to load all of a language would take a quarter longer to start.
     const auto words = std::visit(Words(site.user), *command);
-    return runProgram("/bin/" + words.front(), words, {"PATH=/usr/bin:/bin", "LC_ALL=C.UTF-8"}, text);
+    return runProgram("/bin/" + words.front(), words, {"PATH=/usr/bin:/bin", "LC_CTYPE=C.UTF-8"}, text);
 }
 
 } // namespace corvellane::runner
