@@ -1,5 +1,6 @@
 #include "base/WorkerThread.h"
 
+#include <system_error>
 #include <utility>
 
 namespace corvellane {
@@ -18,12 +19,24 @@ WorkerThread::~WorkerThread()
 
 void WorkerThread::submit(Task task)
 {
-    const std::lock_guard lock(mutex_);
-    waiting_.push_back(std::move(task));
-    if (!thread_.joinable()) {
-        thread_ = std::thread([this] { work(); });
+    std::unique_lock lock(mutex_);
+    if (!thread_.joinable() && !start()) {
+        lock.unlock();
+        task();
+        return;
     }
+    waiting_.push_back(std::move(task));
     changed_.notify_all();
+}
+
+bool WorkerThread::start()
+{
+    try {
+        thread_ = std::thread([this] { work(); });
+    } catch (const std::system_error&) {
+        return false;
+    }
+    return true;
 }
 
 void WorkerThread::work()

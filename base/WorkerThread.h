@@ -19,10 +19,12 @@ public:
     /// Runs what is still waiting, then ends the thread.
     ~WorkerThread();
 
-    /// Returns at once; allowed from any thread.
+    /// Returns at once; allowed from any thread. When the system has no thread to give, the task runs before this
+    /// returns: hold no lock that it takes.
     void submit(Task task);
 
 private:
+    bool start();
     void work();
 
     std::mutex mutex_;

@@ -11,7 +11,7 @@ bool isBelow(std::string_view path, std::string_view folder)
     return isWithin(path, folder) && path.size() > folder.size();
 }
 
-/// Gives the path of a command that is not where it must be; nothing when all are.
+/// Gives the path of a command that is not where it must be; null when all are.
 class Misplaced {
 public:
     explicit Misplaced(const InstallFolders& folders)
@@ -19,37 +19,37 @@ public:
     {
     }
 
-    std::string_view operator()(const MakeFolder& command) const { return unlessWritten(command.path, &isWithin); }
+    const std::string* operator()(const MakeFolder& command) const { return unlessWritten(command.path, &isWithin); }
 
-    std::string_view operator()(const Copy& command) const
+    const std::string* operator()(const Copy& command) const
     {
         const bool isOurs = isBelow(command.source, folders_.products) || isBelow(command.source, folders_.application);
-        return isOurs ? unlessWritten(command.folder, &isWithin) : command.source;
+        return isOurs ? unlessWritten(command.folder, &isWithin) : &command.source;
     }
 
-    std::string_view operator()(const Remove& command) const { return unlessWritten(command.path, &isBelow); }
+    const std::string* operator()(const Remove& command) const { return unlessWritten(command.path, &isBelow); }
 
-    std::string_view operator()(const Link& command) const
+    const std::string* operator()(const Link& command) const
     {
-        return isBelow(command.target, folders_.application) ? unlessWritten(command.link, &isWithin) : command.target;
+        return isBelow(command.target, folders_.application) ? unlessWritten(command.link, &isWithin) : &command.target;
     }
 
-    std::string_view operator()(const WriteText& command) const { return unlessWritten(command.path, &isBelow); }
+    const std::string* operator()(const WriteText& command) const { return unlessWritten(command.path, &isBelow); }
 
-    std::string_view operator()(const HandOver& command) const
+    const std::string* operator()(const HandOver& command) const
     {
-        return isBelow(command.path, folders_.lightroom) ? std::string_view() : command.path;
+        return isBelow(command.path, folders_.lightroom) ? nullptr : &command.path;
     }
 
 private:
-    std::string_view unlessWritten(std::string_view path, bool (*isThere)(std::string_view, std::string_view)) const
+    const std::string* unlessWritten(const std::string& path, bool (*isThere)(std::string_view, std::string_view)) const
     {
         for (const auto* folder : {&folders_.application, &folders_.video, &folders_.photo, &folders_.lightroom}) {
             if (isThere(path, *folder)) {
-                return {};
+                return nullptr;
             }
         }
-        return path;
+        return &path;
     }
 
     const InstallFolders& folders_;
@@ -100,9 +100,8 @@ Reading readCommand(std::string_view text, const InstallFolders& folders)
     if (!command) {
         return {std::nullopt, "“" + std::string(text) + "” is not a command of an installation."};
     }
-    const std::string_view misplaced = std::visit(Misplaced(folders), *command);
-    if (!misplaced.empty()) {
-        return {std::nullopt, "“" + std::string(misplaced) + "” does not lie in a folder of an installation."};
+    if (const std::string* misplaced = std::visit(Misplaced(folders), *command)) {
+        return {std::nullopt, "“" + *misplaced + "” does not lie in a folder of an installation."};
     }
     return {std::move(command), {}};
 }

@@ -81,6 +81,28 @@ PayloadWarnings warnAboutLink(const fs::path& link, const fs::path& element)
     return {};
 }
 
+/// A package gives everybody leave to read, but a folder that is unpacked by hand keeps its modes.
+PayloadWarnings warnAboutMode(const fs::path& path)
+{
+    std::error_code error;
+    const fs::file_status status = fs::symlink_status(path, error);
+    const bool isFolder = status.type() == fs::file_type::directory;
+    if (!isFolder && status.type() != fs::file_type::regular) {
+        return {
+            {path.native(), "is neither a file nor a folder nor a link, and keeps its element from being installed"}};
+    }
+    PayloadWarnings warnings;
+    const auto needed = isFolder ? fs::perms::others_read | fs::perms::others_exec : fs::perms::others_read;
+    if ((status.permissions() & needed) != needed) {
+        warnings.push_back({path.native(), "cannot be read by everybody"});
+    }
+    if ((status.permissions() & (fs::perms::set_uid | fs::perms::set_gid)) != fs::perms::none) {
+        warnings.push_back(
+            {path.native(), "has a set-user-ID or set-group-ID bit, which is lost when it is installed"});
+    }
+    return warnings;
+}
+
 PayloadWarnings warnAboutTree(const fs::path& element)
 {
     PayloadWarnings warnings;
@@ -94,7 +116,10 @@ PayloadWarnings warnAboutTree(const fs::path& element)
             std::error_code unknown;
             if (entry->is_symlink(unknown)) {
                 append(warnings, warnAboutLink(entry->path(), element));
-            } else if (entry->is_directory(unknown)) {
+                continue;
+            }
+            append(warnings, warnAboutMode(entry->path()));
+            if (entry->is_directory(unknown)) {
                 folders.push_back(entry->path());
             }
         }

@@ -84,13 +84,15 @@ void WorkMeter::end()
 
 std::optional<double> WorkMeter::partDone()
 {
-    const std::lock_guard lock(mutex_);
+    std::unique_lock lock(mutex_);
+    if (!works_.empty() && !isLooking_ && Clock::now() >= nextLook_) {
+        isLooking_ = true;
+        lock.unlock();
+        looker_.submit([this, run = run_.load()] { look(run); });
+        lock.lock();
+    }
     if (works_.empty()) {
         return std::nullopt;
-    }
-    if (!isLooking_ && Clock::now() >= nextLook_) {
-        isLooking_ = true;
-        looker_.submit([this, run = run_.load()] { look(run); });
     }
     greatestPart_ = std::max(greatestPart_, partKnown());
     return greatestPart_;

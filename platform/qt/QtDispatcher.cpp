@@ -38,8 +38,10 @@ private:
 
 void QtDispatcher::submitToBackground(Task task)
 {
-    const std::lock_guard lock(mutex_);
-    ++unfinished_;
+    {
+        const std::lock_guard lock(mutex_);
+        ++unfinished_;
+    }
     background_.submit([this, task = std::move(task)]() mutable {
         task();
         task = nullptr;

@@ -71,5 +71,26 @@ TEST(WorkerThread, runsInOrderOnAnotherThreadWhatWaitsAtItsEnd)
     EXPECT_NE(thread, std::this_thread::get_id());
 }
 
+#ifdef __GLIBC__
+TEST(WorkerThread, runsItselfWhatItHasNoThreadFor)
+{
+    pthread_attr_t before;
+    pthread_attr_t huge;
+    pthread_getattr_default_np(&before);
+    pthread_getattr_default_np(&huge);
+    pthread_attr_setstacksize(&huge, std::size_t{1} << 46U);
+    ASSERT_EQ(pthread_setattr_default_np(&huge), 0);
+    std::vector<int> ran;
+    {
+        WorkerThread worker;
+        worker.submit([&] { ran.push_back(1); });
+        EXPECT_EQ(ran, std::vector{1});
+        pthread_setattr_default_np(&before);
+        worker.submit([&] { ran.push_back(2); });
+    }
+    EXPECT_EQ(ran, (std::vector{1, 2}));
+}
+#endif
+
 } // namespace
 } // namespace corvellane

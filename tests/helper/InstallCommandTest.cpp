@@ -71,8 +71,9 @@ TEST(InstallFolders, holdAllThatIsReadAndWritten)
             EXPECT_FALSE(isAllowed("rm -R -f" + quoted(folder + outside))) << folder << outside;
         }
     }
-    for (const char* const outside : {"/", "/etc/passwd", "Applications/Corvellane/a", "/Applications/Corvellane2/a",
-             "/Applications", "/home/user/a", "/opt/Products/a", "/Library/Application Support/Adobe/Lightroom/a"}) {
+    for (const char* const outside :
+        {"", "/", "/etc/passwd", "Applications/Corvellane/a", "/Applications/Corvellane2/a", "/Applications",
+            "/home/user/a", "/opt/Products/a", "/Library/Application Support/Adobe/Lightroom/a"}) {
         EXPECT_FALSE(isAllowed("mkdir -p" + quoted(outside))) << outside;
         EXPECT_FALSE(isAllowed("echo \"a\" >" + quoted(outside))) << outside;
         EXPECT_FALSE(isAllowed("cp -R -f" + quoted("/opt/Products/a") + quoted(outside))) << outside;

@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 namespace corvellane {
 namespace {
 
@@ -68,6 +70,10 @@ TEST_F(PayloadReportTest, warnsOfWhatWillNotGoAsItsMakerMeansIt)
     fs::create_symlink("/usr", scratch.path() + "/e $/E.plugin/in/root");
     fs::create_symlink("../gone", scratch.path() + "/e $/E.plugin/in/gone");
     fs::create_symlink("..", scratch.path() + "/e $/E.plugin/in/up");
+    scratch.write("e $/E.plugin/mine", "");
+    fs::permissions(scratch.path() + "/e $/E.plugin/mine", fs::perms::owner_read | fs::perms::set_uid);
+    fs::permissions(scratch.path() + "/e $/E.plugin/in", fs::perms::owner_all | fs::perms::others_read);
+    ASSERT_EQ(mkfifo((scratch.path() + "/e $/E.plugin/pipe").c_str(), 0600), 0);
     const std::vector<std::string> expected{"loose.txt: is no folder and will be ignored",
         "a/file.plugin: is no folder and will be ignored", "a: holds no folder and installs nothing",
         "b/Lightroom: lacks the folder “Corvellane Velvetgrain 4”, which the script needs",
@@ -78,6 +84,9 @@ TEST_F(PayloadReportTest, warnsOfWhatWillNotGoAsItsMakerMeansIt)
         "e $/E.plugin/in/gone: is a link to nothing: “../gone”",
         "e $/E.plugin/in/out: is a link that leaves its element: “../../../d”",
         "e $/E.plugin/in/root: is a link that leaves its element: “/usr”",
+        "e $/E.plugin/in: cannot be read by everybody", "e $/E.plugin/mine: cannot be read by everybody",
+        "e $/E.plugin/mine: has a set-user-ID or set-group-ID bit, which is lost when it is installed",
+        "e $/E.plugin/pipe: is neither a file nor a folder nor a link, and keeps its element from being installed",
         "photo/: is not created by the script when these products are installed together; it must be there already"};
     EXPECT_THAT(warnings(), testing::UnorderedElementsAreArray(expected));
 }
