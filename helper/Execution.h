@@ -17,7 +17,7 @@ struct User {
     uid_t id = 0;
     gid_t group = 0;
     /// All that the user is a member of.
-    std::vector<gid_t> groups{};
+    std::vector<gid_t> groups{}; // NOLINT(readability-redundant-member-init): designated initializers leave it out
     std::string home;
 };
 
