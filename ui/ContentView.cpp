@@ -1,5 +1,6 @@
 #include "ui/ContentView.h"
 
+#include "platform/Console.h"
 #include "state/AppSettings.h"
 #include "ui/AlertView.h"
 #include "ui/Pages.h"
@@ -16,7 +17,9 @@ View pageRow(Page page, Page currentPage)
     const Tint dot = page == currentPage ? Tint::blue : Tint::gray;
     View label = verbatim(std::string(sideBarLabel(page)), ContentView::textColor);
     std::get<Text>(label.element).remark = page == currentPage ? "Current step" : "";
-    return row(standardSpacing, symbol("circle.fill", dot, 8), std::move(label), gap()).withFrame({{}, {}, 20, 20});
+    return holding(Stack{Axis::horizontal, standardSpacing, Placement::firstLine}, symbol("circle.fill", dot, 8),
+        std::move(label), gap())
+        .withFrame({{}, {}, 20, 20});
 }
 
 View pageList(Page currentPage)
@@ -28,10 +31,17 @@ View pageList(Page currentPage)
     return list;
 }
 
-/// The logo and the list of the pages, the current one marked.
-View sideBar(Page currentPage)
+void tellOfMissingLogo(Console& console)
 {
-    View logo = holding(Image{"Logo", ContentView::textColor}).withFrame({180, 180, 38, 40});
+    console.print("The file “Logo.svg” is missing or is no picture; the product’s name stands in its place.");
+}
+
+/// The logo and the list of the pages, the current one marked.
+View sideBar(Page currentPage, Console& console)
+{
+    View logo = holding(Image{"Logo", ContentView::textColor, "Corvellane Plugin Installer",
+                            Action<void()>::calling<&tellOfMissingLogo>(console)})
+                    .withFrame({180, 180, 38, 40});
     return column(0, Placement::centre, gap().withPriority(0.1), std::move(logo), gap(), gap(), pageList(currentPage),
         gap().withPriority(0.5))
         .withFrame({180, 195, {}, {}});
@@ -64,7 +74,8 @@ View buttonRow(AppSettings& settings)
 } // namespace
 
 ContentView::ContentView(const Resources& resources, const Files& files, Console& console)
-    : document_(resources, files, console)
+    : console_(console)
+    , document_(resources, files, console)
 {
     document_.load("CorvellaneEULA");
 }
@@ -78,13 +89,13 @@ void ContentView::observe(AppSettings& settings, const std::function<void()>& ch
 View ContentView::body(AppSettings& settings) const
 {
     return holding(Layers{Placement::leading, false},
-        row(0, sideBar(settings.currentPage.get()), mainColumn(settings)).withBackdrop({backgroundColor, 0, {}}),
+        row(0, sideBar(settings.currentPage.get(), console_), mainColumn(settings)).withBackdrop({backgroundColor, 0, {}}),
         AlertView{settings}.body());
 }
 
 View ContentView::mainColumn(AppSettings& settings) const
 {
-    View title = verbatim(std::string(pageTitle(settings.currentPage.get())), textColor).withPadding(below);
+    View title = verbatim(std::string(pageTitle(settings.currentPage.get())), textColor, Placement::centre).withPadding(below);
     std::get<Text>(title.element).announcement = Announcement::spoken;
     return column(standardSpacing, Placement::centre, gap(20), std::move(title), contentRow(settings), gap(),
         buttonRow(settings));

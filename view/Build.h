@@ -55,9 +55,9 @@ inline View text(std::string key, Font font = standardFont, Placement lines = Pl
 }
 
 /// A text that is shown as it stands.
-inline View verbatim(std::string shown, Tint tint)
+inline View verbatim(std::string shown, Tint tint, Placement lines = Placement::leading)
 {
-    return holding(Text{std::move(shown), false, standardFont, tint, Placement::leading, Announcement::none, {}});
+    return holding(Text{std::move(shown), false, standardFont, tint, lines, Announcement::none, {}});
 }
 
 /// A symbol image stretched to a square.

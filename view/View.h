@@ -17,7 +17,10 @@ namespace corvellane::view {
 enum class Tint { black, white, blue, gray, green, red, label, secondaryLabel, separator, windowBackground };
 
 enum class Axis { horizontal, vertical };
-enum class Placement { leading, centre };
+
+/// Where what is smaller than its place stands in it; on the first line, in the middle of what the row is high when
+/// every text has one line.
+enum class Placement { leading, centre, firstLine };
 
 /// The system's font at a size in points, at the desktop's standard text size; the host follows a larger one.
 struct Font {
@@ -94,6 +97,10 @@ struct Symbol {
 struct Image {
     std::string name;
     Tint tint = Tint::black;
+    /// Words that stand in its place where there is no such image or it cannot be drawn; shown as they stand.
+    std::string alternative;
+    /// Called the first time that they do.
+    Action<void()> missing;
     bool operator==(const Image&) const = default;
 };
 

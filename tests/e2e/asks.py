@@ -103,7 +103,7 @@ def untick_the_first_product(wizard):
     while wizard.focus_after("Tab") != "Select Products to install":
         pass
     wizard.key("space")
-    wait_for("the tick to go", lambda: "list item Velvetgrain Lightroom focused" in wizard.said())
+    wait_for("the tick to go", lambda: "check box Velvetgrain Lightroom focused" in wizard.said())
     wizard.press_until("Next", "label The following Products will be installed")
     wizard.press_until("Next", "push button Install")
 

@@ -22,7 +22,7 @@ HOST_FOLDERS = [
 def behind(*expected):
     """What is said of a page while an alert is up: nothing of it can be used."""
     bare = [words.removesuffix(" focused").removesuffix(" disabled") for words in expected]
-    return [words + ("" if words.startswith("list item") else " disabled") for words in bare]
+    return [words + " disabled" for words in bare]
 
 
 def wait_for(what, condition):

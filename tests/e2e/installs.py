@@ -9,9 +9,9 @@ LICENSE = ["label Software License Agreement", "text Software License Agreement"
 TICKED = [
     "label Select Products to install",
     "list Select Products to install",
-    "list item Velvetgrain Lightroom checked",
-    "list item Velvetgrain Photo checked",
-    "list item Velvetgrain Tessellane checked",
+    "check box Velvetgrain Lightroom checked",
+    "check box Velvetgrain Photo checked",
+    "check box Velvetgrain Tessellane checked",
 ]
 TO_INSTALL = [
     "label The following Products will be installed",

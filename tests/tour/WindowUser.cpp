@@ -39,7 +39,7 @@ QWidget* WindowUser::button(const std::string& label) const
 {
     QWidget* found = nullptr;
     for (QAbstractButton* const each : visible<QAbstractButton>(window_)) {
-        if (each->accessibleName() == view::localized(label) && (found == nullptr || each->isEnabled())) {
+        if (each->text() == view::localized(label) && (found == nullptr || each->isEnabled())) {
             found = each;
         }
     }

@@ -1,6 +1,8 @@
 #include "view/qt/Accessibility.h"
 
 #include "view/qt/Layout.h"
+#include "view/qt/ListAccessibility.h"
+#include "view/qt/ListView.h"
 #include "view/qt/LogView.h"
 #include "view/qt/ViewHost.h"
 
@@ -90,6 +92,9 @@ QAccessibleInterface* interfaceOf(const QString&, QObject* object)
 {
     if (auto* const log = dynamic_cast<LogView*>(object)) {
         return new AccessibleLog(*log);
+    }
+    if (auto* const list = dynamic_cast<ListView*>(object)) {
+        return makeListAccessibility(*list);
     }
     if (auto* const panel = dynamic_cast<Panel*>(object)) {
         return new QAccessibleWidget(panel, panel->isModal() ? QAccessible::Dialog : QAccessible::Grouping);

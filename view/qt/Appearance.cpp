@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFontInfo>
+#include <QPainter>
 
 #include <algorithm>
 #include <array>
@@ -40,6 +41,9 @@ constexpr std::array<RoleColor, 20> lightColors{{
 /// Desktops set their text at 9 to 11 points of 96 dots an inch; what is larger has been asked for.
 constexpr double largestUsualPixelSize = 15;
 
+/// Points wide.
+constexpr double focusLine = 1.5;
+
 } // namespace
 
 QColor colorOf(Tint tint)
@@ -76,6 +80,15 @@ QPalette lightPalette()
     }
     palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor::fromRgb(0xffa8a8ac));
     return palette;
+}
+
+void paintFocusFrame(QPainter& painter, const QRectF& area, double cornerRadius)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colorOf(Tint::blue), focusLine));
+    painter.setBrush(Qt::NoBrush);
+    constexpr double half = focusLine / 2;
+    painter.drawRoundedRect(area.adjusted(half, half, -half, -half), cornerRadius, cornerRadius);
 }
 
 QString localized(const std::string& key)

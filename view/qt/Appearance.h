@@ -7,12 +7,18 @@
 #include <QPalette>
 #include <QString>
 
+class QPainter;
+class QRectF;
+
 namespace corvellane::view {
 
 QColor colorOf(Tint tint);
 
 /// The light scheme, the same for windows with and without the focus; every role of every group is set.
 QPalette lightPalette();
+
+/// Draws the frame of what has the keyboard focus along the inside of `area`.
+void paintFocusFrame(QPainter& painter, const QRectF& area, double cornerRadius = 0);
 
 /// What the table of translated texts has for the key; the key itself where it has nothing.
 QString localized(const std::string& key);

@@ -191,6 +191,18 @@ void Panel::layOut()
     std::ranges::for_each(slots_, [&](const Slot& slot) { slot.place(area, placement, placement, area); });
 }
 
+/// The part of a row's cell that a child is in the middle of: the row's first line, or what the child is higher than
+/// that. The row as high as it needs to be is in the middle of its area.
+QRect Panel::firstLine(const Slot& slot, const QRect& cell, const QRect& area) const
+{
+    int line = slot.heightExtent(cell.width()).minimum;
+    for (const Slot& each : slots_) {
+        line = std::max(line, each.heightExtent(unbounded).minimum);
+    }
+    const int spare = area.height() - contentExtent(Axis::vertical, area.width()).minimum;
+    return {cell.left(), cell.top() + spare / 2, cell.width(), line};
+}
+
 void Panel::placeStack(const Stack& stack, const QRect& area) const
 {
     const std::vector<int> lengthsOfSlots = lengths(stack, area.size());
@@ -199,7 +211,9 @@ void Panel::placeStack(const Stack& stack, const QRect& area) const
         const int length = lengthsOfSlots[index];
         if (stack.axis == Axis::horizontal) {
             const QRect cell(area.left() + position, area.top(), length, area.height());
-            slots_[index].place(cell, Placement::leading, stack.across, area);
+            const bool onFirstLine = stack.across == Placement::firstLine;
+            slots_[index].place(onFirstLine ? firstLine(slots_[index], cell, area) : cell, Placement::leading,
+                onFirstLine ? Placement::centre : stack.across, area);
         } else {
             const QRect cell(area.left(), area.top() + position, area.width(), length);
             slots_[index].place(cell, stack.across, Placement::leading, area);

@@ -88,6 +88,7 @@ private:
     Extent contentExtent(Axis axis, int width) const;
     std::vector<int> lengths(const Stack& stack, const QSize& area) const;
     void placeStack(const Stack& stack, const QRect& area) const;
+    QRect firstLine(const Slot& slot, const QRect& cell, const QRect& area) const;
 
     Arrangement arrangement_;
     std::vector<Slot> slots_;

@@ -10,6 +10,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QTextDocument>
+#include <QToolTip>
 
 #include <algorithm>
 #include <utility>
@@ -19,6 +21,9 @@ namespace {
 
 constexpr int inset = 10;
 constexpr int aboveName = 4;
+constexpr int besideFocus = 3;
+/// Between the list's edge and its first row, and after its last.
+constexpr int aboveRows = 4;
 
 /// Positions in a row are those of text from left to right, and mirrored for the other direction.
 QRect mirrored(const QRect& row, const QRect& area)
@@ -38,30 +43,26 @@ QRect symbolArea(const QRect& row, const Symbol& symbol)
     return mirrored(row, {row.left() + inset, row.top() + (row.height() - size) / 2, size, size});
 }
 
-/// The name's own area; a name longer than the row ends at the row's end.
-QRect nameArea(const QRect& row, const Symbol& symbol, const QFontMetrics& metrics, const QString& name)
+/// The width that a row leaves to its name.
+int nameWidth(int rowWidth, const Symbol& symbol)
 {
-    const int left = row.left() + inset + sizeOf(symbol) + standardSpacing;
-    const int natural = metrics.horizontalAdvance(name);
-    const int width = std::max(0, std::min(natural + 1, row.right() - inset - left));
-    return mirrored(row, {left, row.top(), width, row.height()});
+    return rowWidth - 2 * inset - sizeOf(symbol) - standardSpacing;
 }
 
-void paintFocus(QPainter& painter, const QRect& row)
+/// The name's own area, as wide as its longest line.
+QRect nameArea(const QRect& row, const Symbol& symbol, const QFont& font, const NameLines& name)
 {
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colorOf(Tint::blue), 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(row).adjusted(3.5, 0.5, -3.5, -0.5), 4, 4);
+    const int natural = QFontMetrics(font).size(0, name.text).width() + 1;
+    const int width = std::clamp(natural, 0, std::max(0, nameWidth(row.width(), symbol)));
+    return mirrored(row, {row.left() + inset + sizeOf(symbol) + standardSpacing, row.top(), width, row.height()});
 }
 
-bool isHit(const RowModel& model, const QModelIndex& index, const QRect& row, const QPoint& point)
+/// A name has a direction of its own, and stands where those of the window's direction begin.
+void drawName(QPainter& painter, const QRect& area, const NameLines& name)
 {
-    const Symbol& symbol = model.symbolAt(index.row());
-    const QRect symbolColumn = symbolArea(row, symbol);
-    const QFontMetrics metrics(fontOf(model.list().font));
-    return QRect(symbolColumn.left(), row.top(), symbolColumn.width(), row.height()).contains(point)
-        || nameArea(row, symbol, metrics, model.nameAt(index.row())).contains(point);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
+    const Qt::Alignment side = QGuiApplication::isLeftToRight() ? Qt::AlignLeft : Qt::AlignRight;
+    painter.drawText(area, (side | Qt::AlignAbsolute | Qt::AlignVCenter).toInt(), name.text);
 }
 
 } // namespace
@@ -137,6 +138,13 @@ Qt::ItemFlags RowModel::flags(const QModelIndex& index) const
 
 // Drawing and clicks
 
+NameLines RowDelegate::nameOf(const QModelIndex& index, int rowWidth) const
+{
+    const int row = index.row();
+    return linesOf(
+        model_.nameAt(row), fontOf(model_.list().font), nameWidth(rowWidth, model_.symbolAt(row)));
+}
+
 void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     const Symbol& symbol = model_.symbolAt(index.row());
@@ -146,25 +154,44 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, c
         tintedPicture(
             symbolFile(symbol.name), colorOf(symbol.tint), picture.size(), painter->device()->devicePixelRatioF()));
     const QFont font = fontOf(model_.list().font);
-    const QFontMetrics metrics(font);
-    const QString name = model_.nameAt(index.row());
-    const QRect area = nameArea(option.rect, symbol, metrics, name);
+    const NameLines name = nameOf(index, option.rect.width());
     painter->setFont(font);
     painter->setPen(colorOf(Tint::label));
-    // A name has a direction of its own, whatever that of the window.
-    painter->setLayoutDirection(Qt::LayoutDirectionAuto);
-    painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-        metrics.elidedText(name, Qt::ElideMiddle, area.width()));
+    drawName(*painter, nameArea(option.rect, symbol, font, name), name);
     if (option.state.testFlag(QStyle::State_HasFocus)) {
-        paintFocus(*painter, option.rect);
+        paintFocusFrame(*painter, QRectF(option.rect).adjusted(besideFocus, 0, -besideFocus, 0), 4);
     }
     painter->restore();
 }
 
-QSize RowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const
+QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    const int symbol = sizeOf(model_.list().plain);
-    return {inset, std::max(symbol, QFontMetrics(fontOf(model_.list().font)).height()) + 2 * aboveName};
+    const auto* const list = static_cast<const QAbstractScrollArea*>(option.widget);
+    const NameLines name = nameOf(index, list->viewport()->width());
+    const int text = QFontMetrics(fontOf(model_.list().font)).size(0, name.text).height();
+    return {inset, std::max(sizeOf(model_.list().plain), text) + 2 * aboveName};
+}
+
+bool RowDelegate::isHit(const QModelIndex& index, const QRect& row, const QPoint& point) const
+{
+    const Symbol& symbol = model_.symbolAt(index.row());
+    const QRect symbolColumn = symbolArea(row, symbol);
+    const QRect name = nameArea(row, symbol, fontOf(model_.list().font), nameOf(index, row.width()));
+    return QRect(symbolColumn.left(), row.top(), symbolColumn.width(), row.height()).contains(point)
+        || name.contains(point);
+}
+
+/// A name that is shown in part is shown whole beside the pointer.
+bool RowDelegate::helpEvent(
+    QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    if (!index.isValid() || nameOf(index, option.rect.width()).isWhole) {
+        QToolTip::hideText();
+        return false;
+    }
+    const QString words = Qt::convertFromPlainText(model_.nameAt(index.row()), Qt::WhiteSpaceNormal);
+    QToolTip::showText(event->globalPos(), words, view, option.rect);
+    return true;
 }
 
 bool RowDelegate::editorEvent(
@@ -173,7 +200,7 @@ bool RowDelegate::editorEvent(
     const auto toggle = [&] { return model->setData(index, {}, Qt::CheckStateRole); };
     const auto isInside = [&] {
         const auto* mouse = static_cast<QMouseEvent*>(event);
-        return mouse->button() == Qt::LeftButton && isHit(model_, index, option.rect, mouse->position().toPoint());
+        return mouse->button() == Qt::LeftButton && isHit(index, option.rect, mouse->position().toPoint());
     };
     switch (event->type()) {
     case QEvent::MouseButtonPress:
@@ -201,9 +228,9 @@ ListView::ListView(QWidget* parent, const bool& deaf)
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setUniformItemSizes(true);
+    setResizeMode(QListView::Adjust); // a name's lines depend on the width
     setTabKeyNavigation(false);
-    setViewportMargins(0, 0, 0, 0);
+    setViewportMargins(0, aboveRows, 0, aboveRows);
     setItemDelegate(&delegate_);
     setModel(&model_);
 }

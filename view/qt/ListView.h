@@ -1,6 +1,7 @@
 #pragma once
 
 #include "view/View.h"
+#include "view/qt/NameLines.h"
 
 #include <QAbstractListModel>
 #include <QListView>
@@ -21,6 +22,7 @@ public:
 
     const List& list() const { return list_; }
     const std::string& pathAt(int row) const { return (*list_.paths)[static_cast<std::size_t>(row)]; }
+    bool canTick() const { return !list_.ticks.empty(); }
     bool isTicked(int row) const { return canTick() && list_.ticks[static_cast<std::size_t>(row)]; }
     const Symbol& symbolAt(int row) const { return isTicked(row) ? list_.ticked : list_.plain; }
     QString nameAt(int row) const;
@@ -32,7 +34,6 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
-    bool canTick() const { return !list_.ticks.empty(); }
     void tellTicks(const std::vector<bool>& before);
 
     const bool& deaf_;
@@ -51,8 +52,13 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
         const QModelIndex& index) override;
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+        const QModelIndex& index) override;
 
 private:
+    NameLines nameOf(const QModelIndex& index, int rowWidth) const;
+    bool isHit(const QModelIndex& index, const QRect& row, const QPoint& point) const;
+
     const RowModel& model_;
     bool pressedInside_ = false;
 };
@@ -63,6 +69,9 @@ public:
     ListView(QWidget* parent, const bool& deaf);
 
     void present(const List& list);
+
+    const RowModel& rows() const { return model_; }
+    void toggle(int row) { model_.setData(model_.index(row), {}, Qt::CheckStateRole); }
 
 protected:
     void dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) override;

@@ -113,8 +113,7 @@ void LogView::paintEvent(QPaintEvent* event)
     }
     painter.restore();
     if (hasFocus()) {
-        painter.setPen(colorOf(Tint::blue));
-        painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+        paintFocusFrame(painter, viewport()->rect());
     }
 }
 

@@ -1,5 +1,6 @@
 #include "view/qt/Pictures.h"
 
+#include "view/qt/Accessibility.h"
 #include "view/qt/Appearance.h"
 
 #include <QPainter>
@@ -11,9 +12,12 @@ namespace {
 
 QPixmap drawn(const QString& file, const QColor& tint, const QSize& pixels)
 {
+    QSvgRenderer renderer(file);
+    if (!renderer.isValid()) {
+        return {};
+    }
     QPixmap picture(pixels);
     picture.fill(Qt::transparent);
-    QSvgRenderer renderer(file);
     renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
     QPainter painter(&picture);
     renderer.render(&painter, picture.rect());
@@ -58,17 +62,40 @@ void FillArea::paintEvent(QPaintEvent*)
     painter.fillRect(rect(), colorOf(fill_.tint));
 }
 
-void Picture::present(const QString& file, Tint tint)
+void Picture::present(const QString& file, const Image& image)
 {
     file_ = file;
-    tint_ = tint;
+    image_ = image;
     update();
 }
 
 void Picture::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.drawPixmap(0, 0, tintedPicture(file_, colorOf(tint_), size(), devicePixelRatioF()));
+    const QPixmap picture = tintedPicture(file_, colorOf(image_.tint), size(), devicePixelRatioF());
+    if (picture.isNull()) {
+        return paintAlternative(painter);
+    }
+    painter.drawPixmap(0, 0, picture);
+}
+
+/// In the largest letters, from those of a title on, that fit.
+void Picture::paintAlternative(QPainter& painter)
+{
+    const QString words = QString::fromStdString(image_.alternative);
+    constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
+    constexpr int smallest = 8;
+    QFont font = fontOf({thirdTitleFont.size, true});
+    while (font.pixelSize() > smallest && !rect().contains(QFontMetrics(font).boundingRect(rect(), flags, words))) {
+        font.setPixelSize(font.pixelSize() - 1);
+    }
+    painter.setFont(font);
+    painter.setPen(colorOf(image_.tint));
+    painter.drawText(rect(), flags, words);
+    if (accessibleName() != words) {
+        nameForAssistance(*this, words);
+        image_.missing();
+    }
 }
 
 } // namespace corvellane::view

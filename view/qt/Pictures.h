@@ -34,7 +34,7 @@ private:
     Fill fill_;
 };
 
-/// The widget of a symbol or of an image of the resources; fills its frame.
+/// The widget of a symbol or of an image of the resources, or of the words in its place; fills its frame.
 class Picture : public QWidget {
 public:
     explicit Picture(QWidget* parent)
@@ -42,14 +42,16 @@ public:
     {
     }
 
-    void present(const QString& file, Tint tint);
+    void present(const QString& file, const Image& image);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void paintAlternative(QPainter& painter);
+
     QString file_;
-    Tint tint_ = Tint::label;
+    Image image_;
 };
 
 } // namespace corvellane::view

@@ -1,6 +1,5 @@
 #include "view/qt/PushButton.h"
 
-#include "view/qt/Accessibility.h"
 #include "view/qt/Appearance.h"
 #include "view/qt/Pictures.h"
 
@@ -30,7 +29,6 @@ PushButton::PushButton(QWidget* parent, const bool& deaf)
     , deaf_(deaf)
 {
     setAutoDefault(false);
-    setIconSize({symbolSize, symbolSize});
     connect(this, &QPushButton::pressed, this, [this] { heard_ = !deaf_; });
     connect(this, &QPushButton::clicked, this, [this] {
         const Action<void()> action = action_;
@@ -47,21 +45,29 @@ void PushButton::present(const Button& button)
     isLink_ = button.style == Button::Style::link;
     setFont(fontOf({standardFont.size, button.style == Button::Style::emphasised}));
     setText(withoutMnemonics(label));
-    nameForAssistance(*this, label);
     setCursor(isLink_ ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    setIcon(button.symbol.empty() ? QIcon() : symbolIcon(button.symbol));
+    const int size = qRound(symbolSize * textScale());
+    setIconSize({size + symbolDistance, size});
+    setIcon(button.symbol.empty() ? QIcon() : symbolIcon(button.symbol, size));
     setEnabled(button.enabled);
 }
 
-QIcon PushButton::symbolIcon(const std::string& symbol) const
+/// The symbol, and the distance that the label keeps from it.
+QIcon PushButton::symbolIcon(const std::string& symbol, int size) const
 {
-    return tintedPicture(symbolFile(symbol), colorOf(Tint::label), iconSize(), devicePixelRatioF());
+    const double ratio = devicePixelRatioF();
+    QPixmap picture((QSizeF(iconSize()) * ratio).toSize());
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter(&picture).drawPixmap(
+        isRightToLeft() ? symbolDistance : 0, 0, tintedPicture(symbolFile(symbol), colorOf(Tint::label), {size, size}, ratio));
+    return picture;
 }
 
 Extent PushButton::widthExtent() const
 {
     const int label = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
-    const int symbol = icon().isNull() ? 0 : symbolSize + symbolDistance;
+    const int symbol = icon().isNull() ? 0 : iconSize().width() + symbolDistance;
     const int width = isLink_ ? label + 2 : std::max(sizeHint().width(), symbol + label + 2 * besideLabel);
     return {width, width};
 }

@@ -27,7 +27,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
-    QIcon symbolIcon(const std::string& symbol) const;
+    QIcon symbolIcon(const std::string& symbol, int size) const;
     void paintLink();
 
     const bool& deaf_;

@@ -1,7 +1,12 @@
 #include "view/qt/RichTextViewer.h"
 
+#include "view/qt/Appearance.h"
 #include "view/qt/RichTextFormats.h"
 
+#include <QAccessible>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextEdit>
@@ -50,6 +55,81 @@ void insertParagraph(
     }
 }
 
+/// Its frame tells of the focus. Keys scroll it, as those who look expect; those who listen move a caret through it,
+/// whose lines they are read.
+class Viewer : public QTextEdit {
+public:
+    explicit Viewer(QWidget* parent)
+        : QTextEdit(parent)
+    {
+        setReadOnly(true);
+        setTextInteractionFlags(
+            Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::LinksAccessibleByMouse);
+        setCursorWidth(0);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setFrameShape(QFrame::NoFrame);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+        if (modifiers != Qt::NoModifier || QAccessible::isActive() || !scrollBy(event->key())) {
+            QTextEdit::keyPressEvent(event);
+        }
+    }
+
+    void paintEvent(QPaintEvent* event) override
+    {
+        QTextEdit::paintEvent(event);
+        if (hasFocus()) {
+            QPainter painter(viewport());
+            paintFocusFrame(painter, viewport()->rect());
+        }
+    }
+
+    void focusInEvent(QFocusEvent* event) override
+    {
+        QTextEdit::focusInEvent(event);
+        viewport()->update();
+    }
+
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        QTextEdit::focusOutEvent(event);
+        viewport()->update();
+    }
+
+    /// The frame stays where it is.
+    void scrollContentsBy(int, int) override { viewport()->update(); }
+
+private:
+    bool scrollBy(int key)
+    {
+        const auto act = [this](QAbstractSlider::SliderAction action) {
+            verticalScrollBar()->triggerAction(action);
+            return true;
+        };
+        switch (key) {
+        case Qt::Key_Up:
+            return act(QAbstractSlider::SliderSingleStepSub);
+        case Qt::Key_Down:
+            return act(QAbstractSlider::SliderSingleStepAdd);
+        case Qt::Key_PageUp:
+            return act(QAbstractSlider::SliderPageStepSub);
+        case Qt::Key_PageDown:
+            return act(QAbstractSlider::SliderPageStepAdd);
+        case Qt::Key_Home:
+            return act(QAbstractSlider::SliderToMinimum);
+        case Qt::Key_End:
+            return act(QAbstractSlider::SliderToMaximum);
+        default:
+            return false;
+        }
+    }
+};
+
 QPalette paperPalette(QPalette palette)
 {
     palette.setColor(QPalette::Base, Qt::white);
@@ -75,13 +155,7 @@ void fillTextDocument(QTextDocument& document, const rtf::AttributedText& text)
 
 QWidget* makeRichTextViewer(const rtf::AttributedText& text, QWidget* parent)
 {
-    auto* viewer = new QTextEdit(parent);
-    viewer->setReadOnly(true);
-    viewer->setTextInteractionFlags(
-        Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::LinksAccessibleByMouse);
-    viewer->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    viewer->setFrameShape(QFrame::NoFrame);
-    viewer->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    auto* viewer = new Viewer(parent);
     viewer->setPalette(paperPalette(viewer->palette()));
     auto* document = new QTextDocument(viewer);
     fillTextDocument(*document, text);

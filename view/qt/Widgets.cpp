@@ -41,12 +41,12 @@ struct Presenter {
 
     Standing operator()(const Symbol& symbol) const
     {
-        return shown(theWidget<Picture>(), symbolFile(symbol.name), symbol.tint);
+        return shown(theWidget<Picture>(), symbolFile(symbol.name), Image{{}, symbol.tint, {}, {}});
     }
 
     Standing operator()(const Image& image) const
     {
-        return shown(theWidget<Picture>(), QString::fromStdString(imageFiles(image.name)), image.tint);
+        return shown(theWidget<Picture>(), QString::fromStdString(imageFiles(image.name)), image);
     }
 
     /// One that is on the screen already keeps showing the text that it was made with.

@@ -4,6 +4,7 @@
 #include "tests/FakePlatform.h"
 #include "tests/tour/WindowUser.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QListView>
 #include <QTest>
@@ -65,12 +66,18 @@ protected:
         settle();
     }
 
+    /// What assistive technology calls the widget.
+    static QString heardName(QWidget& widget)
+    {
+        return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
+    }
+
     /// The visible widget of that accessible name.
     template <typename Kind = QWidget>
     Kind* named(const QString& name)
     {
         for (Kind* const each : window().findChildren<Kind*>()) {
-            if (each->isVisible() && each->accessibleName() == name) {
+            if (each->isVisible() && heardName(*each) == name) {
                 return each;
             }
         }
