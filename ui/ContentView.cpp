@@ -89,13 +89,15 @@ void ContentView::observe(AppSettings& settings, const std::function<void()>& ch
 View ContentView::body(AppSettings& settings) const
 {
     return holding(Layers{Placement::leading, false},
-        row(0, sideBar(settings.currentPage.get(), console_), mainColumn(settings)).withBackdrop({backgroundColor, 0, {}}),
+        row(0, sideBar(settings.currentPage.get(), console_), mainColumn(settings))
+            .withBackdrop({backgroundColor, 0, {}}),
         AlertView{settings}.body());
 }
 
 View ContentView::mainColumn(AppSettings& settings) const
 {
-    View title = verbatim(std::string(pageTitle(settings.currentPage.get())), textColor, Placement::centre).withPadding(below);
+    View title
+        = verbatim(std::string(pageTitle(settings.currentPage.get())), textColor, Placement::centre).withPadding(below);
     std::get<Text>(title.element).announcement = Announcement::spoken;
     return column(standardSpacing, Placement::centre, gap(20), std::move(title), contentRow(settings), gap(),
         buttonRow(settings));

@@ -141,8 +141,7 @@ Qt::ItemFlags RowModel::flags(const QModelIndex& index) const
 NameLines RowDelegate::nameOf(const QModelIndex& index, int rowWidth) const
 {
     const int row = index.row();
-    return linesOf(
-        model_.nameAt(row), fontOf(model_.list().font), nameWidth(rowWidth, model_.symbolAt(row)));
+    return linesOf(model_.nameAt(row), fontOf(model_.list().font), nameWidth(rowWidth, model_.symbolAt(row)));
 }
 
 void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const

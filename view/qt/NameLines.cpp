@@ -37,7 +37,8 @@ QString withoutSpaceAtEnd(QString line)
 NameLines linesOf(const QString& name, const QFont& font, int width)
 {
     const QFontMetrics metrics(font);
-    const auto fits = [&](const QString& line) { return !line.contains('\n') && metrics.horizontalAdvance(line) < width; };
+    const auto fits
+        = [&](const QString& line) { return !line.contains('\n') && metrics.horizontalAdvance(line) < width; };
     if (fits(name)) {
         return {name, true};
     }

@@ -3,10 +3,10 @@
 #include "view/qt/Appearance.h"
 #include "view/qt/Pictures.h"
 
-#include <QIcon>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
+#include <QStylePainter>
 
 #include <algorithm>
 
@@ -14,8 +14,14 @@ namespace corvellane::view {
 namespace {
 
 constexpr int symbolSize = 14;
-constexpr int symbolDistance = 4;
+constexpr int symbolDistance = 6;
 constexpr int besideLabel = 12;
+
+/// A symbol grows with the label beside it.
+int scaledSymbolSize()
+{
+    return qRound(symbolSize * textScale());
+}
 
 QString withoutMnemonics(QString label)
 {
@@ -46,29 +52,23 @@ void PushButton::present(const Button& button)
     setFont(fontOf({standardFont.size, button.style == Button::Style::emphasised}));
     setText(withoutMnemonics(label));
     setCursor(isLink_ ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    const int size = qRound(symbolSize * textScale());
-    setIconSize({size + symbolDistance, size});
-    setIcon(button.symbol.empty() ? QIcon() : symbolIcon(button.symbol, size));
+    symbol_ = button.symbol;
     setEnabled(button.enabled);
 }
 
-/// The symbol, and the distance that the label keeps from it.
-QIcon PushButton::symbolIcon(const std::string& symbol, int size) const
+int PushButton::labelWidth() const
 {
-    const double ratio = devicePixelRatioF();
-    QPixmap picture((QSizeF(iconSize()) * ratio).toSize());
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(Qt::transparent);
-    QPainter(&picture).drawPixmap(
-        isRightToLeft() ? symbolDistance : 0, 0, tintedPicture(symbolFile(symbol), colorOf(Tint::label), {size, size}, ratio));
-    return picture;
+    return fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+}
+
+int PushButton::contentWidth() const
+{
+    return symbol_.empty() ? labelWidth() : scaledSymbolSize() + symbolDistance + labelWidth();
 }
 
 Extent PushButton::widthExtent() const
 {
-    const int label = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
-    const int symbol = icon().isNull() ? 0 : iconSize().width() + symbolDistance;
-    const int width = isLink_ ? label + 2 : std::max(sizeHint().width(), symbol + label + 2 * besideLabel);
+    const int width = isLink_ ? labelWidth() + 2 : std::max(sizeHint().width(), contentWidth() + 2 * besideLabel);
     return {width, width};
 }
 
@@ -92,9 +92,30 @@ void PushButton::paintEvent(QPaintEvent* event)
 {
     if (isLink_) {
         paintLink();
+    } else if (!symbol_.empty()) {
+        paintWithSymbol();
     } else {
         QPushButton::paintEvent(event);
     }
+}
+
+/// The style would set a label that reads from right to left against the edge.
+void PushButton::paintWithSymbol()
+{
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.text.clear();
+    painter.drawControl(QStyle::CE_PushButton, option);
+    const int size = scaledSymbolSize();
+    const int left = (width() - contentWidth()) / 2;
+    const QRect picture = QStyle::visualRect(layoutDirection(), rect(), {left, (height() - size) / 2, size, size});
+    painter.drawPixmap(picture.topLeft(),
+        tintedPicture(symbolFile(symbol_), colorOf(Tint::label), picture.size(), devicePixelRatioF()));
+    const QRect words
+        = QStyle::visualRect(layoutDirection(), rect(), {left + size + symbolDistance, 0, labelWidth(), height()});
+    painter.setPen(option.palette.color(QPalette::ButtonText));
+    painter.drawText(words, Qt::AlignCenter | Qt::TextShowMnemonic, text());
 }
 
 void PushButton::paintLink()

@@ -5,6 +5,8 @@
 
 #include <QPushButton>
 
+#include <string>
+
 namespace corvellane::view {
 
 /// The widget of a button. No shortcut, no mnemonic, never a default button; while it has the focus the space bar,
@@ -27,11 +29,14 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
-    QIcon symbolIcon(const std::string& symbol, int size) const;
+    int labelWidth() const;
+    int contentWidth() const;
     void paintLink();
+    void paintWithSymbol();
 
     const bool& deaf_;
     Action<void()> action_;
+    std::string symbol_;
     bool isLink_ = false;
     bool heard_ = false;
 };

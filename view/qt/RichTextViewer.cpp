@@ -63,9 +63,7 @@ public:
         : QTextEdit(parent)
     {
         setReadOnly(true);
-        setTextInteractionFlags(
-            Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::LinksAccessibleByMouse);
-        setCursorWidth(0);
+        setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::LinksAccessibleByMouse);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setFrameShape(QFrame::NoFrame);
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
@@ -160,6 +158,7 @@ QWidget* makeRichTextViewer(const rtf::AttributedText& text, QWidget* parent)
     auto* document = new QTextDocument(viewer);
     fillTextDocument(*document, text);
     viewer->setDocument(document);
+    viewer->setCursorWidth(0); // kept with the document
     return viewer;
 }
 

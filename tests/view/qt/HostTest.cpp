@@ -1,4 +1,7 @@
+#include "tests/ScratchFolder.h"
 #include "tests/view/qt/WindowWorld.h"
+#include "view/qt/Appearance.h"
+#include "view/qt/NameLines.h"
 
 #include <QAccessible>
 #include <QScrollBar>
@@ -94,6 +97,54 @@ TEST_F(WindowWorld, togglesARowWhereItIs)
     settle();
     EXPECT_EQ(row.data(Qt::CheckStateRole).toInt(), Qt::Unchecked) << "two quick clicks are two";
     EXPECT_TRUE(QAccessible::queryAccessibleInterface(list)->child(0)->state().checkable);
+}
+
+TEST_F(WindowWorld, tellsNamesApartThatShareBeginningAndEnd)
+{
+    const QFont font = fontOf({14, false});
+    const QString one = QStringLiteral("Velvetgrain for the first of many hosts, with its presets, Photo");
+    const QString other = QString(one).replace(QStringLiteral("first"), QStringLiteral("third"));
+    const int width = QFontMetrics(font).horizontalAdvance(one) * 2 / 3;
+    EXPECT_EQ(linesOf(one, font, 10 * width).text, one);
+    EXPECT_TRUE(linesOf(one, font, width).isWhole);
+    EXPECT_EQ(linesOf(one, font, width).text.count('\n'), 1);
+    EXPECT_NE(linesOf(one, font, width).text, linesOf(other, font, width).text);
+    EXPECT_EQ(linesOf(QStringLiteral("a\nb"), font, width).text, QStringLiteral("a\nb"));
+    for (const QString& longer : {one + one + one, one + "\n" + one, QString(300, 'w')}) {
+        const NameLines lines = linesOf(longer, font, width);
+        EXPECT_FALSE(lines.isWhole);
+        EXPECT_EQ(lines.text.count('\n'), 1);
+        EXPECT_LE(QFontMetrics(font).size(0, lines.text).width(), width);
+    }
+}
+
+TEST_F(WindowWorld, makesRoomForTheSecondLineOfAName)
+{
+    platform.addProduct("A product with a name that is longer than a line of a window of the usual size, Photo", {});
+    open(platform.services());
+    goTo(Page::products);
+    QListView* const list = user().list();
+    const int usual = list->visualRect(list->model()->index(1, 0)).height();
+    EXPECT_GT(list->visualRect(list->model()->index(0, 0)).height(), usual * 3 / 2);
+    window().resize(2000, window().height());
+    settle();
+    EXPECT_EQ(list->visualRect(list->model()->index(0, 0)).height(), usual);
+}
+
+TEST_F(WindowWorld, namesTheProductWhereThereIsNoLogo)
+{
+    const ScratchFolder scratch;
+    const auto isOfTheLogo = [](const std::string& line) { return line.find("Logo") != std::string::npos; };
+    scratch.write("broken.svg", "<svg");
+    for (const std::string& file : {std::string(), scratch.path() + "/broken.svg"}) {
+        platform.console.lines.clear();
+        platform.resources.files = {{"Logo.svg", file}};
+        open(platform.services());
+        window().grab();
+        window().grab();
+        EXPECT_NE(named("Corvellane Plugin Installer"), nullptr);
+        EXPECT_EQ(std::ranges::count_if(platform.console.lines, isOfTheLogo), 1);
+    }
 }
 
 TEST_F(WindowWorld, followsTheReadingOrderWithTheTabKey)

@@ -64,6 +64,26 @@ TEST_F(RichTextViewer, isReadAndCopiedButNotChanged)
     EXPECT_EQ(QGuiApplication::clipboard()->text().size(), before.size());
 }
 
+TEST_F(RichTextViewer, scrollsByKeyInsideAFrameThatTellsOfTheFocus)
+{
+    const auto corner = [this] { return viewer_->viewport()->grab().toImage().pixelColor(0, 100); };
+    window_.activateWindow();
+    viewer_->clearFocus();
+    EXPECT_EQ(corner(), QColor(Qt::white));
+    viewer_->setFocus();
+    QApplication::processEvents();
+    EXPECT_NE(corner(), QColor(Qt::white));
+    const QScrollBar& vertical = *viewer_->verticalScrollBar();
+    QTest::keyClick(viewer_, Qt::Key_Down);
+    EXPECT_EQ(vertical.value(), vertical.singleStep());
+    QTest::keyClick(viewer_, Qt::Key_End);
+    EXPECT_EQ(vertical.value(), vertical.maximum());
+    QTest::keyClick(viewer_, Qt::Key_Home);
+    EXPECT_EQ(vertical.value(), 0);
+    QTest::keyClick(viewer_, Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(viewer_->textCursor().selectedText(), QStringLiteral("l"));
+}
+
 TEST_F(RichTextViewer, opensNoLinkWhateverIsPressed)
 {
     const UrlOpener browser(QStringLiteral("https"));
