@@ -62,7 +62,7 @@ void drawName(QPainter& painter, const QRect& area, const NameLines& name)
 {
     painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     const Qt::Alignment side = QGuiApplication::isLeftToRight() ? Qt::AlignLeft : Qt::AlignRight;
-    painter.drawText(area, (side | Qt::AlignAbsolute | Qt::AlignVCenter).toInt(), name.text);
+    painter.drawText(area, static_cast<int>((side | Qt::AlignAbsolute | Qt::AlignVCenter).toInt()), name.text);
 }
 
 } // namespace
