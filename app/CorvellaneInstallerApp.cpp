@@ -1,5 +1,6 @@
 #include "app/CorvellaneInstallerApp.h"
 
+#include "platform/Console.h"
 #include "platform/Resources.h"
 #include "view/Metrics.h"
 #include "view/qt/Appearance.h"
@@ -19,14 +20,23 @@ std::shared_ptr<AppSettings> filledSettings(const Platform& platform)
     return settings;
 }
 
+view::Images imagesOf(const Platform& platform)
+{
+    return {
+        [&resources = platform.resources](const std::string& name) { return resources.file(name, "svg").value_or(""); },
+        [&console = platform.console](const std::string& name) {
+            console.print(
+                "The file “" + name + ".svg” is missing or is no picture; the product’s name stands in its place.");
+        },
+    };
+}
+
 } // namespace
 
 CorvellaneInstallerApp::CorvellaneInstallerApp(const Platform& platform)
     : settings_(filledSettings(platform))
     , contentView_(platform.resources, platform.files, platform.console)
-    , window_([this] { return body(); },
-          [&resources = platform.resources](
-              const std::string& name) { return resources.file(name, "svg").value_or(""); })
+    , window_([this] { return body(); }, imagesOf(platform))
 {
     contentView_.observe(*settings_, [this] { window_.scheduleRedraw(); });
     window_.setWindowTitle(QStringLiteral("Corvellane Plugin Installer"));

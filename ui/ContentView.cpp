@@ -1,6 +1,5 @@
 #include "ui/ContentView.h"
 
-#include "platform/Console.h"
 #include "state/AppSettings.h"
 #include "ui/AlertView.h"
 #include "ui/Pages.h"
@@ -31,17 +30,11 @@ View pageList(Page currentPage)
     return list;
 }
 
-void tellOfMissingLogo(Console& console)
-{
-    console.print("The file “Logo.svg” is missing or is no picture; the product’s name stands in its place.");
-}
-
 /// The logo and the list of the pages, the current one marked.
-View sideBar(Page currentPage, Console& console)
+View sideBar(Page currentPage)
 {
-    View logo = holding(Image{"Logo", ContentView::textColor, "Corvellane Plugin Installer",
-                            Action<void()>::calling<&tellOfMissingLogo>(console)})
-                    .withFrame({180, 180, 38, 40});
+    View logo
+        = holding(Image{"Logo", ContentView::textColor, "Corvellane Plugin Installer"}).withFrame({180, 180, 38, 40});
     return column(0, Placement::centre, gap().withPriority(0.1), std::move(logo), gap(), gap(), pageList(currentPage),
         gap().withPriority(0.5))
         .withFrame({180, 195, {}, {}});
@@ -74,8 +67,7 @@ View buttonRow(AppSettings& settings)
 } // namespace
 
 ContentView::ContentView(const Resources& resources, const Files& files, Console& console)
-    : console_(console)
-    , document_(resources, files, console)
+    : document_(resources, files, console)
 {
     document_.load("CorvellaneEULA");
 }
@@ -89,8 +81,7 @@ void ContentView::observe(AppSettings& settings, const std::function<void()>& ch
 View ContentView::body(AppSettings& settings) const
 {
     return holding(Layers{Placement::leading, false},
-        row(0, sideBar(settings.currentPage.get(), console_), mainColumn(settings))
-            .withBackdrop({backgroundColor, 0, {}}),
+        row(0, sideBar(settings.currentPage.get()), mainColumn(settings)).withBackdrop({backgroundColor, 0, {}}),
         AlertView{settings}.body());
 }
 

@@ -32,7 +32,6 @@ private:
     view::View contentRow(AppSettings& settings) const;
     view::View stateView(AppSettings& settings) const;
 
-    Console& console_;
     Document document_;
     Subscription settingsChange_;
     Subscription documentChange_;

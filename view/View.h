@@ -99,8 +99,6 @@ struct Image {
     Tint tint = Tint::black;
     /// Words that stand in its place where there is no such image or it cannot be drawn; shown as they stand.
     std::string alternative;
-    /// Called the first time that they do.
-    Action<void()> missing;
     bool operator==(const Image&) const = default;
 };
 

@@ -94,7 +94,7 @@ void Picture::paintAlternative(QPainter& painter)
     painter.drawText(rect(), flags, words);
     if (accessibleName() != words) {
         nameForAssistance(*this, words);
-        image_.missing();
+        images_.missing(image_.name);
     }
 }
 

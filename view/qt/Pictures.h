@@ -8,7 +8,18 @@
 #include <QString>
 #include <QWidget>
 
+#include <functional>
+#include <string>
+
 namespace corvellane::view {
+
+/// The images of the program's resources, by their names.
+struct Images {
+    /// The path; empty where there is none.
+    std::function<std::string(const std::string& name)> file;
+    /// There is none, or it cannot be drawn.
+    std::function<void(const std::string& name)> missing;
+};
 
 /// The file of a symbol image of the program's own.
 QString symbolFile(const std::string& name);
@@ -37,8 +48,9 @@ private:
 /// The widget of a symbol or of an image of the resources, or of the words in its place; fills its frame.
 class Picture : public QWidget {
 public:
-    explicit Picture(QWidget* parent)
+    Picture(QWidget* parent, const Images& images)
         : QWidget(parent)
+        , images_(images)
     {
     }
 
@@ -50,6 +62,7 @@ protected:
 private:
     void paintAlternative(QPainter& painter);
 
+    const Images& images_;
     QString file_;
     Image image_;
 };

@@ -12,10 +12,10 @@
 
 namespace corvellane::view {
 
-ViewHost::ViewHost(std::function<View()> body, Widgets::ImageFiles imageFiles)
+ViewHost::ViewHost(std::function<View()> body, Images images)
     : body_(std::move(body))
     , wait_(*this)
-    , widgets_(std::move(imageFiles), wait_.isDeaf())
+    , widgets_(std::move(images), wait_.isDeaf())
 {
     redraw();
 }

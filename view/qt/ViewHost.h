@@ -18,7 +18,7 @@ namespace corvellane::view {
 class ViewHost : public QWidget {
 public:
     /// `body` makes the tree anew, from the state as it is then.
-    ViewHost(std::function<View()> body, Widgets::ImageFiles imageFiles);
+    ViewHost(std::function<View()> body, Images images);
     ~ViewHost() override;
 
     /// Has the tree made and shown when the event loop is next reached, once for any number of calls.

@@ -19,7 +19,7 @@ struct Presenter {
     const View& view;
     const Standing& standing;
     QWidget* parent;
-    const Widgets::ImageFiles& imageFiles;
+    const Images& images;
     const bool& deaf;
 
     Standing operator()(const Nothing&) const { return {.takesRoom = false}; }
@@ -41,12 +41,12 @@ struct Presenter {
 
     Standing operator()(const Symbol& symbol) const
     {
-        return shown(theWidget<Picture>(), symbolFile(symbol.name), Image{{}, symbol.tint, {}, {}});
+        return shown(theWidget<Picture>(images), symbolFile(symbol.name), Image{{}, symbol.tint, {}});
     }
 
     Standing operator()(const Image& image) const
     {
-        return shown(theWidget<Picture>(), QString::fromStdString(imageFiles(image.name)), image);
+        return shown(theWidget<Picture>(images), QString::fromStdString(images.file(image.name)), image);
     }
 
     /// One that is on the screen already keeps showing the text that it was made with.
@@ -88,7 +88,7 @@ private:
 
 Standing Widgets::present(const View& view, const Standing& standing, QWidget* parent) const
 {
-    return std::visit(Presenter{view, standing, parent, imageFiles_, deaf_}, view.element);
+    return std::visit(Presenter{view, standing, parent, images_, deaf_}, view.element);
 }
 
 } // namespace corvellane::view

@@ -2,21 +2,16 @@
 
 #include "view/View.h"
 #include "view/qt/Layout.h"
-
-#include <functional>
-#include <string>
+#include "view/qt/Pictures.h"
 
 namespace corvellane::view {
 
 /// The one place that knows which kind of widget stands for which kind of element.
 class Widgets {
 public:
-    /// The path of an image of the program's resources by its name; empty where there is none.
-    using ImageFiles = std::function<std::string(const std::string& name)>;
-
     /// While `deaf` is true, no widget performs an action. It outlives all widgets.
-    Widgets(ImageFiles imageFiles, const bool& deaf)
-        : imageFiles_(std::move(imageFiles))
+    Widgets(Images images, const bool& deaf)
+        : images_(std::move(images))
         , deaf_(deaf)
     {
     }
@@ -26,7 +21,7 @@ public:
     Standing present(const View& view, const Standing& standing, QWidget* parent) const;
 
 private:
-    ImageFiles imageFiles_;
+    Images images_;
     const bool& deaf_;
 };
 
