@@ -1,8 +1,8 @@
 #include "view/qt/Appearance.h"
 
 #include <QApplication>
-#include <QFontInfo>
 #include <QPainter>
+#include <QScreen>
 
 #include <algorithm>
 #include <array>
@@ -43,6 +43,14 @@ constexpr double largestUsualPixelSize = 15;
 
 /// Points wide.
 constexpr double focusLine = 1.5;
+
+/// Found without having the font loaded: the window draws with it in other sizes.
+int pixelSizeOf(const QFont& font)
+{
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    const int dotsPerInch = screen != nullptr ? qRound(screen->logicalDotsPerInchY()) : 96;
+    return font.pixelSize() > 0 ? font.pixelSize() : qRound(font.pointSizeF() * dotsPerInch / 72);
+}
 
 } // namespace
 
@@ -106,7 +114,7 @@ QFont fontOf(const Font& font)
 
 double textScale()
 {
-    return std::max(1.0, QFontInfo(QApplication::font()).pixelSize() / largestUsualPixelSize);
+    return std::max(1.0, pixelSizeOf(QApplication::font()) / largestUsualPixelSize);
 }
 
 } // namespace corvellane::view

@@ -54,6 +54,7 @@ void PushButton::present(const Button& button)
     setCursor(isLink_ ? Qt::PointingHandCursor : Qt::ArrowCursor);
     symbol_ = button.symbol;
     setEnabled(button.enabled);
+    size_ = measured();
 }
 
 int PushButton::labelWidth() const
@@ -66,16 +67,23 @@ int PushButton::contentWidth() const
     return symbol_.empty() ? labelWidth() : scaledSymbolSize() + symbolDistance + labelWidth();
 }
 
+QSize PushButton::measured() const
+{
+    if (isLink_) {
+        return {labelWidth() + 2, fontMetrics().height() + 2};
+    }
+    const QSize usual = sizeHint();
+    return {std::max(usual.width(), contentWidth() + 2 * besideLabel), usual.height()};
+}
+
 Extent PushButton::widthExtent() const
 {
-    const int width = isLink_ ? labelWidth() + 2 : std::max(sizeHint().width(), contentWidth() + 2 * besideLabel);
-    return {width, width};
+    return {size_.width(), size_.width()};
 }
 
 Extent PushButton::heightExtent(int) const
 {
-    const int height = isLink_ ? fontMetrics().height() + 2 : sizeHint().height();
-    return {height, height};
+    return {size_.height(), size_.height()};
 }
 
 /// Behind an alert a button cannot be used, but looks as it did before.

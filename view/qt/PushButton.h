@@ -33,10 +33,12 @@ private:
     int contentWidth() const;
     void paintLink();
     void paintWithSymbol();
+    QSize measured() const;
 
     const bool& deaf_;
     Action<void()> action_;
     std::string symbol_;
+    QSize size_;
     bool isLink_ = false;
     bool heard_ = false;
 };

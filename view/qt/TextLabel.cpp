@@ -3,22 +3,13 @@
 #include "view/qt/Accessibility.h"
 #include "view/qt/Appearance.h"
 
-#include <QTextBoundaryFinder>
+#include <QTextOption>
 
 #include <algorithm>
+#include <cmath>
 
 namespace corvellane::view {
 namespace {
-
-int widestStretch(const QFontMetrics& metrics, const QString& text)
-{
-    QTextBoundaryFinder breaks(QTextBoundaryFinder::Line, text);
-    int widest = 0;
-    for (qsizetype begin = 0, end = breaks.toNextBoundary(); end > 0; begin = end, end = breaks.toNextBoundary()) {
-        widest = std::max(widest, metrics.horizontalAdvance(text.mid(begin, end - begin).trimmed()));
-    }
-    return widest;
-}
 
 /// No line ends in a word of one or two letters, which belongs to the next one.
 QString withShortWordsBound(QString text)
@@ -41,6 +32,8 @@ TextLabel::TextLabel(QWidget* parent)
 {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
+    lines_.setCacheEnabled(true);
+    lines_.setTextOption(QTextOption(Qt::AlignLeft));
 }
 
 QString TextLabel::wordsOf(const Text& text)
@@ -59,10 +52,10 @@ void TextLabel::present(const Text& text)
     // The name first: a label that has one tells of no other when its text changes.
     nameForAssistance(*this, wordsOf(text));
     setText(withShortWordsBound(wordsOf(text)));
-    const int natural = fontMetrics().size(0, this->text()).width() + 1;
-    widths_ = {std::min(natural, widestStretch(fontMetrics(), this->text()) + 1), natural};
-    measuredWidth_ = -1;
-    balance(); // another text may stand in the same room
+    measure();
+    if (!testAttribute(Qt::WA_PendingResizeEvent)) {
+        balance(); // another text may stand in the same room
+    }
     describeForAssistance(*this, text.remark.empty() ? QString() : localized(text.remark));
 }
 
@@ -73,21 +66,22 @@ Extent TextLabel::widthExtent() const
 
 Extent TextLabel::heightExtent(int width) const
 {
-    if (width != measuredWidth_) {
-        measuredHeight_ = measuredHeight(width);
+    if (width < widths_.maximum && width != measuredWidth_) {
+        measuredHeight_ = sizeInLines(width).height();
         measuredWidth_ = width;
     }
-    return {measuredHeight_, measuredHeight_};
+    const int height = width < widths_.maximum ? measuredHeight_ : naturalHeight_;
+    return {height, height};
 }
 
 /// The least width that takes no more lines.
 int TextLabel::balancedWidth(int width) const
 {
-    const int height = measuredHeight(width);
+    const int height = heightExtent(width).minimum;
     int least = widths_.minimum;
     for (int most = width; least < most;) {
         const int middle = least + (most - least) / 2;
-        if (measuredHeight(middle) <= height) {
+        if (sizeInLines(middle).height() <= height) {
             most = middle;
         } else {
             least = middle + 1;
@@ -110,12 +104,31 @@ void TextLabel::resizeEvent(QResizeEvent* event)
     QLabel::resizeEvent(event);
 }
 
-int TextLabel::measuredHeight(int width) const
+void TextLabel::measure()
 {
-    if (width >= widths_.maximum) {
-        return fontMetrics().size(0, text()).height();
+    lines_.setText(text().replace('\n', QChar::LineSeparator));
+    lines_.setFont(font());
+    const QSize natural = sizeInLines(unbounded);
+    widths_.maximum = natural.width() + 1;
+    widths_.minimum = std::min(widths_.maximum, qCeil(lines_.minimumWidth()) + 1);
+    naturalHeight_ = natural.height();
+    measuredWidth_ = -1;
+}
+
+/// The size of the text in lines of that width, which are shaped once for all widths; as labels draw them.
+QSize TextLabel::sizeInLines(int width) const
+{
+    const double leading = QFontMetricsF(font()).leading();
+    double widest = 0;
+    double height = -leading;
+    lines_.beginLayout();
+    for (QTextLine line = lines_.createLine(); line.isValid(); line = lines_.createLine()) {
+        line.setLineWidth(width);
+        widest = std::max(widest, line.naturalTextWidth());
+        height = std::ceil(height + leading) + line.height();
     }
-    return fontMetrics().boundingRect(0, 0, width, unbounded, Qt::TextWordWrap | Qt::AlignLeft, text()).height();
+    lines_.endLayout();
+    return {qCeil(widest), qCeil(height)};
 }
 
 } // namespace corvellane::view

@@ -4,6 +4,7 @@
 #include "view/qt/Layout.h"
 
 #include <QLabel>
+#include <QTextLayout>
 
 namespace corvellane::view {
 
@@ -25,11 +26,14 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    int measuredHeight(int width) const;
+    void measure();
+    QSize sizeInLines(int width) const;
     int balancedWidth(int width) const;
     void balance();
 
+    mutable QTextLayout lines_;
     Extent widths_;
+    int naturalHeight_ = 0;
     mutable int measuredWidth_ = -1;
     mutable int measuredHeight_ = 0;
 };

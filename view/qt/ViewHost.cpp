@@ -51,7 +51,10 @@ void ViewHost::redraw()
     const Change change = bring(root_, body_(), this, widgets_);
     if (change == Change::room) {
         setLeastSize();
-        layOut();
+        // A window that has not been shown is laid out by its first size, which is still to come.
+        if (!testAttribute(Qt::WA_PendingResizeEvent)) {
+            layOut();
+        }
     }
     if (change != Change::none) {
         changed_ = true;
