@@ -42,7 +42,6 @@ constexpr auto pageNames = std::to_array<PageName>({
     {950, "CP950"},
     {1250, "CP1250"},
     {1251, "CP1251"},
-    {1252, "CP1252"},
     {1253, "CP1253"},
     {1254, "CP1254"},
     {1255, "CP1255"},
@@ -61,6 +60,12 @@ constexpr auto pageNames = std::to_array<PageName>({
     {54936, "GB18030"},
     {65001, "UTF-8"},
 });
+
+constexpr int westernPage = 1252;
+/// Of the bytes from 0x80 on, those that are not the character of their own number.
+constexpr std::array<char32_t, 0x20> westernCharacters{U'€', CodePage::invalid, U'‚', U'ƒ', U'„', U'…', U'†', U'‡', U'ˆ',
+    U'‰', U'Š', U'‹', U'Œ', CodePage::invalid, U'Ž', CodePage::invalid, CodePage::invalid, U'‘', U'’', U'“', U'”', U'•',
+    U'–', U'—', U'˜', U'™', U'š', U'›', U'œ', CodePage::invalid, U'ž', U'Ÿ'};
 
 struct CharsetPage {
     int charset;
@@ -110,10 +115,25 @@ int codePageOfCharset(int charset)
     return found == charsetPages.end() ? 0 : found->page;
 }
 
+/// Nearly every document is in this page, and has the C library load two converters for it that take longer than the
+/// document.
+std::unique_ptr<CodePage> CodePage::openWestern()
+{
+    std::unique_ptr<CodePage> page(new CodePage(nullptr));
+    std::ranges::copy(westernCharacters, page->singles_.begin() + 0x80);
+    for (char32_t code = 0xA0; code < page->singles_.size(); ++code) {
+        page->singles_[code] = code;
+    }
+    return page;
+}
+
 std::unique_ptr<CodePage> CodePage::open(int number)
 {
     if (number == symbolPage || number == wingdingsPage) {
         return std::make_unique<CodePage>(number == symbolPage ? symbolCharacters : wingdingsCharacters);
+    }
+    if (number == westernPage) {
+        return openWestern();
     }
     const auto* const found = std::ranges::find(pageNames, number, &PageName::number);
     if (found == pageNames.end()) {

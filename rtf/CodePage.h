@@ -51,10 +51,11 @@ public:
 
 private:
     explicit CodePage(void* converter);
+    static std::unique_ptr<CodePage> openWestern();
     char32_t convert(std::string_view bytes);
     char32_t convertPair(char lead, char trail);
 
-    /// An iconv_t, or null.
+    /// An iconv_t, or null where nothing is left to convert.
     void* converter_ = nullptr;
     bool hasAscii_ = false;
     bool isMultiByte_ = false;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <iconv.h>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,24 @@ TEST(CodePage, tellsWhatIsIncompleteFromWhatIsInvalid)
     const auto western = CodePage::open(1252);
     EXPECT_FALSE(western->isMultiByte());
     EXPECT_EQ(western->decode('\x81'), CodePage::invalid);
+}
+
+TEST(CodePage, hasTheWesternCharactersThatTheCLibraryHas)
+{
+    const auto page = CodePage::open(1252);
+    EXPECT_TRUE(page->hasAscii());
+    const iconv_t converter = iconv_open("UTF-32LE", "CP1252");
+    for (int code = 0; code < 0x100; ++code) {
+        char byte = static_cast<char>(code);
+        char* from = &byte;
+        char32_t character = 0;
+        char* to = reinterpret_cast<char*>(&character);
+        std::size_t fromLeft = 1;
+        std::size_t toLeft = sizeof character;
+        const bool isValid = iconv(converter, &from, &fromLeft, &to, &toLeft) == 0;
+        EXPECT_EQ(page->decode(byte), isValid ? character : CodePage::invalid) << code;
+    }
+    iconv_close(converter);
 }
 
 TEST(CodePages, substituteAPageThatIsUnknown)

@@ -21,6 +21,7 @@ public:
     /// From the longest stretch without a line break to all of it in one line.
     Extent widthExtent() const override;
     Extent heightExtent(int width) const override;
+    QSize sizeHint() const override { return {widths_.maximum, naturalHeight_}; }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
