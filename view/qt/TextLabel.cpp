@@ -3,8 +3,6 @@
 #include "view/qt/Accessibility.h"
 #include "view/qt/Appearance.h"
 
-#include <QTextOption>
-
 #include <algorithm>
 #include <cmath>
 
@@ -32,8 +30,6 @@ TextLabel::TextLabel(QWidget* parent)
 {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    lines_.setCacheEnabled(true);
-    lines_.setTextOption(QTextOption(Qt::AlignLeft));
 }
 
 QString TextLabel::wordsOf(const Text& text)
@@ -106,28 +102,27 @@ void TextLabel::resizeEvent(QResizeEvent* event)
 
 void TextLabel::measure()
 {
-    lines_.setText(text().replace('\n', QChar::LineSeparator));
-    lines_.setFont(font());
+    lines_.emplace(text().replace('\n', QChar::LineSeparator), font());
+    lines_->beginLayout();
+    leading_ = QFontMetricsF(font()).leading();
     const QSize natural = sizeInLines(unbounded);
     widths_.maximum = natural.width() + 1;
-    widths_.minimum = std::min(widths_.maximum, qCeil(lines_.minimumWidth()) + 1);
+    widths_.minimum = std::min(widths_.maximum, qCeil(lines_->minimumWidth()) + 1);
     naturalHeight_ = natural.height();
     measuredWidth_ = -1;
 }
 
-/// The size of the text in lines of that width, which are shaped once for all widths; as labels draw them.
+/// The size of the text in lines of that width, as labels draw them.
 QSize TextLabel::sizeInLines(int width) const
 {
-    const double leading = QFontMetricsF(font()).leading();
     double widest = 0;
-    double height = -leading;
-    lines_.beginLayout();
-    for (QTextLine line = lines_.createLine(); line.isValid(); line = lines_.createLine()) {
+    double height = -leading_;
+    lines_->clearLayout();
+    for (QTextLine line = lines_->createLine(); line.isValid(); line = lines_->createLine()) {
         line.setLineWidth(width);
         widest = std::max(widest, line.naturalTextWidth());
-        height = std::ceil(height + leading) + line.height();
+        height = std::ceil(height + leading_) + line.height();
     }
-    lines_.endLayout();
     return {qCeil(widest), qCeil(height)};
 }
 

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QTextLayout>
 
+#include <optional>
+
 namespace corvellane::view {
 
 /// The widget of a text. No markup, no mnemonics. Lines that wrap are about equally long.
@@ -32,7 +34,9 @@ private:
     int balancedWidth(int width) const;
     void balance();
 
-    mutable QTextLayout lines_;
+    /// Never ends its layout, at which it would forget the shapes of the letters: they serve all widths.
+    mutable std::optional<QTextLayout> lines_;
+    double leading_ = 0;
     Extent widths_;
     int naturalHeight_ = 0;
     mutable int measuredWidth_ = -1;
