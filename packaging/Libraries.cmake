@@ -3,24 +3,27 @@
 # depends on instead.
 
 set(bundle "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
-# Windows are drawn in memory: of Wayland, nothing is taken that needs a graphics driver.
+# Windows are drawn in memory, and a desktop without a graphics driver will do. The integration of EGL is there for the
+# frames of windows: where a desktop with Wayland leaves these to the programs, Qt 6.4 draws them only if it has an
+# integration that shares its buffers, whether windows use it or not.
 set(plugins
     platforms/libqoffscreen.so
     platforms/libqwayland-generic.so
     platforms/libqxcb.so
     wayland-decoration-client/libbradient.so
+    wayland-graphics-integration-client/libqt-plugin-wayland-egl.so
     wayland-shell-integration/libxdg-shell.so)
 set(pluginFiles ${plugins})
 list(TRANSFORM pluginFiles PREPEND ${qtPlugins}/)
 
-# The C and C++ libraries, fonts, D-Bus, and what talks to the display and its drivers are the machine's own. A library
-# for Wayland's mouse pointers is not on every desktop.
+# The C and C++ libraries, fonts, D-Bus, and what talks to the display and its drivers are the machine's own. Two small
+# libraries of Wayland's are not on every desktop.
 file(GET_RUNTIME_DEPENDENCIES
     EXECUTABLES ${bundle}/bin/corvellane-installer
     MODULES ${pluginFiles}
     RESOLVED_DEPENDENCIES_VAR libraries
     PRE_INCLUDE_REGEXES ^libQt6 ^libicu ^libxcb- ^libxkbcommon
-        "^lib(b2|double-conversion|gomp|md4c|OpenGL|pcre2-16|png16|utf8proc|wayland-cursor)[.]"
+        "^lib(b2|double-conversion|gomp|md4c|OpenGL|pcre2-16|png16|utf8proc|wayland-cursor|wayland-egl)[.]"
     PRE_EXCLUDE_REGEXES .)
 
 file(INSTALL ${libraries} DESTINATION ${bundle}/lib FOLLOW_SYMLINK_CHAIN)
