@@ -7,6 +7,13 @@ target_include_directories(corvellane-options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_definitions(corvellane-options INTERFACE QT_NO_KEYWORDS)
 target_compile_options(corvellane-options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 
+# What nothing uses is left out.
+if(LINUX)
+    target_compile_options(corvellane-options INTERFACE
+        $<$<CONFIG:Release>:-ffunction-sections> $<$<CONFIG:Release>:-fdata-sections>)
+    target_link_options(corvellane-options INTERFACE $<$<CONFIG:Release>:LINKER:--gc-sections>)
+endif()
+
 option(CORVELLANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 if(CORVELLANE_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
@@ -14,12 +21,17 @@ if(CORVELLANE_SANITIZE)
     target_link_options(corvellane-options INTERFACE ${sanitizers})
 endif()
 
-# corvellane_library(NAME SOURCES file... LINKS target...): a folder's target, header-only when it has no sources.
+# corvellane_library(NAME [LOOPS] SOURCES file... LINKS target...): a folder's target, header-only when it has no
+# sources. Released, the program is optimised to be small, as all of it is loaded at every start; LOOPS is for what works
+# through long texts, lists or trees, and is optimised for speed.
 function(corvellane_library name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(arg "LOOPS" "" "SOURCES;LINKS" ${ARGN})
     if(arg_SOURCES)
         add_library(${name} STATIC ${arg_SOURCES})
         target_link_libraries(${name} PUBLIC corvellane-options ${arg_LINKS})
+        if(NOT arg_LOOPS)
+            target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-Os>)
+        endif()
     else()
         add_library(${name} INTERFACE)
         target_link_libraries(${name} INTERFACE corvellane-options ${arg_LINKS})
