@@ -58,13 +58,14 @@ public:
     {
         std::string lines;
         for (int element = 0; element < elements; ++element) {
-            lines += "do shell script \"cp -R -f \\\"" + (source() / std::to_string(element)).native() + "\\\" \\\""
-                + target().native() + "\\\"\" with administrator privileges\n";
+            lines += R"(do shell script "cp -R -f )" + quoted(source() / std::to_string(element)) + " "
+                + quoted(target()) + "\" with administrator privileges\n";
         }
         return lines;
     }
 
 private:
+    static std::string quoted(const fs::path& path) { return R"(\")" + path.native() + R"(\")"; }
     fs::path source() const { return root_ / "Products"; }
     fs::path target() const { return root_ / "Plug-ins"; }
 
@@ -102,7 +103,7 @@ void install(benchmark::State& state, bool isAsked)
     System system;
     system.prompt = std::make_shared<PromptOfNobody>(system.shell);
     ScriptService& service = system.platform().scripts;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         payload.clearTarget();
         state.ResumeTiming();

@@ -102,12 +102,13 @@ void TextLabel::resizeEvent(QResizeEvent* event)
 
 void TextLabel::measure()
 {
-    lines_.emplace(text().replace('\n', QChar::LineSeparator), font());
-    lines_->beginLayout();
+    lines_.setText(text().replace('\n', QChar::LineSeparator));
+    lines_.setFont(font());
+    lines_.beginLayout();
     leading_ = QFontMetricsF(font()).leading();
     const QSize natural = sizeInLines(unbounded);
     widths_.maximum = natural.width() + 1;
-    widths_.minimum = std::min(widths_.maximum, qCeil(lines_->minimumWidth()) + 1);
+    widths_.minimum = std::min(widths_.maximum, qCeil(lines_.minimumWidth()) + 1);
     naturalHeight_ = natural.height();
     measuredWidth_ = -1;
 }
@@ -117,8 +118,8 @@ QSize TextLabel::sizeInLines(int width) const
 {
     double widest = 0;
     double height = -leading_;
-    lines_->clearLayout();
-    for (QTextLine line = lines_->createLine(); line.isValid(); line = lines_->createLine()) {
+    lines_.clearLayout();
+    for (QTextLine line = lines_.createLine(); line.isValid(); line = lines_.createLine()) {
         line.setLineWidth(width);
         widest = std::max(widest, line.naturalTextWidth());
         height = std::ceil(height + leading_) + line.height();

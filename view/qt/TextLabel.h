@@ -6,8 +6,6 @@
 #include <QLabel>
 #include <QTextLayout>
 
-#include <optional>
-
 namespace corvellane::view {
 
 /// The widget of a text. No markup, no mnemonics. Lines that wrap are about equally long.
@@ -35,7 +33,7 @@ private:
     void balance();
 
     /// Never ends its layout, at which it would forget the shapes of the letters: they serve all widths.
-    mutable std::optional<QTextLayout> lines_;
+    mutable QTextLayout lines_;
     double leading_ = 0;
     Extent widths_;
     int naturalHeight_ = 0;
