@@ -23,7 +23,7 @@ file(GET_RUNTIME_DEPENDENCIES
     MODULES ${pluginFiles}
     RESOLVED_DEPENDENCIES_VAR libraries
     PRE_INCLUDE_REGEXES ^libQt6 ^libicu ^libxcb- ^libxkbcommon
-        "^lib(b2|double-conversion|gomp|md4c|OpenGL|pcre2-16|png16|utf8proc|wayland-cursor|wayland-egl)[.]"
+        "^lib(b2|double-conversion|gomp|md4c|OpenGL|pcre2-16|png16|wayland-cursor|wayland-egl)[.]"
     PRE_EXCLUDE_REGEXES .)
 
 file(INSTALL ${libraries} DESTINATION ${bundle}/lib FOLLOW_SYMLINK_CHAIN)
@@ -33,6 +33,8 @@ foreach(plugin ${plugins})
 endforeach()
 file(WRITE ${bundle}/bin/qt.conf "[Paths]\nPrefix = ..\nPlugins = plugins\n")
 
+# This one is linked in.
+file(INSTALL /usr/share/doc/libutf8proc-dev/copyright DESTINATION ${bundle}/licenses RENAME libutf8proc-dev)
 foreach(library ${libraries})
     get_filename_component(name ${library} NAME)
     execute_process(COMMAND dpkg-query --search */${name}

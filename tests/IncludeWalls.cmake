@@ -6,7 +6,7 @@
 cmake_minimum_required(VERSION 3.25)
 
 set(folders base platform platform/script platform/posix platform/linux platform/qt platform/osascript products install
-    rtf agreement state view view/qt ui app helper tools)
+    rtf agreement state view view/qt ui app helper tools pack)
 
 set(may_include_base "")
 set(may_include_platform base)
@@ -26,13 +26,14 @@ set(may_include_ui base products agreement state view)
 set(may_include_app ${folders})
 set(may_include_helper "")
 set(may_include_tools ${folders})
+set(may_include_pack helper tools)
 
 # What kind of header it is, and who may include that kind; the first row that fits holds.
-set(kinds qt linux mac rtf unicode failures options json posix)
+set(kinds qt linux mac rtf unicode failures options json packing posix)
 set(is_qt "^Q")
 set(may_use_qt platform/qt view/qt app tools)
 set(is_linux "^linux/|^sched.h|^sys/(epoll|eventfd|inotify|mount|prctl|sendfile|signalfd|syscall).h")
-set(may_use_linux platform/linux helper)
+set(may_use_linux platform/linux helper pack)
 set(is_mac "^mach-o/")
 set(may_use_mac app)
 set(is_rtf "^iconv.h")
@@ -42,9 +43,11 @@ set(may_use_unicode products tools)
 set(is_failures "^tl/expected.hpp")
 set(may_use_failures base)
 set(is_options "^CLI/")
-set(may_use_options tools)
+set(may_use_options tools pack)
 set(is_json "^nlohmann/")
 set(may_use_json tools)
+set(is_packing "^archive(_entry)?.h|^toml[+][+]/")
+set(may_use_packing pack)
 set(is_posix "[./]")
 set(may_use_posix platform/posix platform/linux platform/osascript helper)
 

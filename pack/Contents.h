@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+
+namespace corvellane::pack {
+
+/// Something in a package: a folder, a file of this machine, a file that is made for the package, or a link.
+struct Item {
+    enum class Kind { folder, file, text, link };
+
+    Kind kind = Kind::folder;
+    /// The path of the file here, the text, or where the link leads.
+    std::string from;
+    bool executable = false;
+};
+
+/// What a package holds by its paths, which are relative and in the order in which they are packed. Everybody can read
+/// all of it, and it belongs to root alone, whatever the modes and owners of the files here.
+class Contents {
+public:
+    /// Everything below `folder` of this machine, under `path`. Links stay links. Throws
+    /// std::filesystem::filesystem_error where something cannot be read, and std::runtime_error of what is neither a
+    /// file nor a folder nor a link.
+    void addTree(const std::string& path, const std::string& folder);
+    void addFile(const std::string& path, const std::string& file);
+    void addText(const std::string& path, const std::string& text, bool executable = false);
+    void addFolder(const std::string& path);
+
+    const std::map<std::string, Item>& items() const { return items_; }
+    /// The bytes of all files.
+    std::uintmax_t size() const;
+
+private:
+    void add(const std::string& path, Item item);
+
+    std::map<std::string, Item> items_;
+};
+
+/// Packs the contents at `file` as a tar archive, compressed with zstd by all processors; `below` stands in front of
+/// every path. All times are `epoch`, in seconds since 1970: the same contents give the same bytes. `packed` is told
+/// the bytes that have been packed so far. Throws std::runtime_error.
+void writeArchive(const std::string& file, const Contents& contents, const std::string& below, std::int64_t epoch,
+    const std::function<void(std::uintmax_t)>& packed);
+
+/// A Debian package (deb(5)) of archives that were written before: "control.tar.zst" and "data.tar.zst". Throws.
+void writeDebianPackage(
+    const std::string& file, const std::string& control, const std::string& data, std::int64_t epoch);
+
+/// The text as a gzip file without name and time in it.
+std::string gzipped(const std::string& text);
+
+} // namespace corvellane::pack

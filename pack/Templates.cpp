@@ -1,0 +1,82 @@
+#include "pack/Templates.h"
+
+#include <algorithm>
+#include <array>
+#include <ctime>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace corvellane::pack {
+namespace {
+
+using Words = std::vector<std::pair<std::string, std::string>>;
+
+std::string replaced(const std::string& text, const Words& words)
+{
+    std::string result;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto found = std::ranges::find_if(
+            words, [&](const auto& pair) { return std::string_view(text).substr(at).starts_with(pair.first); });
+        if (found == words.end()) {
+            result += text[at++];
+        } else {
+            result += found->second;
+            at += found->first.size();
+        }
+    }
+    return result;
+}
+
+std::string formatted(std::int64_t epoch, const char* format)
+{
+    const auto time = static_cast<std::time_t>(epoch);
+    std::array<char, 64> text{};
+    return {text.data(), std::strftime(text.data(), text.size(), format, std::gmtime(&time))};
+}
+
+} // namespace
+
+std::string quoted(const std::string& text, Quoting quoting)
+{
+    switch (quoting) {
+    case Quoting::xml:
+        return replaced(text, {{"&", "&amp;"}, {"<", "&lt;"}, {">", "&gt;"}, {"\"", "&quot;"}});
+    case Quoting::shell:
+        return "'" + replaced(text, {{"'", R"('\'')"}}) + "'";
+    case Quoting::none:
+        break;
+    }
+    return text;
+}
+
+std::string retold(const std::string& sample, const Description& description, std::int64_t epoch, Quoting quoting)
+{
+    const auto inside = [quoting](const std::string& text) { return quoted(text, quoting); };
+    const std::string programs = "/usr/lib/" + description.packageName();
+    // What begins like another one stands in front of it.
+    return replaced(sample,
+        {{"com.corvellane.PluginInstaller", description.identifier},
+            {"id=\"com.corvellane\"",
+                "id=\"" + description.identifier.substr(0, description.identifier.rfind('.')) + '"'},
+            {"The authors of the Corvellane Plugin Installer", inside(description.publisher)},
+            {"Corvellane Plugin Installer", inside(description.name)},
+            {"https://corvellane.example/", inside(description.homepage)},
+            {"version=\"1.0.0\" date=\"2026-11-22\"",
+                "version=\"" + description.version + "\" date=\"" + dateOf(epoch) + '"'},
+            {"/usr/lib/corvellane-installer", programs},
+            {"Exec=corvellane-installer", "Exec=" + programs + "/bin/corvellane-installer"},
+            {"Corvellane", inside(description.publisher)}});
+}
+
+std::string dateOf(std::int64_t epoch)
+{
+    return formatted(epoch, "%Y-%m-%d");
+}
+
+std::string longDateOf(std::int64_t epoch)
+{
+    return formatted(epoch, "%a, %d %b %Y %H:%M:%S +0000");
+}
+
+} // namespace corvellane::pack

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "pack/Description.h"
+
+#include <cstdint>
+#include <string>
+
+namespace corvellane::pack {
+
+/// How a text quotes what is put into it.
+enum class Quoting { none, xml, shell };
+
+/// The text in the quoting's own form; for the shell, with its quotes.
+std::string quoted(const std::string& text, Quoting quoting);
+
+/// What the sample installer tells a desktop, said of the described one instead: its name, identifier, publisher,
+/// homepage and version, and the place of its programs. The date is that of `epoch`, in seconds since 1970.
+std::string retold(const std::string& sample, const Description& description, std::int64_t epoch, Quoting quoting);
+
+/// "2026-11-24", and "Tue, 24 Nov 2026 02:33:07 +0000"; in UTC.
+std::string dateOf(std::int64_t epoch);
+std::string longDateOf(std::int64_t epoch);
+
+} // namespace corvellane::pack

@@ -1,0 +1,64 @@
+#include "pack/Installer.h"
+#include "pack/Templates.h"
+#include "tests/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace corvellane::pack {
+namespace {
+
+const Description example{"It's <Grain>", "com.example.Grain", "1.2", "Example & Co", "Example <a@b.example>",
+    "https://grain.example/", "Faster.\nSmaller."};
+
+TEST(Templates, tellOfTheMakerWhatTheSampleTellsOfItself)
+{
+    EXPECT_EQ(retold("Name=Corvellane Plugin Installer\nExec=corvellane-installer\nComment=Install Corvellane", example,
+                  0, Quoting::none),
+        "Name=It's <Grain>\nExec=/usr/lib/com.example.grain/bin/corvellane-installer\nComment=Install Example & Co");
+    EXPECT_EQ(retold("<a id=\"com.corvellane\">com.corvellane.PluginInstaller.install Corvellane Plugin Installer"
+                     "<release version=\"1.0.0\" date=\"2026-11-22\" />",
+                  example, 86400, Quoting::xml),
+        "<a id=\"com.example\">com.example.Grain.install It's &lt;Grain&gt;"
+        "<release version=\"1.2\" date=\"1970-01-02\" />");
+    EXPECT_EQ(quoted("It's", Quoting::shell), R"('It'\''s')");
+}
+
+TEST(Contents, takesTheModesThatEverybodyNeeds)
+{
+    namespace fs = std::filesystem;
+    const ScratchFolder scratch;
+    scratch.write("tree/a/program", "x");
+    scratch.write("tree/a/secret", "y");
+    fs::permissions(scratch.path() + "/tree/a/program", fs::perms{0700});
+    fs::permissions(scratch.path() + "/tree/a/secret", fs::perms{0600});
+    fs::create_symlink("../outside", scratch.path() + "/tree/link");
+    Contents contents;
+    contents.addTree("opt/it", scratch.path() + "/tree");
+    EXPECT_TRUE(contents.items().at("opt/it/a/program").executable);
+    EXPECT_FALSE(contents.items().at("opt/it/a/secret").executable);
+    EXPECT_EQ(contents.items().at("opt/it/link").from, "../outside");
+    EXPECT_EQ(contents.items().at("opt").kind, Item::Kind::folder);
+    EXPECT_EQ(contents.size(), 2);
+}
+
+TEST(Installer, takesALogoOfPixels)
+{
+    const ScratchFolder scratch;
+    EXPECT_EQ(whatIsMissing(scratch.path()).size(), 3);
+    scratch.write("maker/Products/One/One.plugin/it", "");
+    scratch.write("maker/CorvellaneEULA.rtf", "{\\rtf1}");
+    for (const auto& [bytes, text] : std::vector<std::pair<std::string, std::string>>{
+             {"M", "TQ=="}, {"Ma", "TWE="}, {"Man", "TWFu"}, {std::string("\xff\x00\xfe!", 4), "/wD+IQ=="}}) {
+        scratch.write("maker/Logo.png", bytes);
+        EXPECT_EQ(whatIsMissing(scratch.path() + "/maker"), std::vector<std::string>());
+        scratch.write("kit/bundle/bin/it", "");
+        const Contents bundle = bundleOf({scratch.path() + "/kit", scratch.path() + "/maker", example, 0});
+        EXPECT_NE(bundle.items().at("Resources/Logo.svg").from.find("base64," + text + "\""), std::string::npos)
+            << text;
+    }
+}
+
+} // namespace
+} // namespace corvellane::pack
