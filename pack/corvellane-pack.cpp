@@ -231,7 +231,9 @@ private:
         const std::string file = workshop_ / made_.back();
         std::ofstream(file, std::ios::binary) << starterOf(ingredients_, checksumOfFile(archive), checksumOf)
                                               << std::ifstream(archive, std::ios::binary).rdbuf();
-        fs::permissions(file, fs::perms{0755});
+        fs::permissions(file,
+            fs::perms::owner_all | fs::perms::group_read | fs::perms::group_exec | fs::perms::others_read
+                | fs::perms::others_exec);
     }
 
     const Ingredients& ingredients_;
