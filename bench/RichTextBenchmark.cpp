@@ -1,5 +1,6 @@
 #include "bench/RtfSamples.h"
 #include "rtf/Reader.h"
+#include "view/qt/RichTextDocument.h"
 #include "view/qt/RichTextViewer.h"
 
 #include <QApplication>

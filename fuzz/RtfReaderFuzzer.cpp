@@ -1,6 +1,7 @@
 #include "rtf/Reader.h"
 #include "tools/AgreementReport.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
@@ -43,42 +44,53 @@ void requireText(std::string_view text)
     }
 }
 
-void requireRun(const rtf::AttributedText& text, const rtf::Run& run, std::uint32_t begin)
+void requireLook(const rtf::AttributedText& text, const rtf::TextAttributes& look)
 {
-    require(run.begin == begin && run.end > run.begin && run.end <= text.text.size());
-    requireText(text.textOf(run));
-    const rtf::TextAttributes& attributes = text.attributes.at(run.attributes);
-    require(attributes.family < text.families.size() && attributes.size > 0);
-    require(!attributes.link || *attributes.link < text.links.size());
+    require(look.family < text.families.size() && look.size > 0);
+    require(look.link <= text.links.size() && look.picture <= text.pictures.size());
+}
+
+/// Every stretch begins where the one before it ends, and the last one ends with the text.
+void requireStretches(const std::vector<rtf::Stretch>& stretches, std::size_t values, std::size_t length)
+{
+    std::uint32_t place = 0;
+    for (const rtf::Stretch& stretch : stretches) {
+        require(stretch.end > place && stretch.index < values);
+        place = stretch.end;
+    }
+    require(place == length);
 }
 
 void requireWhole(const rtf::AttributedText& text)
 {
-    std::uint32_t nextRun = 0;
-    std::uint32_t nextByte = 0;
-    for (const rtf::Paragraph& paragraph : text.paragraphs) {
-        require(paragraph.firstRun == nextRun && paragraph.endRun >= nextRun && paragraph.endRun <= text.runs.size());
-        require(paragraph.endAttributes < text.attributes.size());
+    requireStretches(text.runs, text.attributes.size(), text.text.size());
+    requireStretches(text.formatStretches, text.formats.size(), text.text.size());
+    require(std::ranges::count(text.text, rtf::mark::row) == static_cast<std::ptrdiff_t>(text.rows.size()));
+    for (const rtf::TextAttributes& look : text.attributes) {
+        requireLook(text, look);
+    }
+    for (const rtf::Paragraph& paragraph : text.paragraphs()) {
         require(text.tabsOf(text.formats.at(paragraph.format)).size() <= 64);
         for (const rtf::Run& run : text.runsOf(paragraph)) {
-            requireRun(text, run, nextByte);
-            nextByte = run.end;
+            requireText(run.text);
         }
-        nextRun = paragraph.endRun;
     }
-    require(nextRun == text.runs.size() && nextByte == text.text.size());
+    for (const std::uint32_t row : text.rows) {
+        require(text.cellsOf(text.rowFormats.at(row)).size() <= 128);
+    }
 }
 
 void requireBounded(const rtf::AttributedText& text, std::size_t size)
 {
-    require(text.text.size() <= 3 * size);
-    require(text.runs.size() <= size && text.paragraphs.size() <= size && text.attributes.size() <= size);
-    require(text.formats.size() <= size && text.tabStops.size() <= size && text.links.size() <= size);
+    require(text.text.size() <= 5 * size);
+    require(text.runs.size() <= size && text.attributes.size() <= size && text.formats.size() <= size);
+    require(text.tabStops.size() <= size && text.links.size() <= size && text.pictures.size() <= size);
     for (const std::string& link : text.links) {
         requireText(link);
     }
-    for (const std::string& family : text.families) {
-        requireText(family);
+    for (const rtf::FontFamily& family : text.families) {
+        requireText(family.name);
+        requireText(family.alternative);
     }
 }
 
@@ -93,6 +105,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         corvellane::requireWhole(*text);
         corvellane::requireBounded(*text, size);
         corvellane::agreementJson(*text);
+        corvellane::agreementPlainText(*text);
     }
     return 0;
 }

@@ -1,38 +1,43 @@
 #pragma once
 
+#include "rtf/AttributedText.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <vector>
 
 namespace corvellane::rtf {
 
-/// RTF's colour table. A colour is 0x01RRGGBB, or 0 for an entry without parts, which stands for none.
+/// RTF's colour table. An entry without parts stands for no colour. Of more than 65,536 entries only the first count.
 class ColorTable {
 public:
-    /// Sets the part that lies `shift` bits up in the entry that is being written.
-    void setPart(std::int32_t part, std::int32_t shift)
+    /// Sets a part of the entry that is being written.
+    void setPart(std::uint8_t Color::* part, std::int32_t value)
     {
-        const auto value = static_cast<std::uint32_t>(std::clamp(part, 0, 255));
-        entry_
-            = (entry_ & ~(0xFFU << static_cast<unsigned>(shift))) | value << static_cast<unsigned>(shift) | 0x01000000U;
+        entry_.*part = static_cast<std::uint8_t>(std::clamp(value, 0, 255));
+        entry_.isSet = true;
     }
 
     void finishEntry()
     {
-        colors_.push_back(entry_);
-        entry_ = 0;
+        if (colors_.size() < mostColors) {
+            colors_.push_back(entry_);
+        }
+        entry_ = {};
     }
 
     /// None for an index below zero or beyond the table, too.
-    std::uint32_t color(std::int32_t index) const
+    Color color(std::int32_t index) const
     {
         const auto place = static_cast<std::size_t>(index);
-        return place < colors_.size() ? colors_[place] : 0;
+        return place < colors_.size() ? colors_[place] : Color();
     }
 
 private:
-    std::vector<std::uint32_t> colors_;
-    std::uint32_t entry_ = 0;
+    static constexpr std::size_t mostColors = 65536;
+
+    std::vector<Color> colors_;
+    Color entry_;
 };
 
 } // namespace corvellane::rtf

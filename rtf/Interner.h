@@ -5,6 +5,7 @@
 #include <functional>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace corvellane::rtf {
@@ -15,6 +16,12 @@ class Interner {
     static_assert(std::has_unique_object_representations_v<Value>);
 
 public:
+    /// When there are `most` values, a new one gets the number 0.
+    explicit Interner(std::size_t most)
+        : most_(most)
+    {
+    }
+
     std::uint32_t index(const Value& value)
     {
         if (values_.size() * 2 >= slots_.size()) {
@@ -22,6 +29,9 @@ public:
         }
         std::uint32_t& slot = slotOf(value);
         if (slot == 0) {
+            if (values_.size() == most_) {
+                return 0;
+            }
             values_.push_back(value);
             slot = static_cast<std::uint32_t>(values_.size());
         }
@@ -31,6 +41,8 @@ public:
     const Value& operator[](std::uint32_t index) const { return values_[index]; }
 
     const std::vector<Value>& values() const { return values_; }
+
+    std::vector<Value> take() { return std::move(values_); }
 
 private:
     static std::string_view bytesOf(const Value& value)
@@ -55,6 +67,7 @@ private:
         }
     }
 
+    std::size_t most_;
     std::vector<Value> values_;
     /// 1 + the index of a value, 0 for a free slot; the size is a power of two.
     std::vector<std::uint32_t> slots_;

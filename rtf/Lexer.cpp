@@ -116,7 +116,7 @@ void Lexer::lexWord()
         ++position_;
     }
     if (token_.text == "bin") {
-        skipBinary();
+        lexData();
     }
 }
 
@@ -137,10 +137,10 @@ void Lexer::lexParameter()
     token_.parameter = static_cast<std::int32_t>(sign != 0 ? 0U - number : number);
 }
 
-void Lexer::skipBinary()
+void Lexer::lexData()
 {
-    const auto length = static_cast<std::size_t>(std::max(token_.parameter, 0));
-    position_ += std::min(length, bytes_.size() - position_);
+    token_.data = bytes_.substr(position_, static_cast<std::size_t>(std::max(token_.parameter, 0)));
+    position_ += token_.data.size();
 }
 
 void Lexer::lexSymbol()

@@ -30,12 +30,14 @@ struct Token {
     /// 0 where there is none.
     std::int32_t parameter = 0;
     std::string_view text;
+    /// The data behind \bin.
+    std::string_view data;
 
     std::int32_t parameterOr(std::int32_t absent) const { return hasParameter ? parameter : absent; }
 };
 
 /// Cuts RTF into tokens that point into the given bytes, or for bytes in hexadecimal into the lexer. Line ends and
-/// control characters in the text are left out, as are the data of \bin and hexadecimal bytes without their digits.
+/// control characters in the text are left out, as are hexadecimal bytes without their digits.
 class Lexer {
 public:
     explicit Lexer(std::string_view bytes)
@@ -62,7 +64,7 @@ private:
     bool lexBytes();
     int hexByteAt(std::size_t position) const;
     void lexParameter();
-    void skipBinary();
+    void lexData();
     bool at(std::size_t offset, char wanted) const;
 
     std::string_view bytes_;

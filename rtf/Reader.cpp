@@ -1,8 +1,9 @@
 #include "rtf/Reader.h"
 
-#include "rtf/Actions.h"
 #include "rtf/ControlWords.h"
 #include "rtf/Lexer.h"
+#include "rtf/TextActions.h"
+#include "rtf/Utf8.h"
 #include "rtf/Writer.h"
 
 #include <algorithm>
@@ -10,9 +11,6 @@
 
 namespace corvellane::rtf {
 namespace {
-
-/// Raw bytes of most code pages take no more room in UTF-8.
-constexpr std::size_t mostGrowth = 2;
 
 std::string_view withoutLead(std::string_view bytes)
 {
@@ -29,9 +27,9 @@ std::string_view withoutLead(std::string_view bytes)
 /// Carries out RTF token by token.
 class Interpreter {
 public:
-    explicit Interpreter(std::string_view bytes)
+    Interpreter(std::string_view bytes, bool rawIsUnicode)
         : lexer_(bytes)
-        , writer_(bytes.size() * mostGrowth)
+        , writer_(bytes.size(), rawIsUnicode)
     {
     }
 
@@ -147,8 +145,12 @@ void Interpreter::onText(const Token& token)
     if (to == Destination::fontTable) {
         bytes = withoutFonts(bytes, token.ascii);
     }
+    if (to == Destination::picture) {
+        writer_.pictures.addDigits(bytes);
+        return;
+    }
     writer_.putText(bytes, token.ascii);
-    const int trail = writer_.awaitsTrail() ? lexer_.peekTrailByte() : -1;
+    const int trail = writer_.awaitsTrail() && !writer_.rawIsUnicode() ? lexer_.peekTrailByte() : -1;
     if (trail >= 0 && writer_.putTrailByte(static_cast<char>(trail))) {
         lexer_.skipByte();
     }
@@ -159,7 +161,12 @@ std::string_view Interpreter::withoutFallback(std::string_view bytes)
 {
     const std::size_t passed = std::min(bytes.size(), static_cast<std::size_t>(writer_.fallback));
     writer_.fallback -= static_cast<std::int32_t>(passed);
-    return bytes.substr(passed);
+    bytes.remove_prefix(passed);
+    if (passed != 0 && writer_.rawIsUnicode()) {
+        const auto continues = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80; };
+        bytes.remove_prefix(static_cast<std::size_t>(std::ranges::find_if_not(bytes, continues) - bytes.begin()));
+    }
+    return bytes;
 }
 
 /// Passes over the names that end here.
@@ -173,19 +180,50 @@ std::string_view Interpreter::withoutFonts(std::string_view names, bool ascii)
     return names;
 }
 
-} // namespace
+/// UTF-16 in that order of bytes as UTF-8; unpaired surrogates as U+FFFD.
+std::string fromUtf16(std::string_view bytes, std::size_t highByte)
+{
+    std::string text;
+    text.reserve(bytes.size() / 2 * 3);
+    const auto unitAt = [&](std::size_t place) -> char32_t {
+        const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(bytes[place + index]); };
+        return static_cast<char32_t>(byte(highByte) << 8U | byte(1 - highByte));
+    };
+    for (std::size_t place = 0; place + 1 < bytes.size(); place += 2) {
+        char32_t code = unitAt(place);
+        const bool isHigh = code >= 0xD800 && code <= 0xDBFF && place + 3 < bytes.size();
+        const char32_t low = isHigh ? unitAt(place + 2) : 0;
+        if (low >= 0xDC00 && low <= 0xDFFF) {
+            code = 0x10000 + ((code - 0xD800) << 10U) + (low - 0xDC00);
+            place += 2;
+        }
+        appendUtf8(text, code);
+    }
+    return text;
+}
 
-Expected<AttributedText, ReadFailure> read(std::string_view bytes)
+Expected<AttributedText, ReadFailure> readBytes(std::string_view bytes, bool rawIsUnicode)
 {
     const std::string_view rtf = withoutLead(bytes);
     if (!rtf.starts_with("{\\rtf") || rtf.size() > largestInput) {
         return tl::unexpected(ReadFailure::notRtf);
     }
-    Interpreter interpreter(rtf);
+    Interpreter interpreter(rtf, rawIsUnicode || isUtf8Text(rtf));
     if (!interpreter.run()) {
         return tl::unexpected(ReadFailure::incomplete);
     }
     return interpreter.take();
+}
+
+} // namespace
+
+Expected<AttributedText, ReadFailure> read(std::string_view bytes)
+{
+    const bool littleEndian = bytes.starts_with("\xFF\xFE");
+    if (littleEndian || bytes.starts_with("\xFE\xFF")) {
+        return readBytes(fromUtf16(bytes.substr(2), littleEndian ? 1 : 0), true);
+    }
+    return readBytes(bytes, false);
 }
 
 } // namespace corvellane::rtf

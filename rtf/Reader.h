@@ -17,17 +17,23 @@ enum class ReadFailure : std::uint8_t {
     incomplete,
 };
 
-/// The most bytes that are read: 1 GiB, which keeps every place in the text within 32 bits.
-constexpr std::size_t largestInput = std::size_t{1} << 30U;
+/// The most bytes that are read: 256 MiB, which keeps every place in the text within 32 bits.
+constexpr std::size_t largestInput = std::size_t{256} << 20U;
 
 /// Reads Rich Text Format (RTF 1.9.1, and what the text editors of macOS write). White space and a UTF-8 byte order
-/// mark before it are forgiven, bytes after the outer group ignored. Words that are not known are ignored, groups
-/// marked as optional that are not known skipped, as are pictures, footnotes, headers and footers, and hidden text.
+/// mark before it are forgiven, bytes after the outer group ignored; a file may be UTF-16 behind its byte order mark.
+/// Words that are not known are ignored, groups marked as optional that are not known skipped, as are headers and
+/// footers, annotations, hidden text and the numbers of pages. Footnotes and endnotes follow at the end, below a rule.
+/// Where all bytes above 0x7F that stand in the file are UTF-8, they are read so, whatever code page it names.
 ///
 /// A paragraph has the format in effect at its end; what follows the last paragraph's end is one more paragraph unless
-/// it is empty. Text before any choice of a font is Helvetica 12. Time and memory grow with the number of bytes
-/// alone, however deep groups are nested. Any thread; needs the code pages of the C library's iconv, and where one is
-/// missing gives U+FFFD for its characters.
+/// it is empty. Text before any choice of a font is Helvetica 12. Items of lists have their numbers in their text, as
+/// the file has them or else counted. A picture is one of PNG, JPEG or a bitmap of 8 million pixels at most, all
+/// together 16 million; in the place of others stands their description.
+///
+/// Time and memory grow with the number of bytes alone, however deep groups are nested; formats beyond 4,096 and one
+/// for each 256 bytes are not kept. Any thread; needs the code pages of the C library's iconv, and where one is missing
+/// gives U+FFFD for its characters.
 Expected<AttributedText, ReadFailure> read(std::string_view bytes);
 
 } // namespace corvellane::rtf

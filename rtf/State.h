@@ -2,60 +2,22 @@
 
 #include "rtf/AttributedText.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
 namespace corvellane::rtf {
 
-/// The character formatting in effect, in RTF's own units.
+/// The character formatting in effect. The family of the look is left to the font.
 struct CharacterState {
+    TextAttributes look;
     /// Index into the font table; -1 before any font is chosen.
     std::int32_t font = -1;
-    /// 1 + the index of the link; 0 for none.
-    std::uint32_t link = 0;
-    /// 0x01RRGGBB; 0 for none.
-    std::uint32_t color = 0;
-    std::uint32_t background = 0;
-    /// Half points.
-    std::int32_t size = 24;
-    /// Half points, upwards.
-    std::int32_t offset = 0;
-    bool bold = false;
-    bool italic = false;
-    bool underline = false;
-    bool strike = false;
+    /// The font of East Asian characters; -1 where `font` is that too.
+    std::int32_t eastAsianFont = -1;
     bool hidden = false;
-    VerticalPosition script = VerticalPosition::normal;
-    Capitals capitals = Capitals::asTyped;
-    std::uint8_t padding = 0;
-};
-
-/// The paragraph formatting in effect, lengths in twips.
-struct ParagraphState {
-    std::int32_t left = 0;
-    std::int32_t right = 0;
-    std::int32_t firstLine = 0;
-    std::int32_t before = 0;
-    std::int32_t after = 0;
-    /// Exact below zero and at least so much above it, or 240ths of a line; 0 for the natural height.
-    std::int32_t line = 0;
-    /// 1 + the index of the last tab stop; 0 for none.
-    std::uint32_t lastTab = 0;
-    Alignment alignment = Alignment::natural;
-    bool lineIsMultiple = false;
-    bool pageBreakBefore = false;
-    bool inTable = false;
-};
-
-/// A tab stop in twips; chained as the TabStop it becomes.
-struct TabState {
-    std::int32_t position = 0;
-    std::uint32_t previous = 0;
-    TabKind kind = TabKind::left;
-    std::uint8_t padding = 0;
-    /// How many stops the chain has up to this one.
-    std::uint16_t count = 1;
+    std::array<std::uint8_t, 3> padding{};
 };
 
 /// Where the text of a group goes.
@@ -63,15 +25,27 @@ enum class Destination : std::uint8_t {
     body,
     skipped,
     fontTable,
+    fontAlternative,
     colorTable,
     fieldInstruction,
     /// Text for readers that know no Unicode, and within it the Unicode text in its stead (\upr and \ud).
     alternative,
+    /// What lists look like, and of that what stands before an item.
+    lists,
+    listLevel,
+    levelText,
+    /// The same for the paragraph that it stands in.
+    numbering,
+    numberingBefore,
+    numberingAfter,
+    picture,
+    propertyName,
+    propertyValue,
 };
 
 /// The formatting in effect inside a group, as its beginning saves it and its end restores it.
 struct GroupState {
-    /// Indices of a CharacterState and a ParagraphState.
+    /// Indices of a CharacterState and a ParagraphFormat.
     std::uint32_t character = 0;
     std::uint32_t paragraph = 0;
     /// How many bytes after a \u stand for its character in readers without Unicode (\uc).
@@ -81,17 +55,22 @@ struct GroupState {
     Destination unicodeDestination = Destination::body;
     /// The group is a field, into which its instruction hands the link.
     bool isField = false;
+    /// The field's result says nothing here.
+    bool dropsResult = false;
+    /// The group is within a footnote or an endnote.
+    bool inNote = false;
 
     bool operator==(const GroupState&) const = default;
 };
 
 /// The states around the groups that are open. Groups opened one inside the other in the same state take the room
-/// of one.
+/// of one; of states that differ no more than 65,536 are kept apart.
 class GroupStack {
 public:
     void push(const GroupState& state)
     {
-        if (levels_.empty() || !(levels_.back().state == state)) {
+        const bool isKnown = !levels_.empty() && (levels_.back().state == state || levels_.size() == mostLevels);
+        if (!isKnown) {
             levels_.push_back({state, 0});
         }
         ++levels_.back().groups;
@@ -117,13 +96,10 @@ private:
         std::size_t groups;
     };
 
+    static constexpr std::size_t mostLevels = 65536;
+
     std::vector<Level> levels_;
     std::size_t depth_ = 0;
 };
-
-/// A canonical state, whose `font` is an index into the families, as attributes.
-TextAttributes textAttributes(const CharacterState& state);
-ParagraphFormat paragraphFormat(const ParagraphState& state);
-TabStop toTabStop(const TabState& state);
 
 } // namespace corvellane::rtf

@@ -1,104 +1,191 @@
 #include "rtf/TextBuilder.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace corvellane::rtf {
 namespace {
 
 constexpr std::uint16_t mostTabs = 64;
+constexpr std::uint32_t mostCells = 128;
+
+/// No byte of any code page takes more room in UTF-8.
+constexpr std::size_t mostGrowth = 4;
+/// In bytes of the file: what it takes at least to change a look.
+constexpr std::size_t shortestRun = 3;
+
+/// No file that is written for its text changes its looks more often.
+std::size_t mostLooks(std::size_t size)
+{
+    return 4096 + (size / 256);
+}
+
+std::uint32_t lengthOf(const std::string& text)
+{
+    return static_cast<std::uint32_t>(text.size());
+}
 
 /// Different fonts may be faces of one family, and a face may be bold by itself.
-CharacterState visibleState(CharacterState state, const FontTable& fonts)
+TextAttributes lookOfState(const CharacterState& state, const FontTable& fonts)
 {
     const Font& font = fonts.font(state.font);
-    state.font = static_cast<std::int32_t>(font.family);
-    state.bold = state.bold || font.bold;
-    state.italic = state.italic || font.italic;
-    state.hidden = false;
-    return state;
+    TextAttributes look = state.look;
+    look.family = font.family;
+    look.bold = look.bold || font.bold;
+    look.italic = look.italic || font.italic;
+    return look;
+}
+
+void append(std::vector<Stretch>& to, std::vector<Stretch>& from, std::uint32_t by)
+{
+    for (const Stretch& stretch : from) {
+        to.push_back({stretch.end + by, stretch.index});
+    }
 }
 
 } // namespace
 
-std::uint32_t TextBuilder::attributesOf(std::uint32_t character, const FontTable& fonts)
+TextBuilder::TextBuilder(std::size_t size)
+    : characters_(mostLooks(size))
+    , paragraphs_(mostLooks(size))
+    , looks_(mostLooks(size))
+    , tabs_(mostLooks(size))
+    , rowFormats_(mostLooks(size))
+    , cellFormats_(mostLooks(size))
 {
-    if (character >= attributesOfCharacters_.size()) {
-        attributesOfCharacters_.resize(characters_.values().size());
+    body_.text.reserve(size * mostGrowth);
+    body_.runs.reserve(size / shortestRun);
+    body_.formats.reserve(size / shortestRun);
+}
+
+std::uint32_t TextBuilder::lookOf(std::uint32_t character, const FontTable& fonts)
+{
+    if (character >= looksOfCharacters_.size()) {
+        looksOfCharacters_.resize(characters_.values().size());
     }
-    std::uint32_t& known = attributesOfCharacters_[character];
+    std::uint32_t& known = looksOfCharacters_[character];
     if (known == 0) {
-        known = 1 + attributes_.index(visibleState(characters_[character], fonts));
+        known = 1 + looks_.index(lookOfState(characters_[character], fonts));
     }
     return known - 1;
 }
 
+void TextBuilder::replaceEnd(std::size_t from, std::string_view end)
+{
+    part_->text.replace(from, std::string::npos, end);
+    if (!part_->runs.empty() && part_->runs.back().end > from) {
+        part_->runs.back().end = static_cast<std::uint32_t>(part_->text.size());
+    }
+}
+
 bool TextBuilder::beginRun(std::uint32_t character, const FontTable& fonts)
 {
-    const std::uint32_t attributes = attributesOf(character, fonts);
-    if (attributes == runAttributes_) {
+    const std::uint32_t look = lookOf(character, fonts);
+    if (look == part_->look) {
         return false;
     }
     endRun();
-    runAttributes_ = attributes;
+    part_->look = look;
     return true;
 }
 
 void TextBuilder::endRun()
 {
-    const std::size_t end = result_.text.size();
-    if (end != runBegin_) {
-        result_.runs.push_back(
-            {static_cast<std::uint32_t>(runBegin_), static_cast<std::uint32_t>(end), runAttributes_});
-        runBegin_ = end;
+    std::vector<Stretch>& runs = part_->runs;
+    if (lengthOf(part_->text) == (runs.empty() ? 0 : runs.back().end)) {
+        return;
+    }
+    if (!runs.empty() && runs.back().index == part_->look) {
+        runs.back().end = lengthOf(part_->text);
+    } else {
+        runs.push_back({lengthOf(part_->text), part_->look});
     }
 }
 
-void TextBuilder::endParagraph(std::uint32_t character, std::uint32_t paragraph, const FontTable& fonts)
+void TextBuilder::endParagraph(char mark, std::uint32_t character, std::uint32_t paragraph, const FontTable& fonts)
 {
-    endRun();
-    result_.paragraphs.push_back({static_cast<std::uint32_t>(firstRun_),
-        static_cast<std::uint32_t>(result_.runs.size()), paragraph, attributesOf(character, fonts)});
-    firstRun_ = result_.runs.size();
+    beginRun(character, fonts);
+    part_->text += mark;
+    part_->paragraphBegin = part_->text.size();
+    std::vector<Stretch>& formats = part_->formats;
+    if (formats.empty() || formats.back().index != paragraph) {
+        formats.push_back({0, paragraph});
+    }
+    formats.back().end = lengthOf(part_->text);
+}
+
+void TextBuilder::endRow(const RowFormat& row)
+{
+    part_->text += mark::row;
+    part_->paragraphBegin = part_->text.size();
+    part_->formats.back().end = lengthOf(part_->text);
+    part_->rows.push_back(rowFormats_.index(row));
 }
 
 /// Paragraph after paragraph sets the same stops: the one that came next last time is tried before any other.
-std::uint32_t TextBuilder::addTab(TabState state)
+std::uint32_t TextBuilder::addTab(TabStop stop)
 {
-    std::uint32_t& next = nextTabs_[state.previous];
-    if (next != 0 && tabs_[next - 1].position == state.position && tabs_[next - 1].kind == state.kind) {
+    const std::uint32_t next = nextTabs_[stop.previous];
+    stop.count = stop.previous != 0 ? static_cast<std::uint16_t>(tabs_[stop.previous - 1].count + 1) : std::uint16_t{1};
+    if (next != 0 && tabs_[next - 1] == stop) {
         return next;
     }
-    if (state.previous != 0) {
-        state.count = static_cast<std::uint16_t>(tabs_[state.previous - 1].count + 1);
+    if (stop.count > mostTabs) {
+        return stop.previous;
     }
-    if (state.count > mostTabs) {
-        return state.previous;
-    }
-    next = 1 + tabs_.index(state);
-    const std::uint32_t added = next;
+    const std::uint32_t added = 1 + tabs_.index(stop);
+    nextTabs_[stop.previous] = added;
     nextTabs_.resize(tabs_.values().size() + 1);
     return added;
 }
 
-std::uint32_t TextBuilder::addLink(std::string target)
+std::uint32_t TextBuilder::addCell(CellFormat cell)
 {
-    result_.links.push_back(std::move(target));
-    return static_cast<std::uint32_t>(result_.links.size());
+    cell.count = cell.previous != 0 ? cellFormats_[cell.previous - 1].count + 1 : 1;
+    return cell.count > mostCells ? cell.previous : 1 + cellFormats_.index(cell);
 }
 
-AttributedText TextBuilder::take(const FontTable& fonts)
+std::uint32_t TextBuilder::addLink(std::string target)
 {
-    const auto convert = [](const auto& states, auto& values, auto conversion) {
-        values.reserve(states.size());
-        std::ranges::transform(states, std::back_inserter(values), conversion);
-    };
-    convert(attributes_.values(), result_.attributes, textAttributes);
-    convert(paragraphs_.values(), result_.formats, paragraphFormat);
-    convert(tabs_.values(), result_.tabStops, toTabStop);
-    result_.families = fonts.families();
-    return std::move(result_);
+    links_.push_back(std::move(target));
+    return static_cast<std::uint32_t>(links_.size());
+}
+
+std::uint32_t TextBuilder::addPicture(Picture picture)
+{
+    pictures_.push_back(std::move(picture));
+    return static_cast<std::uint32_t>(pictures_.size());
+}
+
+void TextBuilder::appendNotes()
+{
+    append(body_.runs, notes_.runs, lengthOf(body_.text));
+    append(body_.formats, notes_.formats, lengthOf(body_.text));
+    body_.rows.insert(body_.rows.end(), notes_.rows.begin(), notes_.rows.end());
+    body_.text += notes_.text;
+}
+
+AttributedText TextBuilder::take(FontTable& fonts)
+{
+    for (const bool ofNotes : {true, false}) {
+        writeNotes(ofNotes);
+        endRun();
+    }
+    appendNotes();
+    AttributedText result;
+    result.text = std::move(body_.text);
+    result.runs = std::move(body_.runs);
+    result.formatStretches = std::move(body_.formats);
+    result.rows = std::move(body_.rows);
+    result.attributes = looks_.take();
+    result.formats = paragraphs_.take();
+    result.tabStops = tabs_.take();
+    result.rowFormats = rowFormats_.take();
+    result.cellFormats = cellFormats_.take();
+    result.links = std::move(links_);
+    result.pictures = std::move(pictures_);
+    result.families = fonts.takeFamilies();
+    return result;
 }
 
 } // namespace corvellane::rtf

@@ -6,7 +6,7 @@
 namespace corvellane::rtf {
 namespace {
 
-constexpr std::size_t replacementLength = 3;
+constexpr char32_t lineBreak = U'\u2028';
 
 bool isText(char32_t code)
 {
@@ -66,10 +66,17 @@ void TextDecoder::appendByte(char byte, CodePage& page, std::string& out)
         lead_[0] = byte;
         leadLength_ = 1;
         highSurrogate_ = 0;
-        appendPending(out);
-    } else if (isText(code)) {
-        appendUtf8(out, code);
+        appendPending(out, loneCharacter(byte));
+    } else if (isText(code) || code == '\n') {
+        appendUtf8(out, code == '\n' ? lineBreak : code);
     }
+}
+
+/// What a byte that begins a character in its own page is in the substitute.
+char32_t TextDecoder::loneCharacter(char byte) const
+{
+    const char32_t code = substitute_ != nullptr ? substitute_->decode(byte) : CodePage::invalid;
+    return code <= 0x10FFFF ? code : replacementCharacter;
 }
 
 /// False when the byte begins a character of its own.
@@ -86,7 +93,7 @@ bool TextDecoder::continueCharacter(char byte, CodePage& page, std::string& out)
     if (code > 0x10FFFF) {
         return false;
     }
-    out.resize(out.size() - replacementLength);
+    out.resize(pendingBegin_);
     appendUtf8(out, code);
     return true;
 }
@@ -104,18 +111,19 @@ void TextDecoder::appendUnit(char32_t code, std::string& out)
     highSurrogate_ = 0;
     if (code >= 0xD800 && code <= 0xDBFF) {
         highSurrogate_ = code;
-        appendPending(out);
+        appendPending(out, replacementCharacter);
     } else if (code >= 0xDC00 && code <= 0xDFFF && high != 0 && endsWithPending(out)) {
-        out.resize(out.size() - replacementLength);
+        out.resize(pendingBegin_);
         appendUtf8(out, 0x10000 + ((high - 0xD800) << 10U) + (code - 0xDC00));
     } else if (isText(code)) {
         appendUtf8(out, code);
     }
 }
 
-void TextDecoder::appendPending(std::string& out)
+void TextDecoder::appendPending(std::string& out, char32_t code)
 {
-    appendUtf8(out, replacementCharacter);
+    pendingBegin_ = out.size();
+    appendUtf8(out, code);
     pendingIn_ = &out;
     pendingEnd_ = out.size();
 }

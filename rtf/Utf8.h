@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace corvellane::rtf {
 
@@ -46,5 +47,8 @@ inline void appendUtf8(std::string& out, char32_t code)
     std::array<char, longestUtf8> bytes;
     out.append(bytes.data(), writeUtf8(bytes.data(), code));
 }
+
+/// Whether what is above 0x7F in the bytes is UTF-8 (RFC 3629), two characters of it at least.
+bool isUtf8Text(std::string_view bytes);
 
 } // namespace corvellane::rtf

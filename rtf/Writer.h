@@ -2,7 +2,12 @@
 
 #include "rtf/CodePage.h"
 #include "rtf/ColorTable.h"
+#include "rtf/Field.h"
 #include "rtf/FontTable.h"
+#include "rtf/Lists.h"
+#include "rtf/Notes.h"
+#include "rtf/Pictures.h"
+#include "rtf/RowLayout.h"
 #include "rtf/State.h"
 #include "rtf/TextBuilder.h"
 #include "rtf/TextDecoder.h"
@@ -18,20 +23,19 @@ namespace corvellane::rtf {
 /// for others is public.
 class Writer {
 public:
-    /// Room is set aside for `expectedLength` bytes of text.
-    explicit Writer(std::size_t expectedLength)
-        : builder_(expectedLength)
-    {
-    }
+    /// For a file of `size` bytes; `rawIsUnicode`: its raw bytes are UTF-8, whatever code page is in effect.
+    Writer(std::size_t size, bool rawIsUnicode);
 
     const GroupState& group() const { return group_; }
     const CharacterState& character() const { return character_; }
-    const ParagraphState& paragraph() const { return paragraph_; }
+    const ParagraphFormat& paragraph() const { return paragraph_; }
     const FontTable& fonts() const { return fonts_; }
+    /// Text is the agreement's own, and is seen.
+    bool isInBody() const { return group_.destination == Destination::body && !character_.hidden; }
 
     GroupState& changeGroup();
     CharacterState& changeCharacter();
-    ParagraphState& changeParagraph();
+    ParagraphFormat& changeParagraph();
     FontTable& changeFonts();
 
     /// The document's code page, where it can be had.
@@ -45,6 +49,10 @@ public:
 
     /// A character or a surrogate.
     void put(char32_t code);
+    /// A character that the font of East Asian text shows.
+    void putEastAsian(char32_t code);
+    /// Characters of UTF-8.
+    void putUnicode(std::string_view characters);
     /// Bytes that are written as hexadecimal or escaped.
     void putBytes(std::string_view bytes);
     /// Raw bytes; `ascii` as the token has it.
@@ -52,38 +60,66 @@ public:
     /// Puts a byte where it ends a character that the last raw byte began; false where it does not.
     bool putTrailByte(char byte);
     bool awaitsTrail() const { return decoder_.awaitsTrail(); }
+    bool rawIsUnicode() const { return rawIsUnicode_; }
     /// What comes next continues no multi-byte character.
     void breakBytes() { decoder_.breakBytes(); }
 
-    /// Parts the cells that have ended from what comes next, where text is wanted.
-    void partCells() { sink(); }
-    void addTab(std::int32_t position);
+    void addTab(Twips position);
+    /// Ends what is described of a cell, which itself ends there.
+    void endCellFormat(Twips rightEdge);
     bool paragraphIsEmpty() const { return builder_.paragraphIsEmpty(); }
-    void endParagraph();
+    void endParagraph(char mark = mark::paragraph);
+    /// Ends a cell that stands in `depth` tables, and with it the paragraph.
+    void endCell(std::uint8_t depth);
+    void endRow(std::uint8_t depth);
+
+    void beginNote();
+    /// The mark of a note, in the text or in the note.
+    void putNoteMark();
+    void makeEndnote();
 
     /// The text, after the outer group is closed.
-    AttributedText take() { return builder_.take(fonts_); }
+    AttributedText take();
 
     ColorTable colors;
+    Lists lists;
+    Notes notes;
+    Pictures pictures;
+    RowLayout rows;
     bool isCocoa = false;
     /// What is left of the fallback of the last \u, in characters.
     std::int32_t fallback = 0;
-    /// The kind of the next tab stop.
+    /// The next tab stop.
     TabKind tabKind = TabKind::left;
+    TabLeader tabLeader = TabLeader::none;
+    Twips defaultTab = 720;
+    bool largerSpaceCounts = false;
     bool pageBreak = false;
-    bool nestedRowEnded = false;
-    /// Cells that have ended in this row since its last text.
-    std::size_t endedCells = 0;
+    /// The number of the item that the paragraph is stands in the file.
+    bool numberIsWritten = false;
+    /// What borders are described.
+    BorderTarget borderTarget = BorderTarget::none;
+    /// By Side.
+    std::uint8_t borderSides = 0;
+    /// Which of the fonts of the text the next one is.
+    bool fontIsEastAsian = false;
     /// What the last field is to do.
     std::string instruction;
 
 private:
     std::string* sink();
     void findSink();
+    std::string* sinkOutsideBody();
     int codePage() const;
     std::uint32_t characterIndex();
     std::uint32_t paragraphIndex();
+    std::uint32_t endFormatIndex();
     void restore(const GroupState& state);
+    void leave(const GroupState& left);
+    void endInstruction();
+    void endSymbol();
+    void endPicture();
+    void beginParagraph();
 
     TextBuilder builder_;
     TextDecoder decoder_;
@@ -94,7 +130,7 @@ private:
     /// What is in effect; `character` and `paragraph` of the group's state are up to date unless changed.
     GroupState group_;
     CharacterState character_;
-    ParagraphState paragraph_;
+    ParagraphFormat paragraph_;
     bool characterChanged_ = true;
     bool paragraphChanged_ = true;
 
@@ -104,6 +140,16 @@ private:
     bool sinkChanged_ = true;
 
     int documentPage_ = 1252;
+    bool rawIsUnicode_;
+    bool atParagraphBegin_ = true;
+    /// The same of the text around a note.
+    bool wasAtParagraphBegin_ = true;
+    bool numberWasWritten_ = false;
+    /// How many bytes of list markers the text may get yet.
+    std::size_t markerRoom_;
+    /// The character of a field, which stands where its result is empty: the text has not grown from there.
+    char32_t symbol_ = 0;
+    std::size_t symbolPlace_ = 0;
     std::string passedText_;
 };
 
@@ -120,7 +166,7 @@ inline CharacterState& Writer::changeCharacter()
     return character_;
 }
 
-inline ParagraphState& Writer::changeParagraph()
+inline ParagraphFormat& Writer::changeParagraph()
 {
     paragraphChanged_ = true;
     return paragraph_;

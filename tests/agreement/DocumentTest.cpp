@@ -27,7 +27,7 @@ protected:
 TEST_F(DocumentTest, holdsTheLastResourceThatCouldBeRead)
 {
     Document document(resources, files, console);
-    EXPECT_TRUE(document.data.get()->paragraphs.empty());
+    EXPECT_TRUE(document.data.get()->text.empty());
     Lines seen;
     const auto subscription
         = document.objectWillChange.subscribe([&] { seen.push_back(agreementPlainText(*document.data.get())); });
@@ -37,7 +37,7 @@ TEST_F(DocumentTest, holdsTheLastResourceThatCouldBeRead)
         document.load(name);
     }
     EXPECT_EQ(seen, Lines{""});
-    EXPECT_EQ(agreementPlainText(*document.data.get()), "\"\\ a\tb\n\n\tc\u2028d\n");
+    EXPECT_EQ(agreementPlainText(*document.data.get()), "\"\\ a\tb\n\n\nc\u2028d\n");
     EXPECT_EQ(console.lines,
         (Lines{"File not found", "no file /r/Gone.rtf", "The file “Plain.rtf” couldn’t be opened.",
             "The file “Open.rtf” couldn’t be opened because it isn’t in the correct format."}));
@@ -47,7 +47,7 @@ TEST_F(DocumentTest, isReportedAsJsonOrText)
 {
     EXPECT_EQ(reportAgreement(files, "/r/Good.rtf", AgreementForm::plainText, console), 0);
     EXPECT_EQ(reportAgreement(files, "/r/Good.rtf", AgreementForm::json, console), 0);
-    EXPECT_EQ(console.lines.at(0), "\"\\ a\tb\n\n\tc\u2028d");
+    EXPECT_EQ(console.lines.at(0), "\"\\ a\tb\n\n\nc\u2028d");
     EXPECT_EQ(console.lines.at(1) + "\n", agreementJson(readAgreement(files, "/r/Good.rtf").value()));
 }
 

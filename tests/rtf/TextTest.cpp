@@ -88,10 +88,10 @@ TEST(RtfText, boundsTheNumberOfTabStops)
         stops += "\\tx" + std::to_string(position * 20);
     }
     const AttributedText text = readBody(stops + " a\\par\\pard\\tx20\\tx40 b");
-    const auto first = text.tabsOf(text.formats.at(text.paragraphs.at(0).format));
+    const auto first = text.tabsOf(text.formats.at(text.paragraphs().at(0).format));
     ASSERT_EQ(first.size(), 64U);
-    EXPECT_EQ(first.front().position, 1);
-    EXPECT_EQ(first.back().position, 64);
+    EXPECT_EQ(first.front().position, 20);
+    EXPECT_EQ(first.back().position, 1280);
     EXPECT_EQ(text.tabStops.size(), 64U) << "a chain that begins as another one is part of it";
 }
 
@@ -106,7 +106,7 @@ TEST(RtfText, takesNoRawByteForAnotherInTheNamesOfFonts)
 {
     const auto family = [](const std::string& font) {
         const AttributedText text = readBody("{\\fonttbl{\\f4\\fcharset128 " + font + ";}}\\f4 x");
-        return text.families.at(text.attributes.at(0).family);
+        return text.families.at(text.attributes.at(0).family).name;
     };
     EXPECT_EQ(family("A\x83"), "A\uFFFD");
     EXPECT_EQ(family("\x83\x7D"), "マ");

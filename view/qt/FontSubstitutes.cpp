@@ -67,6 +67,10 @@ constexpr auto rows = std::to_array<Substitutes>({
     {"baskerville", serif},
     {"hiraginosansgb", heiSimplified},
     {"hiraginomin", minchoJapanese},
+    {"hiramin", minchoJapanese},
+    {"hirakaku", gothicJapanese},
+    {"kozmin", minchoJapanese},
+    {"kozgo", gothicJapanese},
     {"hiragino", gothicJapanese},
     {"msgothic", gothicJapanese},
     {"mspgothic", gothicJapanese},
@@ -88,8 +92,18 @@ constexpr auto rows = std::to_array<Substitutes>({
     {"songtitc", mingTraditional},
     {"mingliu", mingTraditional},
     {"pmingliu", mingTraditional},
+    {"dfkai", mingTraditional},
+    {"biaukai", mingTraditional},
+    {"lisong", mingTraditional},
+    {"lihei", heiTraditional},
     {"songti", songSimplified},
     {"stsong", songSimplified},
+    {"stfangsong", songSimplified},
+    {"fangsong", songSimplified},
+    {"stkaiti", songSimplified},
+    {"kaiti", songSimplified},
+    {"dengxian", heiSimplified},
+    {"stxihei", heiSimplified},
     {"simsun", songSimplified},
     {"nsimsun", songSimplified},
     {"applesdgothic", gothicKorean},
@@ -97,10 +111,44 @@ constexpr auto rows = std::to_array<Substitutes>({
     {"gulim", gothicKorean},
     {"dotum", gothicKorean},
     {"batang", batangKorean},
+    {"gungsuh", batangKorean},
+    {"applemyungjo", batangKorean},
+    {"applegothic", gothicKorean},
     {"symbol", symbols},
     {"wingdings", symbols},
     {"webdings", symbols},
     {"zapfdingbats", symbols},
+});
+
+/// How names in their own scripts begin; the first row that fits counts.
+constexpr auto ownNames = std::to_array<Substitutes>({
+    {"宋体", songSimplified},
+    {"新宋体", songSimplified},
+    {"仿宋", songSimplified},
+    {"楷体", songSimplified},
+    {"华文", songSimplified},
+    {"黑体", heiSimplified},
+    {"微软雅黑", heiSimplified},
+    {"等线", heiSimplified},
+    {"新細明體", mingTraditional},
+    {"細明體", mingTraditional},
+    {"標楷體", mingTraditional},
+    {"微軟正黑體", heiTraditional},
+    {"儷黑", heiTraditional},
+    {"ＭＳ Ｐ明朝", minchoJapanese},
+    {"ＭＳ 明朝", minchoJapanese},
+    {"ＭＳ Ｐゴシック", gothicJapanese},
+    {"ＭＳ ゴシック", gothicJapanese},
+    {"游明朝", minchoJapanese},
+    {"游ゴシック", gothicJapanese},
+    {"メイリオ", gothicJapanese},
+    {"ヒラギノ明朝", minchoJapanese},
+    {"ヒラギノ", gothicJapanese},
+    {"바탕", batangKorean},
+    {"궁서", batangKorean},
+    {"돋움", gothicKorean},
+    {"굴림", gothicKorean},
+    {"맑은 고딕", gothicKorean},
 });
 
 std::string beginningOf(std::string_view family)
@@ -115,25 +163,68 @@ std::string beginningOf(std::string_view family)
     return letters;
 }
 
-const char* guessFor(const std::string& letters)
+const char* ofLanguage(rtf::FontLanguage language, bool isSerif)
+{
+    switch (language) {
+    case rtf::FontLanguage::japanese:
+        return isSerif ? minchoJapanese : gothicJapanese;
+    case rtf::FontLanguage::simplifiedChinese:
+        return isSerif ? songSimplified : heiSimplified;
+    case rtf::FontLanguage::traditionalChinese:
+        return isSerif ? mingTraditional : heiTraditional;
+    case rtf::FontLanguage::korean:
+        return isSerif ? batangKorean : gothicKorean;
+    case rtf::FontLanguage::other:
+        break;
+    }
+    return isSerif ? serif : sans;
+}
+
+const char* guessFor(const rtf::FontFamily& family, const std::string& letters)
 {
     const auto holds = [&](std::string_view word) { return letters.find(word) != std::string::npos; };
     if (holds("mono") || holds("typewriter") || holds("code") || holds("console")) {
         return codeFace;
     }
-    return (holds("serif") && !holds("sans")) || holds("roman") ? serif : sans;
+    if (family.language == rtf::FontLanguage::other && family.kind == rtf::FontClass::fixed) {
+        return fixed;
+    }
+    const bool saysSerif = (holds("serif") && !holds("sans")) || holds("roman") || holds("mincho") || holds("song");
+    const bool saysSans = holds("sans") || holds("gothic");
+    return ofLanguage(family.language, saysSerif || (family.kind == rtf::FontClass::serif && !saysSans));
+}
+
+const char* known(std::string_view name, const std::string& letters)
+{
+    const auto* const row = std::ranges::find_if(rows, [&](auto& each) { return letters.starts_with(each.beginning); });
+    if (row != rows.end()) {
+        return row->families;
+    }
+    const auto* const own
+        = std::ranges::find_if(ownNames, [&](auto& each) { return name.starts_with(each.beginning); });
+    return own != ownNames.end() ? own->families : nullptr;
+}
+
+QString asQString(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 } // namespace
 
-QStringList substitutesFor(std::string_view family)
+QStringList substitutesFor(const rtf::FontFamily& family)
 {
-    const std::string letters = beginningOf(family);
-    const auto* const row = std::ranges::find_if(rows, [&](auto& each) { return letters.starts_with(each.beginning); });
-    const char* const families = row == rows.end() ? guessFor(letters) : row->families;
-    QStringList result = QString::fromLatin1(families).split('|');
-    if (families != symbols && !family.empty()) {
-        result.prepend(QString::fromUtf8(family.data(), static_cast<qsizetype>(family.size())));
+    const std::string letters = beginningOf(family.name);
+    const char* families = known(family.name, letters);
+    const bool isSymbols = families == symbols;
+    if (families == nullptr && !family.alternative.empty()) {
+        families = known(family.alternative, beginningOf(family.alternative));
+    }
+    QStringList result = QString::fromLatin1(families != nullptr ? families : guessFor(family, letters)).split('|');
+    for (const std::string_view name : {std::string_view(family.alternative), std::string_view(family.name)}) {
+        if (!isSymbols && !name.empty()) {
+            result.prepend(asQString(name));
+        }
     }
     return result;
 }

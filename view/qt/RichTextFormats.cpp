@@ -15,12 +15,8 @@ namespace {
 constexpr double widestLeftIndent = 240;
 constexpr double widestRightIndent = 120;
 constexpr double pageBreakSpace = 24;
+constexpr double automaticSpace = 14;
 const QColor linkColor(0, 0, 238);
-
-QColor colorOf(const rtf::Color& color)
-{
-    return {color.red, color.green, color.blue};
-}
 
 QFont::Capitalization capitalizationOf(rtf::Capitals capitals)
 {
@@ -38,13 +34,38 @@ QFont::Capitalization capitalizationOf(rtf::Capitals capitals)
 QFont fontFor(const rtf::TextAttributes& attributes, const rtf::AttributedText& text)
 {
     QFont font(substitutesFor(text.families[attributes.family]));
-    font.setPixelSize(std::max(1, qRound(attributes.size * textScale())));
+    font.setPixelSize(std::max(1, qRound(attributes.size / 2.0 * textScale())));
     font.setBold(attributes.bold);
     font.setItalic(attributes.italic);
-    font.setUnderline(attributes.underline || attributes.link);
+    if (attributes.letterSpacing != 0) {
+        font.setLetterSpacing(QFont::AbsoluteSpacing, rtf::points(attributes.letterSpacing) * textScale());
+    }
     font.setStrikeOut(attributes.strike);
     font.setCapitalization(capitalizationOf(attributes.capitals));
     return font;
+}
+
+/// Of two lines Qt draws one.
+QTextCharFormat::UnderlineStyle styleOf(rtf::Underline underline)
+{
+    switch (underline) {
+    case rtf::Underline::none:
+        return QTextCharFormat::NoUnderline;
+    case rtf::Underline::solid:
+    case rtf::Underline::twofold:
+        return QTextCharFormat::SingleUnderline;
+    case rtf::Underline::dotted:
+        return QTextCharFormat::DotLine;
+    case rtf::Underline::dashed:
+        return QTextCharFormat::DashUnderline;
+    case rtf::Underline::dashDotted:
+        return QTextCharFormat::DashDotLine;
+    case rtf::Underline::dashDotDotted:
+        return QTextCharFormat::DashDotDotLine;
+    case rtf::Underline::waved:
+        return QTextCharFormat::WaveUnderline;
+    }
+    return QTextCharFormat::NoUnderline;
 }
 
 QTextCharFormat::VerticalAlignment verticalAlignmentOf(rtf::VerticalPosition position)
@@ -62,13 +83,13 @@ QTextCharFormat::VerticalAlignment verticalAlignmentOf(rtf::VerticalPosition pos
 
 void setColors(QTextCharFormat& format, const rtf::TextAttributes& attributes)
 {
-    if (attributes.link) {
+    if (attributes.link != 0) {
         format.setForeground(linkColor);
-    } else if (attributes.color) {
-        format.setForeground(colorOf(*attributes.color));
+    } else if (attributes.color.isSet) {
+        format.setForeground(colorOf(attributes.color));
     }
-    if (attributes.background) {
-        format.setBackground(colorOf(*attributes.background));
+    if (attributes.background.isSet) {
+        format.setBackground(colorOf(attributes.background));
     }
 }
 
@@ -104,17 +125,17 @@ QTextOption::TabType typeOf(rtf::TabKind kind)
     return QTextOption::LeftTab;
 }
 
-struct Indents {
-    double left;
-    double firstLine;
-    double right;
-};
-
-Indents indentsOf(const rtf::ParagraphFormat& format)
+Qt::LayoutDirection directionOf(rtf::Direction direction)
 {
-    const double left = std::clamp(format.leftIndent, 0.0, widestLeftIndent);
-    return {left, std::clamp(format.firstLineIndent, -left, widestLeftIndent - left),
-        std::clamp(format.rightIndent, 0.0, widestRightIndent)};
+    switch (direction) {
+    case rtf::Direction::leftToRight:
+        return Qt::LeftToRight;
+    case rtf::Direction::rightToLeft:
+        return Qt::RightToLeft;
+    case rtf::Direction::natural:
+        break;
+    }
+    return Qt::LayoutDirectionAuto;
 }
 
 /// Qt counts a tab stop from where the line begins. A hanging first line stops at the indent of those below it, as
@@ -125,7 +146,7 @@ QList<QTextOption::Tab> tabsFor(
     const double lineStart = indents.left + indents.firstLine;
     QList<QTextOption::Tab> tabs;
     for (const rtf::TabStop& stop : text.tabsOf(format)) {
-        tabs.append({stop.position - lineStart, typeOf(stop.kind), '.'});
+        tabs.append({rtf::points(stop.position) - lineStart, typeOf(stop.kind), '.'});
     }
     if (indents.firstLine < 0) {
         tabs.append({-indents.firstLine, QTextOption::LeftTab});
@@ -138,60 +159,85 @@ void setLineHeight(QTextBlockFormat& format, const rtf::LineHeight& height)
 {
     switch (height.kind) {
     case rtf::LineHeight::Kind::multiple:
-        format.setLineHeight(height.value * 100, QTextBlockFormat::ProportionalHeight);
+        format.setLineHeight(height.value / 2.4, QTextBlockFormat::ProportionalHeight);
         break;
     case rtf::LineHeight::Kind::atLeast:
-        format.setLineHeight(height.value, QTextBlockFormat::MinimumHeight);
+        format.setLineHeight(rtf::points(height.value), QTextBlockFormat::MinimumHeight);
         break;
     case rtf::LineHeight::Kind::exactly:
-        format.setLineHeight(height.value, QTextBlockFormat::FixedHeight);
+        format.setLineHeight(rtf::points(height.value), QTextBlockFormat::FixedHeight);
         break;
     case rtf::LineHeight::Kind::natural:
         break;
     }
 }
 
-double spaceAbove(const rtf::AttributedText& text, std::size_t index)
+/// Between the items of a list there is none unless their author says so.
+double spaceOf(rtf::Twips space, bool isAutomatic, bool isWithinList)
 {
-    const rtf::ParagraphFormat& format = text.formats[text.paragraphs[index].format];
-    if (index == 0) {
-        return 0;
-    }
-    const rtf::ParagraphFormat& above = text.formats[text.paragraphs[index - 1].format];
-    return above.spaceAfter + format.spaceBefore + (format.pageBreakBefore ? pageBreakSpace : 0);
+    const double ownSpace = isWithinList ? 0 : automaticSpace;
+    return isAutomatic ? ownSpace : std::max(0.0, rtf::points(space));
 }
 
 } // namespace
+
+QColor colorOf(const rtf::Color& color)
+{
+    return {color.red, color.green, color.blue};
+}
+
+double spaceBetween(
+    const rtf::AttributedText& text, const rtf::ParagraphFormat* first, const rtf::ParagraphFormat* second)
+{
+    static constexpr rtf::ParagraphFormat none;
+    const rtf::ParagraphFormat& upper = first != nullptr ? *first : none;
+    const rtf::ParagraphFormat& lower = second != nullptr ? *second : none;
+    const bool isWithinList = upper.list != 0 && lower.list != 0;
+    const bool isSameStyle = first != nullptr && second != nullptr && upper.style == lower.style;
+    const bool hasAfter = !upper.contextualSpace || !isSameStyle;
+    const bool hasBefore = !lower.contextualSpace || !isSameStyle;
+    const double after = hasAfter ? spaceOf(upper.spaceAfter, upper.automaticSpaceAfter, isWithinList) : 0;
+    const double before = hasBefore ? spaceOf(lower.spaceBefore, lower.automaticSpaceBefore, isWithinList) : 0;
+    const bool isLarger = text.largerSpaceCounts || upper.automaticSpaceAfter || lower.automaticSpaceBefore;
+    return (isLarger ? std::max(after, before) : after + before) + (lower.pageBreakBefore ? pageBreakSpace : 0);
+}
+
+Indents indentsOf(const rtf::ParagraphFormat& format)
+{
+    const double left = std::clamp(rtf::points(format.leftIndent), 0.0, widestLeftIndent);
+    return {left, std::clamp(rtf::points(format.firstLineIndent), -left, widestLeftIndent - left),
+        std::clamp(rtf::points(format.rightIndent), 0.0, widestRightIndent)};
+}
 
 QTextCharFormat charFormatFor(const rtf::TextAttributes& attributes, const rtf::AttributedText& text)
 {
     QTextCharFormat format;
     const QFont font = fontFor(attributes, text);
     format.setFont(font);
+    format.setUnderlineStyle(attributes.link != 0 ? QTextCharFormat::SingleUnderline : styleOf(attributes.underline));
     format.setVerticalAlignment(verticalAlignmentOf(attributes.script));
     if (attributes.baselineOffset != 0) {
-        format.setBaselineOffset(100 * attributes.baselineOffset / QFontMetricsF(font).height());
+        format.setBaselineOffset(100 * (attributes.baselineOffset / 2.0) / QFontMetricsF(font).height());
     }
     setColors(format, attributes);
-    if (attributes.link) {
+    if (attributes.link != 0) {
         format.setAnchor(true);
-        format.setAnchorHref(QString::fromStdString(text.links[*attributes.link]));
+        format.setAnchorHref(QString::fromStdString(text.links[attributes.link - 1]));
     }
     return format;
 }
 
-QTextBlockFormat blockFormatFor(const rtf::AttributedText& text, std::size_t index)
+QTextBlockFormat blockFormatFor(
+    const rtf::AttributedText& text, const rtf::ParagraphFormat& format, const Indents& indents)
 {
-    const rtf::ParagraphFormat& format = text.formats[text.paragraphs[index].format];
-    const Indents indents = indentsOf(format);
     QTextBlockFormat block;
     block.setAlignment(alignmentOf(format.alignment));
+    block.setLayoutDirection(directionOf(format.direction));
     block.setLeftMargin(indents.left);
     block.setTextIndent(indents.firstLine);
     block.setRightMargin(indents.right);
-    block.setTopMargin(spaceAbove(text, index));
     block.setTabPositions(tabsFor(text, format, indents));
-    setLineHeight(block, format.lineHeight);
+    setLineHeight(block, format.lineHeight());
     return block;
 }
 

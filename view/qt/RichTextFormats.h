@@ -2,19 +2,36 @@
 
 #include "rtf/AttributedText.h"
 
+#include <QColor>
 #include <QTextBlockFormat>
 #include <QTextCharFormat>
 
 namespace corvellane::view {
+
+QColor colorOf(const rtf::Color& color);
 
 /// The format of `attributes`, which are some of `text`'s. A point is one device-independent pixel, as in all lengths
 /// of the window; sizes of fonts grow with the window's texts and are rounded to whole pixels, which are all that Qt
 /// sets text in. The colour of text without one of its own is left to the palette.
 QTextCharFormat charFormatFor(const rtf::TextAttributes& attributes, const rtf::AttributedText& text);
 
-/// The format of the paragraph at `index`. The space between two paragraphs all belongs to the lower one, for of two
-/// spaces Qt shows the greater; above the first paragraph there is none. Indents are kept within what a narrow window
-/// can show.
-QTextBlockFormat blockFormatFor(const rtf::AttributedText& text, std::size_t index);
+/// The space between two paragraphs, in points. Of a paragraph next to none, or next to a table, null.
+double spaceBetween(
+    const rtf::AttributedText& text, const rtf::ParagraphFormat* first, const rtf::ParagraphFormat* second);
+
+/// The indents of a paragraph in points, within what a narrow window can show.
+struct Indents {
+    double left;
+    double firstLine;
+    double right;
+
+    bool operator==(const Indents&) const = default;
+};
+
+Indents indentsOf(const rtf::ParagraphFormat& format);
+
+/// The format of a paragraph with those indents, without any space around it.
+QTextBlockFormat blockFormatFor(
+    const rtf::AttributedText& text, const rtf::ParagraphFormat& format, const Indents& indents);
 
 } // namespace corvellane::view

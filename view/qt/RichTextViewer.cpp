@@ -1,59 +1,17 @@
 #include "view/qt/RichTextViewer.h"
 
 #include "view/qt/Appearance.h"
-#include "view/qt/RichTextFormats.h"
+#include "view/qt/RichTextDocument.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextEdit>
-#include <QTextOption>
 
 namespace corvellane::view {
 namespace {
-
-constexpr double defaultTabDistance = 36;
-constexpr double pageMargin = 8;
-
-void prepare(QTextDocument& document)
-{
-    document.clear();
-    document.setUndoRedoEnabled(false);
-    document.setDocumentMargin(pageMargin);
-    QTextOption option = document.defaultTextOption();
-    option.setTabStopDistance(defaultTabDistance);
-    document.setDefaultTextOption(option);
-}
-
-QList<QTextCharFormat> charFormatsOf(const rtf::AttributedText& text)
-{
-    QList<QTextCharFormat> formats;
-    for (const rtf::TextAttributes& attributes : text.attributes) {
-        formats.append(charFormatFor(attributes, text));
-    }
-    return formats;
-}
-
-void insertParagraph(
-    QTextCursor& cursor, const rtf::AttributedText& text, std::size_t index, const QList<QTextCharFormat>& charFormats)
-{
-    const rtf::Paragraph& paragraph = text.paragraphs[index];
-    const QTextBlockFormat format = blockFormatFor(text, index);
-    if (index == 0) {
-        cursor.setBlockFormat(format);
-        cursor.setBlockCharFormat(charFormats[paragraph.endAttributes]);
-    } else {
-        cursor.insertBlock(format, charFormats[paragraph.endAttributes]);
-    }
-    for (const rtf::Run& run : text.runsOf(paragraph)) {
-        const std::string_view characters = text.textOf(run);
-        cursor.insertText(QString::fromUtf8(characters.data(), static_cast<qsizetype>(characters.size())),
-            charFormats[run.attributes]);
-    }
-}
 
 /// Its frame tells of the focus. Keys scroll it, as those who look expect; those who listen move a caret through it,
 /// whose lines they are read.
@@ -138,18 +96,6 @@ QPalette paperPalette(QPalette palette)
 }
 
 } // namespace
-
-void fillTextDocument(QTextDocument& document, const rtf::AttributedText& text)
-{
-    prepare(document);
-    const QList<QTextCharFormat> charFormats = charFormatsOf(text);
-    QTextCursor cursor(&document);
-    cursor.beginEditBlock();
-    for (std::size_t index = 0; index < text.paragraphs.size(); ++index) {
-        insertParagraph(cursor, text, index, charFormats);
-    }
-    cursor.endEditBlock();
-}
 
 QWidget* makeRichTextViewer(const rtf::AttributedText& text, QWidget* parent)
 {

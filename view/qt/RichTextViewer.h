@@ -2,15 +2,9 @@
 
 #include "rtf/AttributedText.h"
 
-class QTextDocument;
 class QWidget;
 
 namespace corvellane::view {
-
-/// Replaces what is in `document`, which keeps no record for undoing, by `text` with all its formatting. A length of
-/// one point becomes one device-independent pixel; sizes of fonts grow with all texts of the window where the desktop's
-/// own font is large. Needs a QApplication; main thread.
-void fillTextDocument(QTextDocument& document, const rtf::AttributedText& text);
 
 /// A read-only view of `text`, which is not needed afterwards: wrapped at the view's own width, scrolled to its top,
 /// dark on white whatever the desktop's colours. Text can be selected and copied by mouse and keyboard. Links are

@@ -1,6 +1,6 @@
 #include "rtf/Reader.h"
 #include "view/qt/FontSubstitutes.h"
-#include "view/qt/RichTextViewer.h"
+#include "view/qt/RichTextDocument.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
@@ -169,11 +169,12 @@ TEST(FontSubstitutes, offersWhatLooksLikeTheAuthorsFamily)
         {"ヒラギノ角ゴ", "Liberation Sans"},
     };
     for (const auto& [family, substitute] : rows) {
-        EXPECT_EQ(substitutesFor(family).first().toStdString(), family);
-        EXPECT_TRUE(substitutesFor(family).contains(substitute)) << family;
+        const rtf::FontFamily named{.name = family, .alternative = {}};
+        EXPECT_EQ(substitutesFor(named).first().toStdString(), family);
+        EXPECT_TRUE(substitutesFor(named).contains(substitute)) << family;
     }
-    EXPECT_EQ(substitutesFor("Symbol").first(), "DejaVu Sans") << "its own letters stand in other places";
-    EXPECT_EQ(substitutesFor("").first(), "Liberation Sans");
+    EXPECT_EQ(substitutesFor({.name = "Symbol", .alternative = {}}).first(), "DejaVu Sans") << "its own letters stand in other places";
+    EXPECT_EQ(substitutesFor({.name = {}, .alternative = {}}).first(), "Liberation Sans");
 }
 
 } // namespace

@@ -1,0 +1,242 @@
+#include "rtf/Lists.h"
+
+#include <algorithm>
+#include <limits>
+#include <string_view>
+#include <utility>
+
+namespace corvellane::rtf {
+namespace {
+
+/// Numbers of lists that paragraphs describe themselves lie above those of the tables.
+constexpr std::uint16_t firstNumbering = 0x8000;
+constexpr std::int32_t mostRoman = 3999;
+constexpr std::int32_t mostLetters = 26 * 8;
+
+std::string roman(std::int32_t number)
+{
+    static constexpr std::pair<std::int32_t, std::string_view> digits[]
+        = {{1000, "m"}, {900, "cm"}, {500, "d"}, {400, "cd"}, {100, "c"}, {90, "xc"}, {50, "l"}, {40, "xl"}, {10, "x"},
+            {9, "ix"}, {5, "v"}, {4, "iv"}, {1, "i"}};
+    std::string text;
+    for (const auto& [value, digit] : digits) {
+        for (; number >= value; number -= value) {
+            text += digit;
+        }
+    }
+    return text;
+}
+
+/// After z comes aa, then bb.
+std::string letters(std::int32_t number)
+{
+    const auto count = static_cast<std::size_t>((number - 1) / 26) + 1;
+    return std::string(count, static_cast<char>('a' + ((number - 1) % 26)));
+}
+
+std::string inCapitals(std::string text)
+{
+    std::ranges::transform(text, text.begin(), [](char letter) { return static_cast<char>(letter - 'a' + 'A'); });
+    return text;
+}
+
+std::string ordinal(std::int32_t number)
+{
+    const std::int32_t last = number % 100 / 10 == 1 ? 0 : number % 10;
+    const char* const ending = last == 1 ? "st" : last == 2 ? "nd" : last == 3 ? "rd" : "th";
+    return std::to_string(number) + ending;
+}
+
+} // namespace
+
+std::string numberText(std::int32_t number, std::int32_t kind)
+{
+    const bool isRoman = number > 0 && number <= mostRoman;
+    const bool isLetter = number > 0 && number <= mostLetters;
+    if (kind == ListLevel::upperRoman && isRoman) {
+        return inCapitals(roman(number));
+    }
+    if (kind == ListLevel::lowerRoman && isRoman) {
+        return roman(number);
+    }
+    if (kind == ListLevel::upperLetter && isLetter) {
+        return inCapitals(letters(number));
+    }
+    if (kind == ListLevel::lowerLetter && isLetter) {
+        return letters(number);
+    }
+    if (kind == ListLevel::ordinal && number > 0) {
+        return ordinal(number);
+    }
+    return (kind == ListLevel::padded && number >= 0 && number < 10 ? "0" : "") + std::to_string(number);
+}
+
+void Lists::beginOverride()
+{
+    isOverride_ = true;
+    overrideId_ = 0;
+    overrideLevel_ = -1;
+    starts_.clear();
+}
+
+void Lists::setId(std::int32_t id)
+{
+    if (isOverride_) {
+        overrideId_ = id;
+    } else if (!lists_.empty()) {
+        lists_.back().id = id;
+    }
+}
+
+void Lists::setNumber(std::int32_t number)
+{
+    const auto list = std::ranges::find(lists_, overrideId_, &List::id);
+    if (isOverride_ && list != lists_.end() && number > 0 && number < mostLists) {
+        const auto index = static_cast<std::size_t>(list - lists_.begin());
+        uses_[static_cast<std::uint16_t>(number)] = {.list = index, .starts = std::move(starts_)};
+        starts_.clear();
+    }
+}
+
+void Lists::beginLevel()
+{
+    level_ = {};
+}
+
+void Lists::setStart(std::int32_t start)
+{
+    level_.start = start;
+    if (isOverride_ && overrideLevel_ >= 0 && overrideLevel_ < mostLevels) {
+        starts_.resize(static_cast<std::size_t>(overrideLevel_) + 1, std::numeric_limits<std::int32_t>::min());
+        starts_.back() = start;
+    }
+}
+
+/// The text begins with its own length, and ends with what some writers put behind it.
+void Lists::endLevel()
+{
+    if (isOverride_ || lists_.empty() || lists_.back().levels.size() == mostLevels) {
+        return;
+    }
+    std::string& text = level_.text;
+    if (!text.empty()) {
+        text.erase(0, 1);
+    }
+    if (text.ends_with(';')) {
+        text.pop_back();
+    }
+    lists_.back().levels.push_back(std::move(level_));
+    level_ = {};
+}
+
+void Lists::beginNumbering()
+{
+    level_ = {.follow = 0, .text = {}};
+    numberingLevel = 0;
+    before.clear();
+    after.clear();
+}
+
+/// Equal descriptions are one list.
+std::uint16_t Lists::endNumbering()
+{
+    level_.text
+        = level_.kind == ListLevel::none || level_.kind == ListLevel::bullet ? before + after : before + '\0' + after;
+    if (level_.kind == ListLevel::none && level_.text.empty()) {
+        return 0;
+    }
+    const auto isEqual = [&](const List& list) {
+        return list.isNumbering && list.id == numberingLevel && list.levels[0].kind == level_.kind
+            && list.levels[0].start == level_.start && list.levels[0].text == level_.text;
+    };
+    auto list = std::ranges::find_if(lists_, isEqual);
+    if (list == lists_.end()) {
+        if (lists_.size() == mostLists) {
+            return 0;
+        }
+        lists_.push_back({.id = numberingLevel, .levels = {std::move(level_)}, .numbers = {}, .isNumbering = true});
+        list = lists_.end() - 1;
+    }
+    const auto index = static_cast<std::uint16_t>(list - lists_.begin());
+    const auto number = static_cast<std::uint16_t>(firstNumbering + index);
+    uses_.try_emplace(number, Use{.list = index, .starts = {}});
+    return number;
+}
+
+const Lists::Use* Lists::useOf(std::uint16_t number) const
+{
+    const auto found = uses_.find(number);
+    return found == uses_.end() ? nullptr : &found->second;
+}
+
+const ListLevel* Lists::levelOf(const ParagraphFormat& paragraph) const
+{
+    const Use* const use = paragraph.list != 0 ? useOf(paragraph.list) : nullptr;
+    if (use == nullptr || lists_[use->list].levels.size() <= paragraph.listLevel) {
+        return nullptr;
+    }
+    return &lists_[use->list].levels[paragraph.listLevel];
+}
+
+/// Numbering of the paragraphs' own goes on where the last paragraph was of the same, or of one within it.
+bool Lists::continues(const List& list, std::uint16_t number, std::uint8_t depth) const
+{
+    if (list.numbers.size() <= depth) {
+        return false;
+    }
+    if (!list.isNumbering || previous_ == number) {
+        return true;
+    }
+    const Use* const previous = previous_ >= firstNumbering ? useOf(previous_) : nullptr;
+    return previous != nullptr && lists_[previous->list].id > list.id;
+}
+
+void Lists::count(List& list, Use& use, std::uint8_t depth)
+{
+    const bool startsAnew = !std::exchange(use.isBegun, true) && !use.starts.empty();
+    if (startsAnew) {
+        list.numbers.clear();
+    }
+    const auto startOf = [&](std::size_t level) {
+        const bool isSet = level < use.starts.size() && use.starts[level] != std::numeric_limits<std::int32_t>::min();
+        return isSet ? use.starts[level] : list.levels[level].start;
+    };
+    if (list.numbers.size() > depth) {
+        list.numbers.resize(depth + std::size_t{1});
+        list.numbers.back() = static_cast<std::int32_t>(static_cast<std::uint32_t>(list.numbers.back()) + 1U);
+        return;
+    }
+    while (list.numbers.size() <= depth) {
+        list.numbers.push_back(startOf(list.numbers.size()));
+    }
+}
+
+ListMarker Lists::nextMarker(const ParagraphFormat& item)
+{
+    const ListLevel* const level = levelOf(item);
+    if (level == nullptr) {
+        return {};
+    }
+    Use& use = uses_[item.list];
+    List& list = lists_[use.list];
+    if (list.isNumbering && !continues(list, item.list, item.listLevel)) {
+        list.numbers.clear();
+    }
+    count(list, use, item.listLevel);
+    ListMarker marker{.text = {}, .font = level->font};
+    for (const char byte : level->text) {
+        const auto place = static_cast<unsigned char>(byte);
+        if (place >= mostLevels) {
+            marker.text += byte;
+        } else if (place < list.numbers.size() && list.levels[place].kind != ListLevel::bullet) {
+            const std::int32_t kind = level->isLegal ? std::int32_t{ListLevel::decimal} : list.levels[place].kind;
+            marker.text += kind == ListLevel::none ? "" : numberText(list.numbers[place], kind);
+        }
+    }
+    if (!marker.text.empty() && level->follow < 2) {
+        marker.text += level->follow == 0 ? '\t' : ' ';
+    }
+    return marker;
+}
+
+} // namespace corvellane::rtf

@@ -1,0 +1,50 @@
+#include "rtf/Utf8.h"
+
+#include <algorithm>
+
+namespace corvellane::rtf {
+namespace {
+
+constexpr std::size_t fewestCharacters = 2;
+
+bool isAbove(char byte)
+{
+    return static_cast<unsigned char>(byte) >= 0x80;
+}
+
+/// The bytes of the character that begins there; 0 for none.
+std::size_t sequenceLength(std::string_view bytes)
+{
+    const auto at = [&](std::size_t place) { return static_cast<unsigned char>(bytes[place]); };
+    const unsigned lead = at(0);
+    const std::size_t length = lead < 0xC2 || lead > 0xF4 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    if (length == 0 || length > bytes.size()) {
+        return 0;
+    }
+    const unsigned second = at(1);
+    const unsigned least = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+    const unsigned most = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+    const auto rest = bytes.substr(2, length - 2);
+    const bool continues
+        = std::ranges::all_of(rest, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80; });
+    return second >= least && second <= most && continues ? length : 0;
+}
+
+} // namespace
+
+bool isUtf8Text(std::string_view bytes)
+{
+    std::size_t characters = 0;
+    for (const auto* next = std::ranges::find_if(bytes, isAbove); next != bytes.end();
+        next = std::find_if(next, bytes.end(), isAbove)) {
+        const std::size_t length = sequenceLength({next, bytes.end()});
+        if (length == 0) {
+            return false;
+        }
+        next += length;
+        ++characters;
+    }
+    return characters >= fewestCharacters;
+}
+
+} // namespace corvellane::rtf
