@@ -452,6 +452,10 @@ void Writer::makeEndnote()
 
 AttributedText Writer::take()
 {
+    // The outer group may itself have been a picture or a note.
+    if (!paragraphIsEmpty()) {
+        endParagraph();
+    }
     AttributedText text = builder_.take(fonts_);
     text.defaultTab = defaultTab;
     text.largerSpaceCounts = largerSpaceCounts;

@@ -60,6 +60,7 @@ TEST(RtfText, endsParagraphsAndLines)
         {" a\\page b\\par\\page c", "a\nb\nc\n"},
         {" a\\sect\\sectd b\\par\\sect\\sectd c", "a\nb\nc\n"},
         {" a\\u8233 ?b", "a\nb\n"},
+        {" a\\'0d\\'0ab", "a\u2028b\n"},
         {std::string(" a\tb\x01\0c\f", 8), "a\tbc\n"},
     });
 }
@@ -79,6 +80,37 @@ TEST(RtfText, decodesTheDocumentsCodePage)
         {"\\ansicpg932{\\info \x95\x5C\x83\x7D}a", "a\n"},
     });
     EXPECT_EQ(plainText("\\ansicpg932" + std::string(999, '\xB1')).size(), 999 * 3 + 1);
+}
+
+TEST(RtfText, readsUnicodeWhateverTheFileSaysOfItself)
+{
+    expectTexts({
+        {"\\ansi\\ansicpg1252 caf\xC3\xA9 \xC2\xA9\\'e9", "caf\u00E9 \u00A9\u00E9\n"},
+        {"\\ansi one \xC3\xA9", "one \u00C3\u00A9\n"},
+        {"\\ansi \xC3\xA9 \xC3\xA9 \xE9", "\u00C3\u00A9 \u00C3\u00A9 \u00E9\n"},
+        {"\\ansi \xE2\x82\xAC\xF0\x9F\x98\x80 {\\u233\xC3\xA9}x", "\u20AC\U0001F600 \u00E9x\n"},
+        {"\\ansi \xC0\xAF\xED\xA0\x80", "\u00C0\u00AF\u00ED\u00A0\u20AC\n"},
+    });
+    const std::u16string units = u"{\\rtf1 \u00E9\U0001F600\\par\u05D0}";
+    std::string little = "\xFF\xFE";
+    std::string big = "\xFE\xFF";
+    for (const char16_t unit : units) {
+        const auto low = static_cast<char>(unit & 0xFF);
+        const auto high = static_cast<char>(unit >> 8);
+        little.append({low, high});
+        big.append({high, low});
+    }
+    for (const std::string& bytes : {little, big}) {
+        EXPECT_EQ(agreementPlainText(read(bytes).value()), "\u00E9\U0001F600\n\u05D0\n");
+    }
+}
+
+TEST(RtfText, readsALoneLeadByteInTheDocumentsPage)
+{
+    expectTexts({
+        {"\\ansi\\ansicpg1252{\\fonttbl{\\f1\\fcharset128 A;}}\\f1 caf\\'e9 \\'83\\'7b", "caf\u00E9 \u30DC\n"},
+        {"\\ansi\\ansicpg932{\\fonttbl{\\f1\\fcharset136 A;}}\\f1 a\\'83 b", "a\uFFFD b\n"},
+    });
 }
 
 TEST(RtfText, boundsTheNumberOfTabStops)
