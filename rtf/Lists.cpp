@@ -10,6 +10,8 @@ namespace {
 
 /// Numbers of lists that paragraphs describe themselves lie above those of the tables.
 constexpr std::uint16_t firstNumbering = 0x8000;
+/// Where there are so many lists, no numbering of paragraphs' own is added to them.
+constexpr std::size_t mostNumberings = 512;
 constexpr std::int32_t mostRoman = 3999;
 constexpr std::int32_t mostLetters = 26 * 8;
 
@@ -119,9 +121,8 @@ void Lists::endLevel()
         return;
     }
     std::string& text = level_.text;
-    if (!text.empty()) {
-        text.erase(0, 1);
-    }
+    const auto continues = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80; };
+    text.erase(text.begin(), std::find_if_not(text.begin() + (text.empty() ? 0 : 1), text.end(), continues));
     if (text.ends_with(';')) {
         text.pop_back();
     }
@@ -151,7 +152,7 @@ std::uint16_t Lists::endNumbering()
     };
     auto list = std::ranges::find_if(lists_, isEqual);
     if (list == lists_.end()) {
-        if (lists_.size() == mostLists) {
+        if (lists_.size() >= mostNumberings) {
             return 0;
         }
         lists_.push_back({.id = numberingLevel, .levels = {std::move(level_)}, .numbers = {}, .isNumbering = true});

@@ -1,15 +1,27 @@
 #include "rtf/Utf8.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace corvellane::rtf {
 namespace {
 
 constexpr std::size_t fewestCharacters = 2;
 
-bool isAbove(char byte)
+/// Where the first byte above 0x7F stands, by the block: most text has none.
+const char* findAbove(const char* next, const char* end)
 {
-    return static_cast<unsigned char>(byte) >= 0x80;
+    constexpr std::uint64_t highBits = 0x8080808080808080U;
+    std::array<std::uint64_t, 4> block{};
+    for (; static_cast<std::size_t>(end - next) >= sizeof block; next += sizeof block) {
+        std::memcpy(block.data(), next, sizeof block);
+        if (((block[0] | block[1] | block[2] | block[3]) & highBits) != 0) {
+            break;
+        }
+    }
+    return std::find_if(next, end, [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; });
 }
 
 /// The bytes of the character that begins there; 0 for none.
@@ -34,10 +46,10 @@ std::size_t sequenceLength(std::string_view bytes)
 
 bool isUtf8Text(std::string_view bytes)
 {
+    const char* const end = bytes.data() + bytes.size();
     std::size_t characters = 0;
-    for (const auto* next = std::ranges::find_if(bytes, isAbove); next != bytes.end();
-        next = std::find_if(next, bytes.end(), isAbove)) {
-        const std::size_t length = sequenceLength({next, bytes.end()});
+    for (const char* next = findAbove(bytes.data(), end); next != end; next = findAbove(next, end)) {
+        const std::size_t length = sequenceLength({next, end});
         if (length == 0) {
             return false;
         }

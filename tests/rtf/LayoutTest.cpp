@@ -121,6 +121,17 @@ TEST(Lists, countWhatIsNotWritten)
     EXPECT_EQ(numberText(-3, ListLevel::upperRoman) + numberText(7, ListLevel::padded), "-307");
 }
 
+TEST(Lists, countAsManyItemsAsTheFileIsLong)
+{
+    const std::string list = R"({\rtf1{\*\listtable{\list{\listlevel{\leveltext\xFF\'00. or so;}}\listid1}})"
+                             R"({\*\listoverridetable{\listoverride\listid1\ls1}}\ls1 )";
+    std::string items;
+    for (int item = 0; item < 5000; ++item) {
+        items += "\\\n";
+    }
+    EXPECT_LE(read(list + items + "}").value().text.size(), 2 * (list.size() + items.size()));
+}
+
 TEST(Lists, giveTheirIndentsToItemsWithoutAny)
 {
     const AttributedText text = read(R"({\rtf1{\*\listtable{\list{\listlevel{\leveltext\'01-;}\fi-360\li720}\listid1}})"
