@@ -11,7 +11,9 @@
 #include <QTextTable>
 
 #include <algorithm>
+#include <cstddef>
 #include <span>
+#include <string_view>
 #include <vector>
 
 namespace corvellane::view {
@@ -46,6 +48,52 @@ bool haveOneFrame(const rtf::ParagraphFormat& one, const rtf::ParagraphFormat& o
         && one.rightIndent == other.rightIndent;
 }
 
+/// Around a table, in points.
+struct Space {
+    double above;
+    double below;
+};
+
+/// What fills the space of each tab in a paragraph's text. Where each of them stops is known only when it is laid out:
+/// the last tab is taken to reach the last stop, and so on backwards.
+std::vector<rtf::TabLeader> leadersOf(
+    const rtf::AttributedText& text, const rtf::ParagraphFormat& format, std::string_view characters)
+{
+    std::vector<rtf::TabStop> stops = text.tabsOf(format);
+    if (std::ranges::all_of(stops, [](const auto& stop) { return stop.leader == rtf::TabLeader::none; })) {
+        return {};
+    }
+    std::ranges::sort(stops, {}, &rtf::TabStop::position);
+    std::vector<rtf::TabLeader> leaders(static_cast<std::size_t>(std::ranges::count(characters, '\t')));
+    const std::size_t count = std::min(leaders.size(), stops.size());
+    std::transform(stops.end() - static_cast<std::ptrdiff_t>(count), stops.end(),
+        leaders.end() - static_cast<std::ptrdiff_t>(count), [](const auto& stop) { return stop.leader; });
+    return leaders;
+}
+
+QTextCharFormat::UnderlineStyle styleOf(rtf::TabLeader leader)
+{
+    switch (leader) {
+    case rtf::TabLeader::none:
+        return QTextCharFormat::NoUnderline;
+    case rtf::TabLeader::dots:
+        return QTextCharFormat::DotLine;
+    case rtf::TabLeader::hyphens:
+        return QTextCharFormat::DashUnderline;
+    case rtf::TabLeader::line:
+        return QTextCharFormat::SingleUnderline;
+    }
+    return QTextCharFormat::NoUnderline;
+}
+
+/// A cell's format is that of its first paragraph's end too.
+void addFormat(QTextTableCell cell, const QTextTableCellFormat& added)
+{
+    QTextCharFormat format = cell.format();
+    format.merge(added);
+    cell.setFormat(format);
+}
+
 /// Writes blocks of a text into a document, one after the other.
 class Filler {
 public:
@@ -70,11 +118,14 @@ private:
 
     void fillBlocks(Blocks blocks);
     std::size_t framedTogether(Blocks blocks) const;
-    void insertFrame(Blocks blocks, double above, double below);
-    void insertParagraph(const rtf::Block& block, double above, double below, bool isFramed);
+    void insertFrame(Blocks blocks, const Space& space);
+    void insertParagraph(const rtf::Block& block, double above, bool isFramed);
     void insertRun(const rtf::Run& run);
-    void insertRows(const rtf::Block& table);
-    void fillTable(const rtf::Block& table, const TableGrid& grid);
+    void insertText(std::string_view characters, const QTextCharFormat& format);
+    void insertTab(QTextCharFormat format);
+    void insertRows(const rtf::Block& table, const Space& space);
+    void fillTable(const rtf::Block& table, const TableGrid& grid, const Space& space);
+    QTextTableCellFormat cellFormatWithSpace(const GridCell& place, const TableGrid& grid) const;
     QTextTable* insertTable(int rows, int columns, const QTextTableFormat& format);
     void leaveTable(const QTextTable& table);
 
@@ -85,6 +136,9 @@ private:
     /// The cursor stands in a paragraph that is there by itself: at the beginning, in a new cell or behind a table.
     bool isUnused_ = true;
     bool isEmpty_ = true;
+    /// What fills the tabs of the paragraph that is being written, where any is filled.
+    std::vector<rtf::TabLeader> leaders_;
+    std::size_t nextTab_ = 0;
 };
 
 void Filler::fill()
@@ -100,27 +154,29 @@ const rtf::ParagraphFormat* Filler::formatAt(Blocks blocks, std::size_t index) c
     return index < blocks.size() && blocks[index].rows.empty() ? &formatOf(blocks[index]) : nullptr;
 }
 
-/// In a cell there is space above the first paragraph and below the last, in the document there is none.
+/// Qt gives no space to a paragraph next to a table: what stands in one has all of it.
 void Filler::fillBlocks(Blocks blocks)
 {
+    const auto spaceAbove = [&](std::size_t index) {
+        const bool isBetween = index != 0 && index < blocks.size();
+        return isBetween ? spaceBetween(text_, formatAt(blocks, index - 1), formatAt(blocks, index)) : 0;
+    };
+    bool followsTable = false;
     for (std::size_t index = 0; index < blocks.size();) {
         const rtf::Block& block = blocks[index];
-        if (!block.rows.empty()) {
-            insertRows(block);
-            ++index;
-            continue;
-        }
-        const bool isFirst = index == 0 && cursor_.currentTable() == nullptr;
-        const double above = isFirst ? 0 : spaceBetween(text_, formatAt(blocks, index - 1), &formatOf(block));
-        const std::size_t count = isFramed(formatOf(block)) ? framedTogether(blocks.subspan(index)) : 1;
-        const bool belowIsParagraph = formatAt(blocks, index + count) != nullptr;
-        const double below = belowIsParagraph ? 0 : spaceBetween(text_, &formatOf(blocks[index + count - 1]), nullptr);
-        if (isFramed(formatOf(block))) {
-            insertFrame(blocks.subspan(index, count), above, below);
+        const bool isTable = !block.rows.empty();
+        const bool hasFrame = !isTable && isFramed(formatOf(block));
+        const std::size_t end = index + (hasFrame ? framedTogether(blocks.subspan(index)) : 1);
+        const Space space{.above = followsTable ? 0 : spaceAbove(index), .below = spaceAbove(end)};
+        if (isTable) {
+            insertRows(block, space);
+        } else if (hasFrame) {
+            insertFrame(blocks.subspan(index, end - index), space);
         } else {
-            insertParagraph(block, above, below, false);
+            insertParagraph(block, space.above, false);
         }
-        index += count;
+        followsTable = isTable || hasFrame;
+        index = end;
     }
 }
 
@@ -132,24 +188,25 @@ std::size_t Filler::framedTogether(Blocks blocks) const
     return static_cast<std::size_t>(std::ranges::find_if(blocks, isOther) - blocks.begin());
 }
 
-void Filler::insertFrame(Blocks blocks, double above, double below)
+void Filler::insertFrame(Blocks blocks, const Space& space)
 {
     const Indents indents = indentsOf(formatOf(blocks[0]));
     QTextTableFormat format = frameFormat();
     format.setLeftMargin(indents.left + std::min(0.0, indents.firstLine));
     format.setRightMargin(indents.right);
-    format.setTopMargin(above);
-    format.setBottomMargin(below);
+    format.setTopMargin(space.above);
+    format.setBottomMargin(space.below);
     QTextTable* const frame = insertTable(1, 1, format);
-    frame->cellAt(0, 0).setFormat(frameCellFormatFor(formatOf(blocks[0])));
     for (std::size_t index = 0; index < blocks.size(); ++index) {
-        const double space = index == 0 ? 0 : spaceBetween(text_, formatAt(blocks, index - 1), formatAt(blocks, index));
-        insertParagraph(blocks[index], space, 0, true);
+        const bool isFirst = index == 0;
+        insertParagraph(blocks[index],
+            isFirst ? 0 : spaceBetween(text_, formatAt(blocks, index - 1), formatAt(blocks, index)), true);
     }
+    addFormat(frame->cellAt(0, 0), frameCellFormatFor(formatOf(blocks[0])));
     leaveTable(*frame);
 }
 
-void Filler::insertParagraph(const rtf::Block& block, double above, double below, bool isFramed)
+void Filler::insertParagraph(const rtf::Block& block, double above, bool isFramed)
 {
     const rtf::ParagraphFormat& format = formatOf(block);
     Indents indents = indentsOf(format);
@@ -158,15 +215,18 @@ void Filler::insertParagraph(const rtf::Block& block, double above, double below
     }
     QTextBlockFormat blockFormat = blockFormatFor(text_, format, indents);
     blockFormat.setTopMargin(above);
-    blockFormat.setBottomMargin(below);
     const QTextCharFormat& endFormat = formats_[block.paragraph.endAttributes];
     if (isUnused_) {
         cursor_.setBlockFormat(blockFormat);
-        // A new cell's format is that of its first paragraph's end.
+        // A cell's format has what is merged in it.
         cursor_.mergeBlockCharFormat(endFormat);
     } else {
         cursor_.insertBlock(blockFormat, endFormat);
     }
+    const std::string_view characters
+        = std::string_view(text_.text).substr(block.paragraph.begin, block.paragraph.end - block.paragraph.begin);
+    leaders_ = leadersOf(text_, format, characters);
+    nextTab_ = 0;
     for (const rtf::Run& run : text_.runsOf(block.paragraph)) {
         insertRun(run);
     }
@@ -177,20 +237,45 @@ void Filler::insertParagraph(const rtf::Block& block, double above, double below
 void Filler::insertRun(const rtf::Run& run)
 {
     const std::uint32_t picture = text_.attributes[run.attributes].picture;
-    if (picture == 0) {
-        const auto length = static_cast<qsizetype>(run.text.size());
-        cursor_.insertText(QString::fromUtf8(run.text.data(), length), formats_[run.attributes]);
-    } else if (const auto image = addPicture(document_, text_.pictures[picture - 1])) {
-        cursor_.insertImage(*image);
+    if (picture != 0) {
+        if (const auto image = addPicture(document_, text_.pictures[picture - 1])) {
+            cursor_.insertImage(*image);
+        }
+        return;
+    }
+    const QTextCharFormat& format = formats_[run.attributes];
+    std::string_view rest = run.text;
+    while (!leaders_.empty() && rest.find('\t') != std::string_view::npos) {
+        insertText(rest.substr(0, rest.find('\t')), format);
+        insertTab(format);
+        rest.remove_prefix(rest.find('\t') + 1);
+    }
+    insertText(rest, format);
+}
+
+void Filler::insertText(std::string_view characters, const QTextCharFormat& format)
+{
+    if (!characters.empty()) {
+        cursor_.insertText(QString::fromUtf8(characters.data(), static_cast<qsizetype>(characters.size())), format);
     }
 }
 
+/// What fills the space of a tab is drawn as its underline.
+void Filler::insertTab(QTextCharFormat format)
+{
+    const rtf::TabLeader leader = leaders_.at(nextTab_++);
+    if (leader != rtf::TabLeader::none) {
+        format.setUnderlineStyle(styleOf(leader));
+    }
+    cursor_.insertText(QStringLiteral("\t"), format);
+}
+
 /// A table of more places than a window can show is shown as the paragraphs in it.
-void Filler::insertRows(const rtf::Block& table)
+void Filler::insertRows(const rtf::Block& table, const Space& space)
 {
     const TableGrid grid = gridOf(table.rows);
     if (grid.columns.size() * table.rows.size() <= mostGridCells) {
-        fillTable(table, grid);
+        fillTable(table, grid, space);
         return;
     }
     for (const rtf::TableRow& row : table.rows) {
@@ -200,23 +285,33 @@ void Filler::insertRows(const rtf::Block& table)
     }
 }
 
-void Filler::fillTable(const rtf::Block& table, const TableGrid& grid)
+void Filler::fillTable(const rtf::Block& table, const TableGrid& grid, const Space& space)
 {
-    const auto columns = static_cast<int>(grid.columns.size());
-    QTextTable* const inserted = insertTable(grid.rows, columns, tableFormatFor(grid, table.rows[0].format));
+    QTextTableFormat format = tableFormatFor(grid, table.rows[0].format);
+    format.setTopMargin(space.above);
+    format.setBottomMargin(space.below);
+    QTextTable* const inserted = insertTable(grid.rows, static_cast<int>(grid.columns.size()), format);
     for (const GridCell& place : grid.cells) {
         if (place.rows > 1 || place.columns > 1) {
             inserted->mergeCells(place.firstRow, place.firstColumn, place.rows, place.columns);
         }
-        QTextTableCell cell = inserted->cellAt(place.firstRow, place.firstColumn);
-        QTextCharFormat format = cell.format();
-        format.merge(cellFormatFor(place, grid.rows, columns));
-        cell.setFormat(format);
+        const QTextTableCell cell = inserted->cellAt(place.firstRow, place.firstColumn);
         cursor_ = cell.firstCursorPosition();
         isUnused_ = true;
         fillBlocks(place.cell->blocks);
+        addFormat(cell, cellFormatWithSpace(place, grid));
     }
     leaveTable(*inserted);
+}
+
+/// The space above a cell's first paragraph and below its last is within the cell.
+QTextTableCellFormat Filler::cellFormatWithSpace(const GridCell& place, const TableGrid& grid) const
+{
+    const Blocks blocks = place.cell->blocks;
+    QTextTableCellFormat format = cellFormatFor(place, grid.rows, static_cast<int>(grid.columns.size()));
+    format.setTopPadding(format.topPadding() + spaceBetween(text_, nullptr, formatAt(blocks, 0)));
+    format.setBottomPadding(format.bottomPadding() + spaceBetween(text_, formatAt(blocks, blocks.size() - 1), nullptr));
+    return format;
 }
 
 /// Qt hides an empty paragraph before a table, and behind one.

@@ -1,14 +1,16 @@
+#include "view/qt/RichTextDocument.h"
 #include "rtf/Reader.h"
 #include "view/qt/FontSubstitutes.h"
-#include "view/qt/RichTextDocument.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
+#include <QBuffer>
 #include <QPainter>
 #include <QRawFont>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextLayout>
+#include <QTextTable>
 
 #include <gtest/gtest.h>
 
@@ -68,6 +70,11 @@ TEST(RichTextDocument, carriesEveryStyleOfARun)
         {R"(\b x)", [](Format f) { return f.font().bold(); }},
         {R"(\i x)", [](Format f) { return f.fontItalic(); }},
         {R"(\ul x)", [](Format f) { return f.fontUnderline(); }},
+        {R"(\uldb x)", [](Format f) { return f.fontUnderline(); }},
+        {R"(\ulwave x)", [](Format f) { return f.underlineStyle() == QTextCharFormat::WaveUnderline; }},
+        {R"(\uldash x)", [](Format f) { return f.underlineStyle() == QTextCharFormat::DashUnderline; }},
+        {R"(\expndtw40 x)", [](Format f) { return f.font().letterSpacing() == 2; }},
+        {R"(\tqr\tldot\tx4000\tab x)", [](Format f) { return f.underlineStyle() == QTextCharFormat::DotLine; }},
         {R"(\strike x)", [](Format f) { return f.fontStrikeOut(); }},
         {R"(\super x)", [](Format f) { return f.verticalAlignment() == QTextCharFormat::AlignSuperScript; }},
         {R"(\sub x)", [](Format f) { return f.verticalAlignment() == QTextCharFormat::AlignSubScript; }},
@@ -130,6 +137,9 @@ TEST(RichTextDocument, putsTextWhereItsParagraphSays)
         {R"(\li90000\ri90000 abc)", 0, 240},
         {R"(\ql\u1488?\u1489?\u1490?)", 3, 0},
         {R"(\u1488?\u1489?\u1490?)", 0, 400},
+        {R"(\ltrpar\u1488?\u1489?\u1490?)", 3, 0},
+        {R"(\rtlpar abc)", 3, 400},
+        {R"(\deftab1000\tab abc)", 1, 50},
     };
     for (const auto& [body, position, place] : rows) {
         EXPECT_NEAR(placeOf(documentOf(body)->firstBlock(), position), place, 1) << body;
@@ -149,10 +159,102 @@ TEST(RichTextDocument, spacesParagraphsAndLines)
         {R"(\sl-160\slmult0 a\par\pard b)", 8},
         {R"(\sl480\slmult1 a\par\pard b)", 2 * line},
         {R"(a\page b)", line + 24},
+        {R"(\htmautsp\sa200 a\par\sb100 b)", line + 10},
+        {R"(\sa200 a\par\sbauto1 b)", line + 14},
+        {R"(\ls1\sbauto1\saauto1 a\par b)", line},
+        {R"(\s1\sa200\sb100\contextualspace a\par b)", line},
+        {R"(\s1\sa200\contextualspace a\par\s2 b)", line + 10},
+        {R"(\sa200 a\par\pard\trowd\cellx2000\intbl c\cell\row\pard\sb100 b)", 2 * line + 17},
+        {R"(a\par\trowd\cellx2000\sb100\sa200\intbl c\cell\row\pard b)", 2 * line + 17},
     };
     for (const auto& [body, top] : rows) {
         EXPECT_NEAR(topOf(documentOf(body)->lastBlock()), top, 1.5) << body;
     }
+}
+
+/// The first table of the document; null where there is none.
+QTextTable* tableOf(const QTextDocument& document)
+{
+    const QList<QTextFrame*> frames = document.rootFrame()->childFrames();
+    return frames.isEmpty() ? nullptr : qobject_cast<QTextTable*>(frames.first());
+}
+
+QString textOf(const QTextTableCell& cell)
+{
+    QTextCursor cursor = cell.firstCursorPosition();
+    cursor.setPosition(cell.lastCursorPosition().position(), QTextCursor::KeepAnchor);
+    return cursor.selectedText();
+}
+
+TEST(RichTextDocument, showsTablesAsTheirAuthorDividedThem)
+{
+    const auto document
+        = documentOf(R"(\trowd\trgaph100\clcbpat2\clbrdrb\brdrdb\brdrw40\brdrcf1\clvmgf\cellx1000\cellx3000)"
+                     R"(\pard\intbl a\cell\qr b\cell\row)"
+                     R"(\trowd\clvmrg\cellx1000\clvertalc\cellx2000\cellx3000)"
+                     R"(\pard\intbl\cell c\cell d\par e\cell\row\pard after)");
+    const QTextTable* const table = tableOf(*document);
+    ASSERT_NE(table, nullptr);
+    EXPECT_EQ(table->rows(), 2);
+    EXPECT_EQ(table->columns(), 3);
+    const QTextTableCell first = table->cellAt(0, 0);
+    EXPECT_EQ(first.rowSpan(), 2);
+    EXPECT_EQ(textOf(first), "a");
+    const QTextTableCellFormat look = first.format().toTableCellFormat();
+    EXPECT_EQ(look.background().color(), QColor(255, 255, 0));
+    EXPECT_EQ(look.bottomBorder(), 3);
+    EXPECT_EQ(look.bottomBorderStyle(), QTextFrameFormat::BorderStyle_Double);
+    EXPECT_EQ(look.bottomBorderBrush().color(), QColor(200, 10, 20));
+    EXPECT_EQ(look.topBorder(), 0);
+    EXPECT_EQ(look.leftPadding(), 5);
+    EXPECT_EQ(table->cellAt(0, 1).columnSpan(), 2);
+    EXPECT_EQ(table->cellAt(1, 1).format().verticalAlignment(), QTextCharFormat::AlignMiddle);
+    EXPECT_EQ(textOf(table->cellAt(1, 2)), QString("d\u2029") + "e");
+    EXPECT_EQ(document->lastBlock().text(), "after");
+}
+
+TEST(RichTextDocument, makesNoTableWiderThanThePage)
+{
+    const auto widthOf = [](const std::string& body) {
+        const auto document = documentOf(body);
+        return document->documentLayout()->frameBoundingRect(tableOf(*document)).width();
+    };
+    EXPECT_NEAR(widthOf(R"(\trowd\cellx2000\pard\intbl a\cell\row)"), 100, 1);
+    EXPECT_NEAR(widthOf(R"(\trowd\cellx15000\cellx30000\pard\intbl a\cell b\cell\row)"), 400, 1);
+    std::string many = "\\trowd";
+    for (int cell = 1; cell < 100; ++cell) {
+        many += "\\cellx" + std::to_string(cell * 100) + " ";
+    }
+    EXPECT_LE(widthOf(many + "\\pard\\intbl a\\cell\\row"), 401);
+}
+
+TEST(RichTextDocument, framesParagraphsOfTheSameBordersTogether)
+{
+    const auto document = documentOf(R"(a\par\box\brdrs\brdrw20\brsp80\cbpat2 b\par c\par\pard d\par\brdrb\brdrs\par)");
+    ASSERT_EQ(document->rootFrame()->childFrames().size(), 2);
+    const QTextTableCell box = tableOf(*document)->cellAt(0, 0);
+    EXPECT_EQ(textOf(box), QString("b\u2029") + "c");
+    EXPECT_EQ(box.format().toTableCellFormat().rightBorder(), 1);
+    EXPECT_EQ(box.format().toTableCellFormat().leftPadding(), 4);
+    EXPECT_EQ(box.format().background().color(), QColor(255, 255, 0));
+}
+
+TEST(RichTextDocument, showsPicturesAtTheSizeOfTheFile)
+{
+    QByteArray dot;
+    QBuffer buffer(&dot);
+    QImage(1, 1, QImage::Format_RGB32).save(&buffer, "png");
+    const auto imageOf = [&](const std::string& words) {
+        const QTextFragment fragment = documentOf("{\\pict\\pngblip" + words + " " + dot.toHex().toStdString() + "}")
+                                           ->firstBlock()
+                                           .begin()
+                                           .fragment();
+        return fragment.isValid() ? fragment.charFormat().toImageFormat() : QTextImageFormat();
+    };
+    EXPECT_EQ(imageOf("\\picwgoal400\\pichgoal200").width(), 20);
+    EXPECT_EQ(imageOf("\\picwgoal400\\pichgoal200").height(), 10);
+    EXPECT_EQ(imageOf("\\picwgoal16000\\pichgoal200").width(), 400);
+    EXPECT_EQ(imageOf("").width(), 0.75);
 }
 
 TEST(FontSubstitutes, offersWhatLooksLikeTheAuthorsFamily)
@@ -166,14 +268,28 @@ TEST(FontSubstitutes, offersWhatLooksLikeTheAuthorsFamily)
         {"Unheard Serif", "Liberation Serif"},
         {"Unheard Sans Serif", "Liberation Sans"},
         {"Unheard Mono", "DejaVu Sans Mono"},
-        {"ヒラギノ角ゴ", "Liberation Sans"},
+        {"ヒラギノ角ゴ", "Noto Sans CJK JP"},
+        {"宋体", "Noto Serif CJK SC"},
+        {"黑体", "Noto Sans CJK SC"},
+        {"ＭＳ 明朝", "Noto Serif CJK JP"},
+        {"바탕", "Noto Serif CJK KR"},
+        {"HiraKakuProN", "Noto Sans CJK JP"},
+        {"STSong", "Noto Serif CJK SC"},
     };
     for (const auto& [family, substitute] : rows) {
         const rtf::FontFamily named{.name = family, .alternative = {}};
         EXPECT_EQ(substitutesFor(named).first().toStdString(), family);
         EXPECT_TRUE(substitutesFor(named).contains(substitute)) << family;
     }
-    EXPECT_EQ(substitutesFor({.name = "Symbol", .alternative = {}}).first(), "DejaVu Sans") << "its own letters stand in other places";
+    const rtf::FontFamily named{.name = "Unheard", .alternative = "Georgia", .kind = rtf::FontClass::sans};
+    EXPECT_EQ(substitutesFor(named).mid(0, 3), QStringList({"Unheard", "Georgia", "Gelasio"}));
+    const rtf::FontFamily ofClass{.name = "Unheard", .alternative = {}, .kind = rtf::FontClass::fixed};
+    EXPECT_EQ(substitutesFor(ofClass).at(1), "Liberation Mono");
+    const rtf::FontFamily korean{
+        .name = "Unheard", .alternative = {}, .kind = rtf::FontClass::serif, .language = rtf::FontLanguage::korean};
+    EXPECT_EQ(substitutesFor(korean).at(1), "Noto Serif CJK KR");
+    EXPECT_EQ(substitutesFor({.name = "Symbol", .alternative = {}}).first(), "DejaVu Sans")
+        << "its own letters stand in other places";
     EXPECT_EQ(substitutesFor({.name = {}, .alternative = {}}).first(), "Liberation Sans");
 }
 
