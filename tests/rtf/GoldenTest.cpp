@@ -20,7 +20,7 @@ TEST(RtfGolden, readsEveryFileAsWritten)
             ++files;
         }
     }
-    EXPECT_EQ(files, 15);
+    EXPECT_EQ(files, 22);
 }
 
 TEST(SampleAgreement, isReadWithEverythingItsAuthorPutIn)
