@@ -61,5 +61,10 @@ int main()
     corvellane::report("multiByte", corvellane::multiByteSample);
     corvellane::report("rawMultiByte", corvellane::rawMultiByteSample);
     corvellane::report("list", corvellane::listSample);
+    corvellane::report("table", corvellane::tableSample);
+    corvellane::report("emptyLines", corvellane::emptyLines);
+    corvellane::report("fontEntries", corvellane::fontEntries);
+    corvellane::report("differentLooks", corvellane::differentLooks);
+    corvellane::report("changingLooks", corvellane::changingLooks);
     return 0;
 }

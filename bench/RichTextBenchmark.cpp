@@ -11,8 +11,9 @@
 
 #include <memory>
 
-// An agreement of 50 KB in a viewer as large as the wizard's page: from the text to the first picture, and to the end
-// of the layout, which goes on in the background; beside a bare QTextEdit that is handed the finished document.
+// An agreement of 50 KB, or a table of that size, in a viewer as large as the wizard's page: from the text to the first
+// picture, and to the end of the layout, which goes on in the background; beside a bare QTextEdit that is handed the
+// finished document.
 
 namespace corvellane {
 
@@ -22,10 +23,13 @@ namespace {
 constexpr std::size_t agreementSize = 50'000;
 constexpr QSize pageSize(448, 290);
 
-const rtf::AttributedText& agreement()
+enum Content { paragraphs, table };
+
+const rtf::AttributedText& agreement(std::int64_t content)
 {
-    static const rtf::AttributedText text = rtf::read(agreementSample(agreementSize)).value();
-    return text;
+    static const rtf::AttributedText plain = rtf::read(agreementSample(agreementSize)).value();
+    static const rtf::AttributedText rows = rtf::read(tableSample(agreementSize)).value();
+    return content == table ? rows : plain;
 }
 
 enum Extent { firstPicture, wholeLayout };
@@ -43,7 +47,7 @@ void show(QWidget& viewer, std::int64_t extent)
 void viewerOfText(benchmark::State& state)
 {
     for (auto step : state) {
-        const std::unique_ptr<QWidget> viewer(makeRichTextViewer(agreement(), nullptr));
+        const std::unique_ptr<QWidget> viewer(makeRichTextViewer(agreement(state.range(1)), nullptr));
         show(*viewer, state.range(0));
     }
 }
@@ -53,7 +57,7 @@ void bareEditOfDocument(benchmark::State& state)
     for (auto step : state) {
         state.PauseTiming();
         auto document = std::make_unique<QTextDocument>();
-        fillTextDocument(*document, agreement());
+        fillTextDocument(*document, agreement(state.range(1)));
         state.ResumeTiming();
         QTextEdit edit;
         edit.setDocument(document.get());
@@ -61,8 +65,10 @@ void bareEditOfDocument(benchmark::State& state)
     }
 }
 
-BENCHMARK(viewerOfText)->Arg(firstPicture)->Arg(wholeLayout)->Unit(benchmark::kMillisecond);
-BENCHMARK(bareEditOfDocument)->Arg(firstPicture)->Arg(wholeLayout)->Unit(benchmark::kMillisecond);
+BENCHMARK(viewerOfText)->ArgsProduct({{firstPicture, wholeLayout}, {paragraphs, table}})->Unit(benchmark::kMillisecond);
+BENCHMARK(bareEditOfDocument)
+    ->ArgsProduct({{firstPicture, wholeLayout}, {paragraphs, table}})
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace corvellane

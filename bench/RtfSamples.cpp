@@ -22,6 +22,19 @@ constexpr std::string_view listItem
     = "\\pard\\tx220\\tx720\\tx1133\\tx1700\\li720\\fi-720\\pardirnatural\\partightenfactor0\n"
       "\\ls1\\ilvl0\\cf0 {\\listtext\t\\uc0\\u8226 \t}Each \\b seat\\b0  needs its own licence.\\\n";
 
+constexpr std::string_view borders = "\\clbrdrt\\brdrs\\brdrw10\\clbrdrl\\brdrs\\brdrw10\\clbrdrb\\brdrs\\brdrw10"
+                                     "\\clbrdrr\\brdrs\\brdrw10";
+
+/// What `part` gives for one number after the other.
+template <typename Part>
+std::string numbered(std::string text, std::size_t size, Part part)
+{
+    for (int number = 0; text.size() < size; ++number) {
+        text += part(std::to_string(number));
+    }
+    return text + "}";
+}
+
 std::string repeated(std::string text, std::string_view body, std::size_t size)
 {
     text.reserve(size + body.size() + 1);
@@ -81,6 +94,36 @@ std::string listSample(std::size_t size)
     const std::string head = "{\\rtf1\\ansi\\ansicpg1252\\cocoartf2639{\\fonttbl\\f0\\fswiss\\fcharset0 Helvetica;}"
                              "{\\colortbl;\\red255\\green255\\blue255;}\\f0\\fs24\n";
     return repeated(head, listItem, size);
+}
+
+std::string tableSample(std::size_t size)
+{
+    std::string row = "\\trowd\\trgaph108";
+    for (const char* const edge : {"3000", "6000", "9000"}) {
+        row.append(borders).append("\\cellx").append(edge);
+    }
+    row += "\\pard\\intbl Seat licence for one user\\cell\\qc 12\\cell\\qr 1,204.00\\cell\\row\n";
+    return repeated("{\\rtf1\\ansi{\\fonttbl\\f0\\fswiss Helvetica;}\\f0\\fs24\n", row, size);
+}
+
+std::string emptyLines(std::size_t size)
+{
+    return repeated("{\\rtf1 ", "\\\n", size);
+}
+
+std::string fontEntries(std::size_t size)
+{
+    return numbered("{\\rtf1{\\fonttbl", size, [](const std::string& n) { return "{\\f" + n + " A" + n + ";}"; }) + "}";
+}
+
+std::string differentLooks(std::size_t size)
+{
+    return numbered("{\\rtf1 ", size, [](const std::string& n) { return "\\up" + n + " a"; });
+}
+
+std::string changingLooks(std::size_t size)
+{
+    return repeated("{\\rtf1 ", "\\b a\\b0\\ql\\\n\\qr\\\n", size);
 }
 
 std::size_t scanForControls(std::string_view bytes)

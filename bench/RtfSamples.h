@@ -18,6 +18,16 @@ std::string rawMultiByteSample(std::size_t size);
 /// Short list items of about `size` bytes in all, each with its marker, tab stops and changes of style.
 std::string listSample(std::size_t size);
 
+/// Rows of a table with borders, three cells each, of about `size` bytes in all.
+std::string tableSample(std::size_t size);
+
+/// What takes the least bytes to ask for the most: empty lines, entries of the font table, looks that never come again,
+/// and looks and formats that change with every character.
+std::string emptyLines(std::size_t size);
+std::string fontEntries(std::size_t size);
+std::string differentLooks(std::size_t size);
+std::string changingLooks(std::size_t size);
+
 /// How many backslashes and braces there are: one memchr scan of all bytes for each of the three.
 std::size_t scanForControls(std::string_view bytes);
 

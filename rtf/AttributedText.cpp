@@ -1,6 +1,7 @@
 #include "rtf/AttributedText.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 
 namespace corvellane::rtf {
@@ -42,7 +43,8 @@ LineHeight ParagraphFormat::lineHeight() const
 
 std::vector<Paragraph> AttributedText::paragraphs() const
 {
-    constexpr char marks[] = {mark::paragraph, mark::cell, mark::row, '\0'};
+    static constexpr std::array all{mark::paragraph, mark::cell, mark::row};
+    constexpr std::string_view marks(all.data(), all.size());
     std::vector<Paragraph> result;
     Paragraph next;
     std::uint32_t format = 0;

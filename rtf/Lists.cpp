@@ -1,6 +1,7 @@
 #include "rtf/Lists.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <string_view>
 #include <utility>
@@ -17,9 +18,21 @@ constexpr std::int32_t mostLetters = 26 * 8;
 
 std::string roman(std::int32_t number)
 {
-    static constexpr std::pair<std::int32_t, std::string_view> digits[]
-        = {{1000, "m"}, {900, "cm"}, {500, "d"}, {400, "cd"}, {100, "c"}, {90, "xc"}, {50, "l"}, {40, "xl"}, {10, "x"},
-            {9, "ix"}, {5, "v"}, {4, "iv"}, {1, "i"}};
+    static constexpr auto digits = std::to_array<std::pair<std::int32_t, std::string_view>>({
+        {1000, "m"},
+        {900, "cm"},
+        {500, "d"},
+        {400, "cd"},
+        {100, "c"},
+        {90, "xc"},
+        {50, "l"},
+        {40, "xl"},
+        {10, "x"},
+        {9, "ix"},
+        {5, "v"},
+        {4, "iv"},
+        {1, "i"},
+    });
     std::string text;
     for (const auto& [value, digit] : digits) {
         for (; number >= value; number -= value) {
@@ -32,8 +45,9 @@ std::string roman(std::int32_t number)
 /// After z comes aa, then bb.
 std::string letters(std::int32_t number)
 {
-    const auto count = static_cast<std::size_t>((number - 1) / 26) + 1;
-    return std::string(count, static_cast<char>('a' + ((number - 1) % 26)));
+    std::string text;
+    text.append(static_cast<std::size_t>((number - 1) / 26) + 1, static_cast<char>('a' + ((number - 1) % 26)));
+    return text;
 }
 
 std::string inCapitals(std::string text)
@@ -44,9 +58,10 @@ std::string inCapitals(std::string text)
 
 std::string ordinal(std::int32_t number)
 {
-    const std::int32_t last = number % 100 / 10 == 1 ? 0 : number % 10;
-    const char* const ending = last == 1 ? "st" : last == 2 ? "nd" : last == 3 ? "rd" : "th";
-    return std::to_string(number) + ending;
+    static constexpr std::array<const char*, 4> endings{"th", "st", "nd", "rd"};
+    const auto last = static_cast<std::size_t>(number % 10);
+    const bool isTeen = number % 100 / 10 == 1;
+    return std::to_string(number) + (isTeen || last >= endings.size() ? endings[0] : endings.at(last));
 }
 
 } // namespace
@@ -71,6 +86,16 @@ std::string numberText(std::int32_t number, std::int32_t kind)
         return ordinal(number);
     }
     return (kind == ListLevel::padded && number >= 0 && number < 10 ? "0" : "") + std::to_string(number);
+}
+
+void Lists::beginList()
+{
+    isOverride_ = false;
+    if (lists_.size() < mostLists) {
+        lists_.emplace_back();
+    } else {
+        lists_.back() = {};
+    }
 }
 
 void Lists::beginOverride()
@@ -212,6 +237,23 @@ void Lists::count(List& list, Use& use, std::uint8_t depth)
     }
 }
 
+/// The text before an item of the level, with the numbers that the list has come to.
+std::string Lists::textOf(const ListLevel& level, const List& list)
+{
+    std::string text;
+    for (const char byte : level.text) {
+        const auto place = static_cast<unsigned char>(byte);
+        if (place >= mostLevels) {
+            text += byte;
+        } else if (place < list.numbers.size()) {
+            const std::int32_t kind = list.levels[place].kind;
+            const bool isCounted = kind != ListLevel::bullet && kind != ListLevel::none;
+            text += isCounted ? numberText(list.numbers[place], level.isLegal ? ListLevel::decimal : kind) : "";
+        }
+    }
+    return text;
+}
+
 ListMarker Lists::nextMarker(const ParagraphFormat& item)
 {
     const ListLevel* const level = levelOf(item);
@@ -224,16 +266,7 @@ ListMarker Lists::nextMarker(const ParagraphFormat& item)
         list.numbers.clear();
     }
     count(list, use, item.listLevel);
-    ListMarker marker{.text = {}, .font = level->font};
-    for (const char byte : level->text) {
-        const auto place = static_cast<unsigned char>(byte);
-        if (place >= mostLevels) {
-            marker.text += byte;
-        } else if (place < list.numbers.size() && list.levels[place].kind != ListLevel::bullet) {
-            const std::int32_t kind = level->isLegal ? std::int32_t{ListLevel::decimal} : list.levels[place].kind;
-            marker.text += kind == ListLevel::none ? "" : numberText(list.numbers[place], kind);
-        }
-    }
+    ListMarker marker{.text = textOf(*level, list), .font = level->font};
     if (!marker.text.empty() && level->follow < 2) {
         marker.text += level->follow == 0 ? '\t' : ' ';
     }

@@ -15,14 +15,14 @@ namespace corvellane::rtf {
 struct ListLevel {
     /// Kinds of numbers (\levelnfc of RTF 1.9.1).
     enum Kind : std::int32_t {
-        decimal,
-        upperRoman,
-        lowerRoman,
-        upperLetter,
-        lowerLetter,
-        ordinal,
+        decimal = 0,
+        upperRoman = 1,
+        lowerRoman = 2,
+        upperLetter = 3,
+        lowerLetter = 4,
+        ordinal = 5,
         padded = 22,
-        bullet,
+        bullet = 23,
         none = 255
     };
 
@@ -53,11 +53,7 @@ public:
     static constexpr std::uint16_t mostLists = 4096;
     static constexpr std::uint8_t mostLevels = 9;
 
-    void beginList()
-    {
-        isOverride_ = false;
-        lists_.size() < mostLists ? lists_.emplace_back() : lists_.back() = {};
-    }
+    void beginList();
     void beginOverride();
     void setId(std::int32_t id);
     /// The paragraphs' number for the list of the override that is being read.
@@ -101,6 +97,7 @@ private:
         bool isBegun = false;
     };
 
+    static std::string textOf(const ListLevel& level, const List& list);
     const Use* useOf(std::uint16_t number) const;
     void count(List& list, Use& use, std::uint8_t depth);
     bool continues(const List& list, std::uint16_t number, std::uint8_t depth) const;

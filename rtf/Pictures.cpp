@@ -73,7 +73,8 @@ std::string bitmapFile(const std::string& bytes)
     const Numbers numbers(bytes);
     const std::uint32_t bits = numbers.little16(14);
     const std::uint32_t used = numbers.little32(32);
-    const std::uint32_t colors = used != 0 ? std::min(used, 256U) : bits <= 8 ? 1U << bits : 0;
+    const std::uint32_t usual = bits <= 8 ? 1U << bits : 0;
+    const std::uint32_t colors = used != 0 ? std::min(used, 256U) : usual;
     const std::uint32_t masks = numbers.little32(16) == 3 && numbers.little32(0) == 40 ? 12 : 0;
     const std::uint32_t pixels
         = static_cast<std::uint32_t>(bitmapFileHeader) + numbers.little32(0) + (colors * 4) + masks;

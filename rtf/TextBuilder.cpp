@@ -72,7 +72,8 @@ std::uint32_t TextBuilder::lookOf(std::uint32_t character, const FontTable& font
 
 void TextBuilder::replaceEnd(std::size_t from, std::string_view end)
 {
-    part_->text.replace(from, std::string::npos, end);
+    part_->text.resize(from);
+    part_->text += end;
     if (!part_->runs.empty() && part_->runs.back().end > from) {
         part_->runs.back().end = static_cast<std::uint32_t>(part_->text.size());
     }

@@ -24,22 +24,41 @@ const char* findAbove(const char* next, const char* end)
     return std::find_if(next, end, [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; });
 }
 
+/// Up to the first byte `last`: how long the character is, and what its second byte may be (RFC 3629, 4).
+struct Lead {
+    unsigned last;
+    std::size_t length;
+    unsigned least;
+    unsigned most;
+};
+
+constexpr auto leads = std::to_array<Lead>({
+    {0xC1, 0, 0, 0},
+    {0xDF, 2, 0x80, 0xBF},
+    {0xE0, 3, 0xA0, 0xBF},
+    {0xEC, 3, 0x80, 0xBF},
+    {0xED, 3, 0x80, 0x9F},
+    {0xEF, 3, 0x80, 0xBF},
+    {0xF0, 4, 0x90, 0xBF},
+    {0xF3, 4, 0x80, 0xBF},
+    {0xF4, 4, 0x80, 0x8F},
+});
+
 /// The bytes of the character that begins there; 0 for none.
 std::size_t sequenceLength(std::string_view bytes)
 {
     const auto at = [&](std::size_t place) { return static_cast<unsigned char>(bytes[place]); };
     const unsigned lead = at(0);
-    const std::size_t length = lead < 0xC2 || lead > 0xF4 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-    if (length == 0 || length > bytes.size()) {
+    const auto* const row = std::ranges::find_if(leads, [&](const Lead& each) { return lead <= each.last; });
+    if (row == leads.end() || row->length == 0 || row->length > bytes.size()) {
         return 0;
     }
+    const std::size_t length = row->length;
     const unsigned second = at(1);
-    const unsigned least = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-    const unsigned most = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
     const auto rest = bytes.substr(2, length - 2);
     const bool continues
         = std::ranges::all_of(rest, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80; });
-    return second >= least && second <= most && continues ? length : 0;
+    return second >= row->least && second <= row->most && continues ? length : 0;
 }
 
 } // namespace

@@ -151,9 +151,10 @@ rtf::Border borderOf(const GridCell& cell, std::size_t side, int rows, int colum
 
 Qt::Alignment alignmentOf(rtf::Alignment alignment)
 {
-    return alignment == rtf::Alignment::right ? Qt::AlignRight
-        : alignment == rtf::Alignment::centre ? Qt::AlignHCenter
-                                              : Qt::AlignLeft;
+    if (alignment == rtf::Alignment::centre) {
+        return Qt::AlignHCenter;
+    }
+    return alignment == rtf::Alignment::right ? Qt::AlignRight : Qt::AlignLeft;
 }
 
 QTextCharFormat::VerticalAlignment alignmentOf(rtf::CellAlignment alignment)
