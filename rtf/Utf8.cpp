@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 
 namespace corvellane::rtf {
 namespace {
@@ -65,9 +66,9 @@ std::size_t sequenceLength(std::string_view bytes)
 
 bool isUtf8Text(std::string_view bytes)
 {
-    const char* const end = bytes.data() + bytes.size();
+    const char* const end = std::to_address(bytes.end());
     std::size_t characters = 0;
-    for (const char* next = findAbove(bytes.data(), end); next != end; next = findAbove(next, end)) {
+    for (const char* next = findAbove(std::to_address(bytes.begin()), end); next != end; next = findAbove(next, end)) {
         const std::size_t length = sequenceLength({next, end});
         if (length == 0) {
             return false;

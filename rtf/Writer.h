@@ -115,7 +115,7 @@ private:
     std::uint32_t paragraphIndex();
     std::uint32_t endFormatIndex();
     void restore(const GroupState& state);
-    void leave(const GroupState& left);
+    void leave(const GroupState& around);
     void endInstruction();
     void endSymbol();
     void endPicture();
