@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <iterator>
+#include <ranges>
 
 namespace corvellane::view {
 namespace {
@@ -75,11 +76,13 @@ bool joinsAbove(std::vector<GridCell>& cells, const GridCell& next)
         return each.firstColumn == next.firstColumn && each.columns == next.columns
             && each.firstRow + each.rows == next.firstRow && each.cell->format.verticalMerge != rtf::CellMerge::none;
     };
-    const auto above = std::find_if(cells.rbegin(), cells.rend(), isAbove);
-    if (above != cells.rend()) {
-        ++above->rows;
+    auto upwards = std::views::reverse(cells);
+    const auto above = std::ranges::find_if(upwards, isAbove);
+    if (above == upwards.end()) {
+        return false;
     }
-    return above != cells.rend();
+    ++(*above).rows;
+    return true;
 }
 
 QTextFrameFormat::BorderStyle styleOf(rtf::LineStyle style)

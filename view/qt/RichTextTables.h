@@ -37,6 +37,6 @@ QTextTableCellFormat cellFormatFor(const GridCell& cell, int rowsOfTable, int co
 
 /// The format of a frame around paragraphs, and of the one cell that it has.
 QTextTableFormat frameFormat();
-QTextTableCellFormat frameCellFormatFor(const rtf::ParagraphFormat& format);
+QTextTableCellFormat frameCellFormatFor(const rtf::ParagraphFormat& paragraph);
 
 } // namespace corvellane::view
