@@ -146,7 +146,9 @@ struct ParagraphFormat {
     std::uint16_t list = 0;
     /// From 0 on.
     std::uint8_t listLevel = 0;
-    std::array<std::uint8_t, 3> padding{};
+    /// Of a footnote or an endnote, all of which stand at the end of the text.
+    bool isNote = false;
+    std::array<std::uint8_t, 2> padding{};
 
     LineHeight lineHeight() const;
 

@@ -351,11 +351,12 @@ std::uint32_t Writer::endFormatIndex()
     const bool beginsNotes = group_.inNote && !builder_.hasNotes();
     const ListLevel* const level
         = paragraph_.leftIndent == 0 && paragraph_.firstLineIndent == 0 ? lists.levelOf(paragraph_) : nullptr;
-    if (!pageBreak && !beginsNotes && level == nullptr) {
+    if (!pageBreak && !group_.inNote && level == nullptr) {
         return paragraphIndex();
     }
     ParagraphFormat format = paragraph_;
     format.pageBreakBefore = format.pageBreakBefore || pageBreak;
+    format.isNote = group_.inNote;
     if (beginsNotes) {
         format.borders[Side::top] = noteRule;
     }

@@ -204,6 +204,7 @@ void addFormat(Json& json, const rtf::AttributedText& text, const rtf::Paragraph
     add(json, "borders", bordersJson(format.borders));
     add(json, "list", format.list);
     add(json, "listLevel", format.listLevel);
+    add(json, "note", format.isNote);
     add(json, "pageBreak", format.pageBreakBefore);
 }
 

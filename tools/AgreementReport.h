@@ -21,9 +21,9 @@ class Files;
 /// where it is the reader's own), `contextualSpace` (true), `lineHeight` (an object with one of the keys `multiple`,
 /// `atLeast`, `exactly`), `tabs` (an array of objects: `at`, `kind` "left", "centre", "right" or "decimal", `leader`
 /// "dots", "hyphens" or "line"), `shading`, `borders` (an object of `top`, `left`, `bottom`, `right`), `list` (the
-/// number of its list, its marker being in the text) and `listLevel` (from 0), `pageBreak` (true: it begins a page),
-/// `runs` (an array, always there; empty for an empty paragraph), and for an empty paragraph `end`, an object with the
-/// attributes that give it its height.
+/// number of its list, its marker being in the text) and `listLevel` (from 0), `note` (true: of a footnote or an
+/// endnote), `pageBreak` (true: it begins a page), `runs` (an array, always there; empty for an empty paragraph), and
+/// for an empty paragraph `end`, an object with the attributes that give it its height.
 ///
 /// A run: `text`, `font` (the family) and `size`, always there; `bold`, `italic`, `strike` (true), `underline` (true,
 /// or "double", "dotted", "dashed", "dashDotted", "dashDotDotted", "waved"), `colour` and `background` ("#rrggbb"),
