@@ -2,6 +2,7 @@
 
 #include "tools/PrintableText.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 
@@ -16,10 +17,18 @@ std::string problemOf(const CLI::App& program, const std::string& value)
     return value.empty() || isOption ? "a value is missing" : "";
 }
 
-std::string absolutePath(const std::string& path)
+constexpr int notWritten = 1;
+
+namespace fs = std::filesystem;
+
+/// With "." and ".." a path has to be looked up, as only the system knows where they lead.
+std::string absolutePath(const std::string& given)
 {
     std::error_code error;
-    std::string absolute = std::filesystem::absolute(path, error).native();
+    const fs::path path = fs::absolute(given, error);
+    const bool isDirect = std::ranges::none_of(path, [](const fs::path& part) { return part == "." || part == ".."; });
+    const fs::path direct = isDirect ? path : fs::weakly_canonical(path, error);
+    std::string absolute = error ? path.native() : direct.native();
     while (absolute.size() > 1 && absolute.ends_with('/')) {
         absolute.pop_back();
     }
@@ -54,6 +63,15 @@ std::optional<int> readArguments(CLI::App& program, int count, char** arguments)
     } catch (const CLI::ParseError& error) {
         return refuseUsage(program, error.what());
     }
+}
+
+int endOutput(const CLI::App& program, int status)
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) {
+        return status;
+    }
+    std::fprintf(stderr, "%s: standard output cannot be written\n", program.get_name().c_str());
+    return notWritten;
 }
 
 int refuseUsage(const CLI::App& program, const std::string& reason)

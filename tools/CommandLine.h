@@ -10,8 +10,8 @@ namespace corvellane {
 /// forgotten. The program outlives it.
 CLI::Validator asValue(const CLI::App& program);
 
-/// The same, and makes the value an absolute path without a trailing "/". Links and ".." stay as they are: only the
-/// system knows where they lead.
+/// The same, and makes the value an absolute path without a trailing "/". Links stay as they are, unless there is "."
+/// or ".." in the path: then it is where all of them lead.
 CLI::Validator asPath(const CLI::App& program);
 
 /// Reads the arguments as the program was told to. Gives the exit status when it is to end at once: 0 after the usage
@@ -20,5 +20,9 @@ std::optional<int> readArguments(CLI::App& program, int count, char** arguments)
 
 /// Says on standard error, in one line, what is wrong with the command line, and gives the exit status for that.
 int refuseUsage(const CLI::App& program, const std::string& reason);
+
+/// Ends standard output. Gives the exit status: `status`, or 1 after one line on standard error when not everything
+/// could be written.
+int endOutput(const CLI::App& program, int status);
 
 } // namespace corvellane

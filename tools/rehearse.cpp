@@ -7,9 +7,11 @@
 #include "tools/PayloadReport.h"
 #include "tools/PrintableText.h"
 #include "tools/Rehearsal.h"
+#include "tools/UnicodeNames.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 
 namespace corvellane {
 namespace {
@@ -51,23 +53,39 @@ void addOptions(CLI::App& program, Options& options)
         ->type_name("FILE");
 }
 
-/// Ticks the named products and no others; gives a name that no product has.
+/// The products folder in a maker's folder; any other is the products folder itself.
+std::string productsFolderIn(const std::string& folder)
+{
+    std::error_code error;
+    const std::string products = folder + "/Products";
+    const bool isMakers = lastPathComponent(folder) != "Products" && std::filesystem::is_directory(products, error);
+    return isMakers ? products : folder;
+}
+
+/// The product of that name: of exactly that one, or of one that looks the same.
+const std::string* productNamed(const std::vector<std::string>& locations, const std::string& name)
+{
+    const auto exact = std::ranges::find(locations, name, &lastPathComponent);
+    const auto found = exact != locations.end() ? exact : std::ranges::find_if(locations, [&](const auto& location) {
+        return composed(std::string(lastPathComponent(location))) == composed(name);
+    });
+    return found == locations.end() ? nullptr : &*found;
+}
+
+/// Ticks the named products and no others, all of them for no names; gives a name that no product has.
 std::optional<std::string> select(AppSettings& settings, const std::vector<std::string>& names)
 {
-    const std::vector<std::string> locations = *settings.products.get().locations();
-    const auto hasName = [](const std::string& name) {
-        return [&name](const std::string& location) { return lastPathComponent(location) == name; };
-    };
+    std::vector<std::string> unwanted = *settings.products.get().locations();
+    const std::vector<std::string> locations = unwanted;
     for (const std::string& name : names) {
-        if (std::ranges::none_of(locations, hasName(name))) {
+        const std::string* product = productNamed(locations, name);
+        if (product == nullptr) {
             return name;
         }
+        std::erase(unwanted, *product);
     }
-    for (const std::string& location : locations) {
-        const auto isProduct = [&](const std::string& name) { return hasName(name)(location); };
-        if (!names.empty() && std::ranges::none_of(names, isProduct)) {
-            settings.toggleProduct(location);
-        }
+    if (!names.empty()) {
+        std::ranges::for_each(unwanted, [&](const auto& location) { settings.toggleProduct(location); });
     }
     return std::nullopt;
 }
@@ -131,14 +149,8 @@ int rehearseProducts(const CLI::App& program, const Options& options, const Syst
     return showPayload(rehearsal.settings(), options.productsFolder, system);
 }
 
-int rehearse(int count, char** arguments)
+int carryOut(const CLI::App& program, Options& options)
 {
-    Options options;
-    CLI::App program("What becomes of a maker's products and agreement.", "rehearse");
-    addOptions(program, options);
-    if (const auto ending = readArguments(program, count, arguments)) {
-        return *ending;
-    }
     System system;
     const bool isText = options.agreement.empty();
     const std::string& agreement = isText ? options.agreementText : options.agreement;
@@ -151,11 +163,21 @@ int rehearse(int count, char** arguments)
     if (options.productsFolder.empty()) {
         return refuseUsage(program, "PRODUCTS is missing; --help tells the usage");
     }
+    options.productsFolder = productsFolderIn(options.productsFolder);
     if (options.script) {
         // The script stands alone on standard output.
         system.console = std::make_shared<StreamConsole>(stderr);
     }
     return rehearseProducts(program, options, system);
+}
+
+int rehearse(int count, char** arguments)
+{
+    Options options;
+    CLI::App program("What becomes of a maker's products and agreement.", "rehearse");
+    addOptions(program, options);
+    const auto ending = readArguments(program, count, arguments);
+    return endOutput(program, ending ? *ending : carryOut(program, options));
 }
 
 } // namespace
