@@ -52,6 +52,14 @@ CLI::Validator asPath(const CLI::App& program)
         ""};
 }
 
+void addCommonOptions(CLI::App& program, const std::string& more)
+{
+    program.set_help_flag("--help", "Print this and end");
+    program.set_version_flag(
+        "--version", program.get_name() + " " CORVELLANE_VERSION, "Print the program's version and end");
+    program.footer(more);
+}
+
 std::optional<int> readArguments(CLI::App& program, int count, char** arguments)
 {
     try {
@@ -59,6 +67,9 @@ std::optional<int> readArguments(CLI::App& program, int count, char** arguments)
         return std::nullopt;
     } catch (const CLI::CallForHelp&) {
         std::fputs(program.help().c_str(), stdout);
+        return 0;
+    } catch (const CLI::CallForVersion& version) {
+        std::printf("%s\n", version.what());
         return 0;
     } catch (const CLI::ParseError& error) {
         return refuseUsage(program, error.what());

@@ -14,8 +14,11 @@ CLI::Validator asValue(const CLI::App& program);
 /// or ".." in the path: then it is where all of them lead.
 CLI::Validator asPath(const CLI::App& program);
 
+/// Gives the program the options --help and --version; the help ends with `more`.
+void addCommonOptions(CLI::App& program, const std::string& more);
+
 /// Reads the arguments as the program was told to. Gives the exit status when it is to end at once: 0 after the usage
-/// on standard output, 2 after one line on standard error that says what is wrong.
+/// or the version on standard output, 2 after one line on standard error that says what is wrong.
 std::optional<int> readArguments(CLI::App& program, int count, char** arguments);
 
 /// Says on standard error, in one line, what is wrong with the command line, and gives the exit status for that.

@@ -4,13 +4,13 @@
 #include "tools/AgreementReport.h"
 #include "tools/CommandLine.h"
 #include "tools/FolderTree.h"
-#include "tools/PayloadReport.h"
-#include "tools/PrintableText.h"
 #include "tools/Rehearsal.h"
+#include "tools/ReportForms.h"
 #include "tools/UnicodeNames.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 
 namespace corvellane {
@@ -24,19 +24,41 @@ struct Options {
     std::string productsFolder;
     bool script = false;
     std::optional<std::string> into;
+    bool json = false;
+    bool strict = false;
     /// The names of the products to tick; all of them when there is none.
     std::vector<std::string> select;
     std::string agreement;
     std::string agreementText;
 };
 
+constexpr const char* moreHelp
+    = R"(FOLDER is a maker's folder, which holds Products, CorvellaneEULA.rtf and Logo.svg, or a
+products folder itself. Without an option, every product is shown with what becomes of
+it; the script is carried out on a model, and what will not go well is told. Nothing is
+changed.
+
+A finding is an error (the installation or a plug-in will not work), a warning (likely
+not meant) or a note, and is written as "SEVERITY: PATH: TEXT [CODE]".
+
+Examples:
+  rehearse ~/installer                        look before you ship
+  rehearse --strict --json ~/installer        the same for a program that ships
+  rehearse --into /tmp/try ~/installer        really install below /tmp/try, as yourself
+  rehearse --select "Velvetgrain Photo" --script ~/installer
+
+Exit status: 0 when all is well; 1 for errors, with --strict for warnings too, and for an
+installation that fails; 2 for wrong usage.)";
+
 void addOptions(CLI::App& program, Options& options)
 {
-    program.set_help_flag("--help", "Print this and end");
-    program.add_option("PRODUCTS", options.productsFolder, "The products folder")
+    addCommonOptions(program, moreHelp);
+    program.add_option("FOLDER", options.productsFolder, "The maker's folder, or its products folder")
         ->transform(asPath(program))
-        ->check(CLI::ExistingDirectory)
-        ->type_name("FOLDER");
+        ->check(CLI::ExistingDirectory.description(""))
+        ->type_name(" ");
+    program.add_flag("--strict", options.strict, "Exit with 1 for warnings too");
+    program.add_flag("--json", options.json, "Print products and findings as JSON");
     program.add_flag("--script", options.script, "Print the script that would run, and nothing else");
     program.add_option("--into", options.into, "Install below this folder")
         ->transform(asPath(program))
@@ -51,6 +73,15 @@ void addOptions(CLI::App& program, Options& options)
     program.add_option("--agreement-text", options.agreementText, "Print the words of an agreement")
         ->transform(asValue(program))
         ->type_name("FILE");
+}
+
+/// On a terminal that is not told otherwise, as https://no-color.org has it.
+bool writesColours()
+{
+    const char* const refusal = std::getenv("NO_COLOR");
+    const char* const terminal = std::getenv("TERM");
+    return isTerminal(stdout) && (refusal == nullptr || *refusal == '\0') && terminal != nullptr
+        && std::string_view(terminal) != "dumb";
 }
 
 /// The products folder in a maker's folder; any other is the products folder itself.
@@ -97,16 +128,17 @@ int showScript(AppSettings& settings)
     return allWell;
 }
 
-int showPayload(AppSettings& settings, const std::string& productsFolder, const System& system)
+int showPayload(AppSettings& settings, const Options& options, const System& system)
 {
-    const auto report = reportPayload(*system.files, productsFolder, settings.products.get(), settings.hostPaths());
-    for (const std::string& line : report.lines) {
-        system.console->print(line);
+    const auto report
+        = reportPayload(*system.files, options.productsFolder, settings.products.get(), settings.hostPaths());
+    if (options.json) {
+        system.console->print(reportJson(report));
+    } else {
+        std::ranges::for_each(
+            reportLines(report, writesColours()), [&](const auto& line) { system.console->print(line); });
     }
-    for (const PayloadWarning& warning : report.warnings) {
-        system.console->print("warning: " + printable(warning.path) + ": " + printable(warning.message));
-    }
-    return report.warnings.empty() ? allWell : notWell;
+    return isRefused(report, options.strict) ? notWell : allWell;
 }
 
 std::vector<std::string> describeHostFolders(const HostPaths& hosts, const std::string& into)
@@ -146,7 +178,7 @@ int rehearseProducts(const CLI::App& program, const Options& options, const Syst
     if (options.into) {
         return install(rehearsal, into, *system.console);
     }
-    return showPayload(rehearsal.settings(), options.productsFolder, system);
+    return showPayload(rehearsal.settings(), options, system);
 }
 
 int carryOut(const CLI::App& program, Options& options)
@@ -161,7 +193,11 @@ int carryOut(const CLI::App& program, Options& options)
                   *system.files, agreement, isText ? AgreementForm::plainText : AgreementForm::json, *system.console);
     }
     if (options.productsFolder.empty()) {
-        return refuseUsage(program, "PRODUCTS is missing; --help tells the usage");
+        return refuseUsage(program, "FOLDER is missing; --help tells the usage");
+    }
+    if (options.script + options.into.has_value() + (options.json || options.strict) > 1) {
+        return refuseUsage(
+            program, "--script, --into and the report of --json and --strict are three different things");
     }
     options.productsFolder = productsFolderIn(options.productsFolder);
     if (options.script) {

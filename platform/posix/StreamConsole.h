@@ -2,6 +2,8 @@
 
 #include "platform/Console.h"
 
+#include <unistd.h>
+
 #include <cstdio>
 
 namespace corvellane {
@@ -24,5 +26,11 @@ public:
 private:
     std::FILE* stream_;
 };
+
+/// Whether a person reads what is written there.
+inline bool isTerminal(std::FILE* stream)
+{
+    return isatty(fileno(stream)) == 1;
+}
 
 } // namespace corvellane

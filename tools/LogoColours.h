@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace corvellane {
+
+/// The colours that a picture in SVG paints with, sorted, each once: of fills, strokes and gradients, whether written
+/// as attributes, as styles or in a style sheet; and black for shapes that name none. "#rrggbb" or a name; a picture
+/// inside counts as the colour "image".
+std::vector<std::string> coloursOf(std::string_view svg);
+
+} // namespace corvellane

@@ -1,0 +1,173 @@
+#include "tools/PayloadFindings.h"
+
+#include "agreement/Document.h"
+#include "base/PathNames.h"
+#include "install/ElementKind.h"
+#include "install/ScriptEscapes.h"
+#include "tools/LogoColours.h"
+#include "tools/PrintableText.h"
+#include "tools/UnicodeNames.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <iterator>
+
+namespace corvellane {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// More than any logo has; in bytes.
+constexpr std::size_t largestLogo = std::size_t{16} << 20U;
+
+void append(Findings& findings, Findings more)
+{
+    std::ranges::move(more, std::back_inserter(findings));
+}
+
+Findings inspectKind(const std::string& path)
+{
+    const std::string name(lastPathComponent(path));
+    const ElementKind kind = kindOf(path);
+    if (kind != kindOf(name)) {
+        return {{FindingCode::kindByFolder, path,
+            "is a " + std::string(nameOf(kind)) + " element only by the name of a folder above it"}};
+    }
+    const auto digit = generationOf(path).digit;
+    if (kind == ElementKind::lightroom && digit != generationOf(name).digit) {
+        return {{FindingCode::generationByFolder, path,
+            "is of generation " + std::string(digit) + " only by the name of a folder above it"}};
+    }
+    return {};
+}
+
+/// A word that would make the element another kind, if capitals did not count.
+Findings inspectCapitals(const std::string& path)
+{
+    const auto product = path.rfind('/', path.rfind('/') - 1);
+    const std::string names = withoutCapitals(path.substr(product + 1));
+    for (const ElementKind kind : {ElementKind::lightroom, ElementKind::video}) {
+        const std::string word(traitsOf(kind).word);
+        if (kindOf(path) == kind) {
+            return {};
+        }
+        if (names.find(withoutCapitals(word)) != std::string::npos) {
+            return {{FindingCode::kindCapitals, path,
+                "is a " + std::string(nameOf(kindOf(path))) + " element: only “" + word
+                    + "”, with these capitals, makes it a " + std::string(nameOf(kind)) + " element"}};
+        }
+    }
+    return {};
+}
+
+/// The last word of the name, without the extension.
+std::string_view lastWord(std::string_view name)
+{
+    const std::string_view stem = name.substr(0, name.rfind('.'));
+    return stem.substr(stem.rfind(' ') + 1);
+}
+
+Findings inspectVideoName(const std::string& path)
+{
+    const std::string_view name = lastPathComponent(path);
+    if (kindOf(path) != ElementKind::video || supersededSuffix(name).empty() || lastWord(name) == "2") {
+        return {};
+    }
+    return {
+        {FindingCode::superseding, path, "supersedes the bundles of generation 2, because of the “2” inside its name"}};
+}
+
+Findings inspectHidden(const std::string& path, const std::string& taken)
+{
+    if (!lastPathComponent(path).starts_with('.') || isLeftover(lastPathComponent(path))) {
+        return {};
+    }
+    return {{FindingCode::hidden, path, "is hidden, and taken for " + taken + " all the same"}};
+}
+
+Findings inspectLogo(const Files& files, const std::string& path)
+{
+    const auto logo = files.read(path, largestLogo);
+    if (!logo) {
+        return {{FindingCode::logo, path, "is no logo to show: " + logo.error().message}};
+    }
+    const std::vector<std::string> colours = coloursOf(*logo);
+    if (colours.size() < 2) {
+        return {};
+    }
+    return {{FindingCode::logoColours, path,
+        "has more than one colour, " + colours[0] + " and " + colours[1]
+            + " for instance, and is drawn in black all over"}};
+}
+
+} // namespace
+
+bool isLeftover(std::string_view name)
+{
+    constexpr auto names = std::to_array<std::string_view>(
+        {".DS_Store", ".git", ".gitignore", ".hg", ".svn", "Thumbs.db", "__MACOSX", "desktop.ini"});
+    return std::ranges::find(names, name) != names.end() || name.starts_with("._") || name.ends_with('~');
+}
+
+Findings inspectEntries(const Files& files, const std::string& folder)
+{
+    const auto entries = files.list(folder);
+    if (!entries) {
+        return {{FindingCode::unreadable, folder, "cannot be read: " + entries.error().message}};
+    }
+    Findings findings;
+    for (const FolderEntry& entry : *entries) {
+        std::error_code error;
+        if (fs::is_symlink(entry.path, error)) {
+            findings.push_back({FindingCode::ignoredLink, entry.path, "is a link and will be ignored"});
+        } else if (!entry.isFolder.value_or(false)) {
+            findings.push_back({FindingCode::ignored, entry.path, "is no folder and will be ignored"});
+        }
+    }
+    return findings;
+}
+
+Findings inspectProduct(const std::string& product, const std::vector<std::string>& elements)
+{
+    Findings findings = inspectName(product);
+    append(findings, inspectHidden(product, "a product"));
+    if (elements.empty()) {
+        findings.push_back({FindingCode::emptyProduct, product, "holds no folder and installs nothing"});
+    }
+    return findings;
+}
+
+Findings inspectElement(const std::string& path)
+{
+    Findings findings = inspectName(path);
+    append(findings, inspectHidden(path, "an element"));
+    append(findings, inspectKind(path));
+    append(findings, inspectCapitals(path));
+    append(findings, inspectVideoName(path));
+    return findings;
+}
+
+Findings inspectName(const std::string& path)
+{
+    const std::string name(lastPathComponent(path));
+    if (asEchoedLuaString(name) == name) {
+        return {};
+    }
+    return {{FindingCode::escaped, path, "has a name with characters that the script has to escape"}};
+}
+
+Findings inspectResources(const Files& files, const std::string& productsFolder)
+{
+    const std::string folder = fs::path(productsFolder).parent_path();
+    const std::string path = folder + "/CorvellaneEULA.rtf";
+    const auto agreement = readAgreement(files, path);
+    Findings findings;
+    if (!agreement) {
+        findings.push_back({FindingCode::agreement, path, "is no agreement to show: " + agreement.error().message});
+    }
+    append(findings, inspectLogo(files, folder + "/Logo.svg"));
+    return findings;
+}
+
+} // namespace corvellane
