@@ -1,5 +1,6 @@
 #include "tools/CommandLine.h"
 
+#include "base/PathNames.h"
 #include "tools/PrintableText.h"
 
 #include <algorithm>
@@ -50,6 +51,14 @@ CLI::Validator asPath(const CLI::App& program)
                 return problem;
             },
         ""};
+}
+
+std::string productsFolderIn(const std::string& folder)
+{
+    std::error_code error;
+    const std::string products = folder + "/Products";
+    const bool isMakers = lastPathComponent(folder) != "Products" && fs::is_directory(products, error);
+    return isMakers ? products : folder;
 }
 
 void addCommonOptions(CLI::App& program, const std::string& more)

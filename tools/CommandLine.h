@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include <optional>
+#include <string>
 
 namespace corvellane {
 
@@ -13,6 +14,9 @@ CLI::Validator asValue(const CLI::App& program);
 /// The same, and makes the value an absolute path without a trailing "/". Links stay as they are, unless there is "."
 /// or ".." in the path: then it is where all of them lead.
 CLI::Validator asPath(const CLI::App& program);
+
+/// The products folder in a maker's folder; any other folder is a products folder itself.
+std::string productsFolderIn(const std::string& folder);
 
 /// Gives the program the options --help and --version; the help ends with `more`.
 void addCommonOptions(CLI::App& program, const std::string& more);

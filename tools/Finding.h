@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -9,125 +11,6 @@ namespace corvellane {
 
 /// An error keeps the installation or a plug-in from working; a warning is likely not meant; a note is worth knowing.
 enum class Severity : std::uint8_t { error, warning, note };
-
-enum class FindingCode : std::uint8_t {
-    noProducts,
-    unreadable,
-    special,
-    missing,
-    overwritten,
-    removed,
-    blocked,
-    refused,
-    emptyElement,
-    tooLong,
-    closed,
-    open,
-    setId,
-    capitals,
-    kindCapitals,
-    kindByFolder,
-    generationByFolder,
-    superseding,
-    linkOutside,
-    linkBroken,
-    hidden,
-    leftover,
-    emptyProduct,
-    ignoredLink,
-    agreement,
-    logo,
-    logoColours,
-    noRoom,
-    ignored,
-    escaped,
-    assumed,
-    rewritten,
-};
-
-struct FindingTraits {
-    /// What programs know it by; it stays what it is.
-    std::string_view name;
-    Severity severity = Severity::error;
-};
-
-constexpr FindingTraits traitsOf(FindingCode code)
-{
-    using enum FindingCode;
-    using enum Severity;
-    switch (code) {
-    case noProducts:
-        return {"no-products", error};
-    case unreadable:
-        return {"unreadable", error};
-    case special:
-        return {"special-file", error};
-    case missing:
-        return {"missing", error};
-    case overwritten:
-        return {"overwritten", error};
-    case removed:
-        return {"removed", error};
-    case blocked:
-        return {"blocked", error};
-    case refused:
-        return {"refused", error};
-    case emptyElement:
-        return {"empty-element", error};
-    case tooLong:
-        return {"too-long", error};
-    case closed:
-        return {"closed", warning};
-    case open:
-        return {"open", warning};
-    case setId:
-        return {"set-id", warning};
-    case capitals:
-        return {"capitals", warning};
-    case kindCapitals:
-        return {"kind-capitals", warning};
-    case kindByFolder:
-        return {"kind-by-folder", warning};
-    case generationByFolder:
-        return {"generation-by-folder", warning};
-    case superseding:
-        return {"superseding", warning};
-    case linkOutside:
-        return {"link-outside", warning};
-    case linkBroken:
-        return {"link-broken", warning};
-    case hidden:
-        return {"hidden", warning};
-    case leftover:
-        return {"leftover", warning};
-    case emptyProduct:
-        return {"empty-product", warning};
-    case ignoredLink:
-        return {"ignored-link", warning};
-    case agreement:
-        return {"agreement", warning};
-    case logo:
-        return {"logo", warning};
-    case logoColours:
-        return {"logo-colours", warning};
-    case noRoom:
-        return {"no-room", warning};
-    case ignored:
-        return {"ignored", note};
-    case escaped:
-        return {"escaped", note};
-    case assumed:
-        return {"assumed", note};
-    case rewritten:
-        return {"rewritten", note};
-    }
-    return {};
-}
-
-constexpr std::string_view nameOf(FindingCode code)
-{
-    return traitsOf(code).name;
-}
 
 constexpr std::string_view nameOf(Severity severity)
 {
@@ -142,9 +25,67 @@ constexpr std::string_view nameOf(Severity severity)
     return {};
 }
 
+struct FindingKind {
+    /// What programs know it by; it stays what it is.
+    std::string_view code;
+    Severity severity = Severity::error;
+};
+
+/// All that can be found; docs/rehearse.md tells what each means.
+constexpr auto findingKinds = std::to_array<FindingKind>({
+    {"no-products", Severity::error},
+    {"unreadable", Severity::error},
+    {"special-file", Severity::error},
+    {"missing", Severity::error},
+    {"overwritten", Severity::error},
+    {"removed", Severity::error},
+    {"blocked", Severity::error},
+    {"refused", Severity::error},
+    {"empty-element", Severity::error},
+    {"too-long", Severity::error},
+    {"closed", Severity::warning},
+    {"open", Severity::warning},
+    {"set-id", Severity::warning},
+    {"capitals", Severity::warning},
+    {"kind-capitals", Severity::warning},
+    {"kind-by-folder", Severity::warning},
+    {"generation-by-folder", Severity::warning},
+    {"superseding", Severity::warning},
+    {"link-outside", Severity::warning},
+    {"link-broken", Severity::warning},
+    {"hidden", Severity::warning},
+    {"leftover", Severity::warning},
+    {"empty-product", Severity::warning},
+    {"ignored-link", Severity::warning},
+    {"agreement", Severity::warning},
+    {"logo", Severity::warning},
+    {"logo-colours", Severity::warning},
+    {"no-room", Severity::warning},
+    {"ignored", Severity::note},
+    {"escaped", Severity::note},
+    {"assumed", Severity::note},
+    {"rewritten", Severity::note},
+});
+
+/// One of the kinds, by its code: another code does not build.
+class FindingCode {
+public:
+    // NOLINTNEXTLINE(google-explicit-constructor): a code is written as what it is
+    consteval FindingCode(const char* code)
+        : kind_(*std::ranges::find(findingKinds, std::string_view(code), &FindingKind::code))
+    {
+    }
+
+    constexpr std::string_view name() const { return kind_.code; }
+    constexpr Severity severity() const { return kind_.severity; }
+
+private:
+    FindingKind kind_;
+};
+
 /// Something to know about a maker's folder before it is shipped.
 struct Finding {
-    FindingCode code = FindingCode::noProducts;
+    FindingCode code;
     /// What it is about: bytes, as the file system holds them.
     std::string path;
     /// For a person; reads on from the path.

@@ -21,23 +21,23 @@ constexpr std::size_t longestPath = 4095;
 void inspectFile(Findings& findings, const std::string& path, const ModelEntry& entry)
 {
     if (entry.kind == Kind::special) {
-        findings.push_back({FindingCode::special, path,
+        findings.push_back({"special-file", path,
             "is neither a file nor a folder nor a link, and keeps its element from being installed"});
     } else if (!entry.failure.empty()) {
-        findings.push_back({FindingCode::unreadable, path, "cannot be read: " + entry.failure});
+        findings.push_back({"unreadable", path, "cannot be read: " + entry.failure});
     }
     if (isLeftover(lastPathComponent(path))) {
-        findings.push_back({FindingCode::leftover, path, "is left from a tool, and goes to customers with the rest"});
+        findings.push_back({"leftover", path, "is left from a tool, and goes to customers with the rest"});
     }
     if (entry.kind == Kind::link) {
         return;
     }
     if ((entry.mode & (fs::perms::set_uid | fs::perms::set_gid)) != fs::perms::none) {
         findings.push_back(
-            {FindingCode::setId, path, "has a set-user-ID or set-group-ID bit, which is lost when it is installed"});
+            {"set-id", path, "has a set-user-ID or set-group-ID bit, which is lost when it is installed"});
     }
     if ((entry.mode & fs::perms::others_write) != fs::perms::none) {
-        findings.push_back({FindingCode::open, path,
+        findings.push_back({"open", path,
             "can be written by everybody, and is refused by administrator rights unless a package mends that"});
     }
 }
@@ -58,11 +58,10 @@ void inspectLink(Findings& findings, const ModelTree& tree, const std::string& p
     const fs::path target = link.target;
     const fs::path inside = (fs::path(path).parent_path() / target).lexically_normal().lexically_relative(element);
     if (target.is_absolute() || inside.empty() || *inside.begin() == "..") {
-        findings.push_back({FindingCode::linkOutside, link.origin,
-            "is a link that leaves its element: " + quotedPrintable(link.target)});
-    } else if (tree.follow(path) == nullptr) {
         findings.push_back(
-            {FindingCode::linkBroken, link.origin, "is a link to nothing: " + quotedPrintable(link.target)});
+            {"link-outside", link.origin, "is a link that leaves its element: " + quotedPrintable(link.target)});
+    } else if (tree.follow(path) == nullptr) {
+        findings.push_back({"link-broken", link.origin, "is a link to nothing: " + quotedPrintable(link.target)});
     }
 }
 
@@ -73,7 +72,7 @@ public:
     {
         if ((closed_.empty() || !path.starts_with(closed_)) && isClosed(entry)) {
             closed_ = path + "/";
-            findings.push_back({FindingCode::closed, entry.origin.empty() ? path : entry.origin,
+            findings.push_back({"closed", entry.origin.empty() ? path : entry.origin,
                 "cannot be read by everybody, unless a package mends that"});
         }
     }
@@ -122,12 +121,12 @@ Findings inspectInstalled(const ModelTree& tree, const std::string& element)
             inspectLink(findings, tree, path, element);
         }
         if (path.size() > longestPath) {
-            findings.push_back({FindingCode::tooLong, entry.origin,
+            findings.push_back({"too-long", entry.origin,
                 "becomes a path of " + std::to_string(path.size()) + " bytes, and no system takes so long a one"});
         }
     }
     if (isEmpty) {
-        findings.push_back({FindingCode::emptyElement, root->origin, "holds no file"});
+        findings.push_back({"empty-element", root->origin, "holds no file"});
     }
     return findings;
 }
@@ -140,7 +139,7 @@ Findings inspectNames(const ModelTree& tree, const std::string& folder)
         const auto name = path.rfind('/') + 1;
         const auto [same, isFirst] = paths.emplace(path.substr(0, name) + withoutCapitals(path.substr(name)), path);
         if (!isFirst) {
-            findings.push_back({FindingCode::capitals, entry.origin.empty() ? path : entry.origin,
+            findings.push_back({"capitals", entry.origin.empty() ? path : entry.origin,
                 "differs from " + quotedPrintable(lastPathComponent(same->second))
                     + " in capitals or accents’ spelling only; on many disks the two are one"});
         }

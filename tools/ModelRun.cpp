@@ -18,7 +18,10 @@ using Kind = ModelEntry::Kind;
 using Owner = ModelEntry::Owner;
 
 /// The command runner lets nobody else write, and a copy does not keep the bits that give others' rights.
-constexpr fs::perms keptBits = static_cast<fs::perms>(0755);
+constexpr fs::perms keptBits = fs::perms::owner_all | fs::perms::group_read | fs::perms::group_exec
+    | fs::perms::others_read | fs::perms::others_exec;
+constexpr fs::perms newFile
+    = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read | fs::perms::others_read;
 
 std::string withoutEnd(std::string path)
 {
@@ -38,6 +41,15 @@ bool isFolder(const ModelEntry* entry)
     return entry != nullptr && entry->kind == Kind::folder;
 }
 
+/// Of a letter behind a backslash, in Lua.
+char meaningOf(char letter)
+{
+    constexpr std::string_view letters = "nr";
+    constexpr std::string_view meanings = "\n\r";
+    const auto found = letters.find(letter);
+    return found == std::string_view::npos ? letter : meanings[found];
+}
+
 /// The application that a text names as Lightroom's external editor; empty for none.
 std::string editorIn(const std::string& text)
 {
@@ -47,8 +59,7 @@ std::string editorIn(const std::string& text)
     for (auto at = found + key.size(); found != std::string::npos && at < text.size() && text[at] != '"'; ++at) {
         const bool isEscaped = text[at] == '\\' && at + 1 < text.size();
         at += isEscaped ? 1 : 0;
-        const char letter = text[at];
-        path += isEscaped && letter == 'n' ? '\n' : isEscaped && letter == 'r' ? '\r' : letter;
+        path += isEscaped ? meaningOf(text[at]) : text[at];
     }
     return path;
 }
@@ -100,7 +111,7 @@ public:
     {
         const ModelEntry* there = tree_.find(command.path);
         if (there != nullptr && !there->element.empty() && there->element != element_) {
-            findings_.push_back({FindingCode::removed, there->element,
+            findings_.push_back({"removed", there->element,
                 "loses " + quotedPrintable(command.path) + " again when " + quotedPrintable(element_)
                     + " is installed, which supersedes it"});
         }
@@ -122,7 +133,7 @@ public:
             return miss(folderOf(path));
         }
         if (folder->isAssumed && told_.insert(folderOf(path)).second) {
-            findings_.push_back({FindingCode::assumed, folderOf(path) + "/",
+            findings_.push_back({"assumed", folderOf(path) + "/",
                 "is not created by the script when these products are installed together; it must be there already"});
         }
         place(path, {.kind = Kind::link, .owner = ownerAt(path), .target = target, .element = element_}, true);
@@ -142,11 +153,11 @@ public:
             return block(command.path);
         }
         if (there != nullptr && there->element == element_) {
-            findings_.push_back({FindingCode::rewritten, there->origin, "is written anew by the installation"});
+            findings_.push_back({"rewritten", there->origin, "is written anew by the installation"});
         }
         place(command.path,
             {.kind = Kind::file,
-                .mode = fs::perms(0644),
+                .mode = newFile,
                 .size = command.text.size(),
                 .owner = ownerAt(command.path),
                 .element = element_},
@@ -167,14 +178,14 @@ public:
 
     void refuse(const std::string& refusal)
     {
-        findings_.push_back({FindingCode::refused, element_, "is refused by what carries commands out: " + refusal});
+        findings_.push_back({"refused", element_, "is refused by what carries commands out: " + refusal});
     }
 
     Findings finish()
     {
         for (const auto& [elements, clash] : clashes_) {
             const std::string more = clash.count > 1 ? " and " + std::to_string(clash.count - 1) + " more" : "";
-            findings_.push_back({FindingCode::overwritten, elements.second,
+            findings_.push_back({"overwritten", elements.second,
                 "is installed over what " + quotedPrintable(elements.first)
                     + " has installed: " + quotedPrintable(clash.first) + more});
         }
@@ -227,14 +238,14 @@ private:
     {
         if (told_.insert(path).second) {
             findings_.push_back(
-                {FindingCode::missing, element_, "lacks the folder " + inElement(path) + ", which the script needs"});
+                {"missing", element_, "lacks the folder " + inElement(path) + ", which the script needs"});
         }
     }
 
     void block(const std::string& path)
     {
         findings_.push_back(
-            {FindingCode::blocked, element_, "has something else at " + inElement(path) + ", which the script makes"});
+            {"blocked", element_, "has something else at " + inElement(path) + ", which the script makes"});
     }
 
     ModelTree& tree_;

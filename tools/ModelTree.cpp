@@ -62,6 +62,15 @@ void push(std::vector<std::string>& parts, const fs::path& path)
     parts.insert(parts.end(), more.rbegin(), more.rend());
 }
 
+void step(std::string& reached, const std::string& part)
+{
+    if (part == "..") {
+        reached = aboveOf(reached);
+    } else if (!part.empty() && part != ".") {
+        reached.append("/").append(part);
+    }
+}
+
 } // namespace
 
 const ModelEntry* ModelTree::find(const std::string& path) const
@@ -107,26 +116,20 @@ const ModelEntry* ModelTree::follow(const std::string& path) const
     push(parts, path);
     std::string reached;
     const ModelEntry* entry = nullptr;
-    for (int links = 0; !parts.empty();) {
-        const std::string part = std::exchange(parts.back(), {});
+    for (int links = 0; !parts.empty() && links <= mostLinks;) {
+        step(reached, parts.back());
         parts.pop_back();
-        if (part.empty() || part == ".") {
-            continue;
-        }
-        reached = part == ".." ? aboveOf(reached) : reached + "/" + part;
         entry = find(reached);
         if (entry == nullptr && !reached.empty()) {
             return nullptr;
         }
         if (entry != nullptr && entry->kind == Kind::link) {
-            if (++links > mostLinks) {
-                return nullptr;
-            }
             push(parts, entry->target);
             reached = entry->target.starts_with('/') ? "" : aboveOf(reached);
+            ++links;
         }
     }
-    return entry;
+    return parts.empty() ? entry : nullptr;
 }
 
 void readEntryIntoModel(ModelTree& tree, const std::string& folder)

@@ -17,7 +17,8 @@ struct ModelEntry {
 
     // NOLINTBEGIN(readability-redundant-member-init): designated initializers leave some out
     Kind kind = Kind::folder;
-    std::filesystem::perms mode = std::filesystem::perms(0755);
+    /// As folders are made.
+    std::filesystem::perms mode = static_cast<std::filesystem::perms>(0755);
     /// In bytes; of files.
     std::uintmax_t size = 0;
     Owner owner = Owner::administrator;

@@ -31,12 +31,12 @@ Findings inspectKind(const std::string& path)
     const std::string name(lastPathComponent(path));
     const ElementKind kind = kindOf(path);
     if (kind != kindOf(name)) {
-        return {{FindingCode::kindByFolder, path,
+        return {{"kind-by-folder", path,
             "is a " + std::string(nameOf(kind)) + " element only by the name of a folder above it"}};
     }
     const auto digit = generationOf(path).digit;
     if (kind == ElementKind::lightroom && digit != generationOf(name).digit) {
-        return {{FindingCode::generationByFolder, path,
+        return {{"generation-by-folder", path,
             "is of generation " + std::string(digit) + " only by the name of a folder above it"}};
     }
     return {};
@@ -53,7 +53,7 @@ Findings inspectCapitals(const std::string& path)
             return {};
         }
         if (names.find(withoutCapitals(word)) != std::string::npos) {
-            return {{FindingCode::kindCapitals, path,
+            return {{"kind-capitals", path,
                 "is a " + std::string(nameOf(kindOf(path))) + " element: only “" + word
                     + "”, with these capitals, makes it a " + std::string(nameOf(kind)) + " element"}};
         }
@@ -74,8 +74,7 @@ Findings inspectVideoName(const std::string& path)
     if (kindOf(path) != ElementKind::video || supersededSuffix(name).empty() || lastWord(name) == "2") {
         return {};
     }
-    return {
-        {FindingCode::superseding, path, "supersedes the bundles of generation 2, because of the “2” inside its name"}};
+    return {{"superseding", path, "supersedes the bundles of generation 2, because of the “2” inside its name"}};
 }
 
 Findings inspectHidden(const std::string& path, const std::string& taken)
@@ -83,20 +82,20 @@ Findings inspectHidden(const std::string& path, const std::string& taken)
     if (!lastPathComponent(path).starts_with('.') || isLeftover(lastPathComponent(path))) {
         return {};
     }
-    return {{FindingCode::hidden, path, "is hidden, and taken for " + taken + " all the same"}};
+    return {{"hidden", path, "is hidden, and taken for " + taken + " all the same"}};
 }
 
 Findings inspectLogo(const Files& files, const std::string& path)
 {
     const auto logo = files.read(path, largestLogo);
     if (!logo) {
-        return {{FindingCode::logo, path, "is no logo to show: " + logo.error().message}};
+        return {{"logo", path, "is no logo to show: " + logo.error().message}};
     }
     const std::vector<std::string> colours = coloursOf(*logo);
     if (colours.size() < 2) {
         return {};
     }
-    return {{FindingCode::logoColours, path,
+    return {{"logo-colours", path,
         "has more than one colour, " + colours[0] + " and " + colours[1]
             + " for instance, and is drawn in black all over"}};
 }
@@ -114,15 +113,15 @@ Findings inspectEntries(const Files& files, const std::string& folder)
 {
     const auto entries = files.list(folder);
     if (!entries) {
-        return {{FindingCode::unreadable, folder, "cannot be read: " + entries.error().message}};
+        return {{"unreadable", folder, "cannot be read: " + entries.error().message}};
     }
     Findings findings;
     for (const FolderEntry& entry : *entries) {
         std::error_code error;
         if (fs::is_symlink(entry.path, error)) {
-            findings.push_back({FindingCode::ignoredLink, entry.path, "is a link and will be ignored"});
+            findings.push_back({"ignored-link", entry.path, "is a link and will be ignored"});
         } else if (!entry.isFolder.value_or(false)) {
-            findings.push_back({FindingCode::ignored, entry.path, "is no folder and will be ignored"});
+            findings.push_back({"ignored", entry.path, "is no folder and will be ignored"});
         }
     }
     return findings;
@@ -133,7 +132,7 @@ Findings inspectProduct(const std::string& product, const std::vector<std::strin
     Findings findings = inspectName(product);
     append(findings, inspectHidden(product, "a product"));
     if (elements.empty()) {
-        findings.push_back({FindingCode::emptyProduct, product, "holds no folder and installs nothing"});
+        findings.push_back({"empty-product", product, "holds no folder and installs nothing"});
     }
     return findings;
 }
@@ -154,7 +153,7 @@ Findings inspectName(const std::string& path)
     if (asEchoedLuaString(name) == name) {
         return {};
     }
-    return {{FindingCode::escaped, path, "has a name with characters that the script has to escape"}};
+    return {{"escaped", path, "has a name with characters that the script has to escape"}};
 }
 
 Findings inspectResources(const Files& files, const std::string& productsFolder)
@@ -164,7 +163,7 @@ Findings inspectResources(const Files& files, const std::string& productsFolder)
     const auto agreement = readAgreement(files, path);
     Findings findings;
     if (!agreement) {
-        findings.push_back({FindingCode::agreement, path, "is no agreement to show: " + agreement.error().message});
+        findings.push_back({"agreement", path, "is no agreement to show: " + agreement.error().message});
     }
     append(findings, inspectLogo(files, folder + "/Logo.svg"));
     return findings;

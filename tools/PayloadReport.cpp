@@ -66,8 +66,7 @@ public:
         add(inspectEntries(files_, productsFolder_));
         add(inspectResources(files_, productsFolder_));
         if (isEmpty) {
-            add({{FindingCode::noProducts, productsFolder_,
-                "holds no product, and the wizard stops at “No products found”"}});
+            add({{"no-products", productsFolder_, "holds no product, and the wizard stops at “No products found”"}});
         }
     }
 
@@ -112,7 +111,7 @@ private:
         if (!free || needed <= *free) {
             return {};
         }
-        return {{FindingCode::noRoom, hosts_.application,
+        return {{"no-room", hosts_.application,
             "has too little room on this machine: " + sizeInWords(needed) + " are needed, and " + sizeInWords(*free)
                 + " are free"}};
     }
@@ -123,7 +122,7 @@ private:
     void sortFindings()
     {
         const auto key = [](const Finding& finding) {
-            return std::tuple(traitsOf(finding.code).severity, finding.path, finding.code, finding.text);
+            return std::tuple(finding.code.severity(), finding.path, finding.code.name(), finding.text);
         };
         Findings& findings = report_.findings;
         std::ranges::sort(findings, {}, key);

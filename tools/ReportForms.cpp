@@ -36,8 +36,8 @@ std::string countOf(std::uintmax_t count, std::string_view one)
 
 std::uintmax_t countOf(const PayloadReport& report, Severity severity)
 {
-    return static_cast<std::uintmax_t>(std::ranges::count(
-        report.findings, severity, [](const Finding& finding) { return traitsOf(finding.code).severity; }));
+    return static_cast<std::uintmax_t>(
+        std::ranges::count(report.findings, severity, [](const Finding& finding) { return finding.code.severity(); }));
 }
 
 std::string nameOfPath(const std::string& path)
@@ -62,10 +62,11 @@ void addElement(std::vector<std::string>& lines, const ElementReport& element)
 
 std::string lineOf(const Finding& finding, bool isColoured)
 {
-    const auto [code, severity] = traitsOf(finding.code);
+    const Severity severity = finding.code.severity();
     const std::string label = isColoured ? std::string(colourOf(severity)) + std::string(nameOf(severity)) + "\x1b[0m"
                                          : std::string(nameOf(severity));
-    return label + ": " + printable(finding.path) + ": " + printable(finding.text) + " [" + std::string(code) + "]";
+    return label + ": " + printable(finding.path) + ": " + printable(finding.text) + " ["
+        + std::string(finding.code.name()) + "]";
 }
 
 Json elementJson(const ElementReport& element)
@@ -130,9 +131,8 @@ std::string reportJson(const PayloadReport& report)
     }
     Json& findings = json["findings"] = Json::array();
     for (const Finding& finding : report.findings) {
-        const auto [code, severity] = traitsOf(finding.code);
-        findings.push_back({{"severity", nameOf(severity)}, {"code", code}, {"path", printable(finding.path)},
-            {"text", printable(finding.text)}});
+        findings.push_back({{"severity", nameOf(finding.code.severity())}, {"code", finding.code.name()},
+            {"path", printable(finding.path)}, {"text", printable(finding.text)}});
     }
     return json.dump(2);
 }

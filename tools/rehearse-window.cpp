@@ -4,33 +4,76 @@
 #include "tools/CommandLine.h"
 #include "tools/Rehearsal.h"
 
-int main(int count, char** arguments)
-{
-    using namespace corvellane;
-    setUpProcess();
-    const QApplication platform = applicationOnDisplay(count, arguments);
-    CLI::App program("The wizard with its window, installing below a scratch folder.", "rehearse-window");
-    std::string products;
+#include <algorithm>
+#include <span>
+
+namespace corvellane {
+namespace {
+
+constexpr const char* moreHelp
+    = R"(FOLDER is a maker's folder, which holds Products, CorvellaneEULA.rtf and Logo.svg, or a
+products folder beside which the other two lie. What is installed really is, as yourself
+and without a password, but below the folder of --into.
+
+Example:
+  rehearse-window --into /tmp/try ~/installer
+
+Exit status: 0 when the window was closed; 2 for wrong usage, and when there is no display
+to open it on.)";
+
+struct Options {
+    std::string folder;
     std::string into;
     std::string translations;
-    program.set_help_flag("--help", "Print this and end");
-    program.add_option("PRODUCTS", products, "The products folder; the agreement and the logo lie beside it")
+};
+
+void addOptions(CLI::App& program, Options& options)
+{
+    addCommonOptions(program, moreHelp);
+    program.add_option("FOLDER", options.folder, "The maker's folder, or its products folder")
         ->required()
         ->transform(asPath(program))
-        ->check(CLI::ExistingDirectory)
-        ->type_name("FOLDER");
-    program.add_option("--into", into, "Install below this folder, which is made")
+        ->check(CLI::ExistingDirectory.description(""))
+        ->type_name(" ");
+    program.add_option("--into", options.into, "Install below this folder, which is made")
         ->required()
         ->transform(asPath(program))
         ->type_name("FOLDER");
-    program.add_option("--translations", translations, "Take the translated texts from this folder")
+    program.add_option("--translations", options.translations, "Take the translated texts from this folder")
         ->transform(asPath(program))
         ->type_name("FOLDER");
+}
+
+/// What is answered without a display.
+bool isQuestion(int count, char** arguments)
+{
+    return std::ranges::any_of(std::span(arguments, static_cast<std::size_t>(count)),
+        [](std::string_view argument) { return argument == "--help" || argument == "--version"; });
+}
+
+int rehearse(int count, char** arguments)
+{
+    Options options;
+    CLI::App program("The wizard with its window, installing below a scratch folder.", "rehearse-window");
+    addOptions(program, options);
+    if (isQuestion(count, arguments)) {
+        return endOutput(program, readArguments(program, count, arguments).value_or(0));
+    }
+    const QApplication platform = applicationOnDisplay(count, arguments);
     if (const auto ending = readArguments(program, count, arguments)) {
         return *ending;
     }
     view::ViewHost::prepareApplication();
     DesktopSystem system;
-    makeRehearsal(system, products, into);
-    return Installer(system, translations).run();
+    makeRehearsal(system, productsFolderIn(options.folder), options.into);
+    return Installer(system, options.translations).run();
+}
+
+} // namespace
+} // namespace corvellane
+
+int main(int count, char** arguments)
+{
+    corvellane::setUpProcess();
+    return corvellane::rehearse(count, arguments);
 }

@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 
 namespace corvellane {
 namespace {
@@ -82,15 +81,6 @@ bool writesColours()
     const char* const terminal = std::getenv("TERM");
     return isTerminal(stdout) && (refusal == nullptr || *refusal == '\0') && terminal != nullptr
         && std::string_view(terminal) != "dumb";
-}
-
-/// The products folder in a maker's folder; any other is the products folder itself.
-std::string productsFolderIn(const std::string& folder)
-{
-    std::error_code error;
-    const std::string products = folder + "/Products";
-    const bool isMakers = lastPathComponent(folder) != "Products" && std::filesystem::is_directory(products, error);
-    return isMakers ? products : folder;
 }
 
 /// The product of that name: of exactly that one, or of one that looks the same.

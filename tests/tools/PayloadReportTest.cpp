@@ -71,7 +71,7 @@ protected:
     {
         std::vector<std::string> lines;
         for (const Finding& finding : report().findings) {
-            std::string line = std::string(nameOf(finding.code)) + " " + finding.path + ": " + finding.text;
+            std::string line = std::string(finding.code.name()) + " " + finding.path + ": " + finding.text;
             for (const std::string& base : {products() + "/", scratch.path() + "/"}) {
                 for (auto at = line.find(base); at != std::string::npos; at = line.find(base)) {
                     line.erase(at, base.size());
