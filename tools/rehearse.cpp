@@ -9,6 +9,7 @@
 #include "tools/UnicodeNames.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 
@@ -185,7 +186,8 @@ int carryOut(const CLI::App& program, Options& options)
     if (options.productsFolder.empty()) {
         return refuseUsage(program, "FOLDER is missing; --help tells the usage");
     }
-    if (options.script + options.into.has_value() + (options.json || options.strict) > 1) {
+    const std::array wanted{options.script, options.into.has_value(), options.json || options.strict};
+    if (std::ranges::count(wanted, true) > 1) {
         return refuseUsage(
             program, "--script, --into and the report of --json and --strict are three different things");
     }
