@@ -28,7 +28,10 @@ std::string colourNamed(std::string_view value)
     if (std::ranges::find(none, name) != none.end() || name.starts_with("url(")) {
         return {};
     }
-    return name == "black" || name == "currentcolor" ? "#000000" : name == "white" ? "#ffffff" : name;
+    if (name == "black" || name == "currentcolor") {
+        return "#000000";
+    }
+    return name == "white" ? "#ffffff" : name;
 }
 
 /// What a property is set to, as an attribute or in a style: the value behind `name`, "=" or ":", and a quote.
