@@ -89,14 +89,16 @@ Findings inspectPayload(
     Findings findings;
     std::set<std::string> folders{productsFolder};
     for (const std::string& element : elements) {
-        folders.insert(element.substr(0, element.rfind('/')));
+        folders.insert(folderOf(element));
     }
     for (const std::string& folder : folders) {
         inspectFile(findings, folder, *tree.find(folder));
         ReadingPerson().look(findings, folder, *tree.find(folder));
     }
     for (const std::string& element : elements) {
-        inspectFile(findings, element, *tree.find(element));
+        if (const ModelEntry* entry = tree.find(element)) {
+            inspectFile(findings, element, *entry);
+        }
         for (const auto& [path, entry] : tree.below(element)) {
             inspectFile(findings, path, entry);
         }

@@ -23,19 +23,6 @@ constexpr fs::perms keptBits = fs::perms::owner_all | fs::perms::group_read | fs
 constexpr fs::perms newFile
     = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read | fs::perms::others_read;
 
-std::string withoutEnd(std::string path)
-{
-    while (path.size() > 1 && path.ends_with('/')) {
-        path.pop_back();
-    }
-    return path;
-}
-
-std::string folderOf(const std::string& path)
-{
-    return path.substr(0, path.rfind('/'));
-}
-
 bool isFolder(const ModelEntry* entry)
 {
     return entry != nullptr && entry->kind == Kind::folder;

@@ -12,7 +12,7 @@ using Kind = ModelEntry::Kind;
 
 constexpr int mostLinks = 40;
 
-Kind kindOf(fs::file_type type)
+Kind modelled(fs::file_type type)
 {
     switch (type) {
     case fs::file_type::directory:
@@ -36,7 +36,7 @@ ModelEntry entryAt(const fs::path& path)
 {
     std::error_code error;
     const fs::file_status status = fs::symlink_status(path, error);
-    ModelEntry entry{.kind = kindOf(status.type()), .mode = status.permissions()};
+    ModelEntry entry{.kind = modelled(status.type()), .mode = status.permissions()};
     if (entry.kind == Kind::link) {
         entry.target = fs::read_symlink(path, error).native();
     } else if (entry.kind == Kind::file) {
@@ -45,11 +45,6 @@ ModelEntry entryAt(const fs::path& path)
     }
     entry.failure = error ? error.message() : "";
     return entry;
-}
-
-std::string aboveOf(const std::string& path)
-{
-    return path.substr(0, path.rfind('/'));
 }
 
 /// The parts of a path still to be walked, the next one last.
@@ -65,13 +60,26 @@ void push(std::vector<std::string>& parts, const fs::path& path)
 void step(std::string& reached, const std::string& part)
 {
     if (part == "..") {
-        reached = aboveOf(reached);
+        reached = folderOf(reached);
     } else if (!part.empty() && part != ".") {
         reached.append("/").append(part);
     }
 }
 
 } // namespace
+
+std::string withoutEnd(std::string path)
+{
+    while (path.size() > 1 && path.ends_with('/')) {
+        path.pop_back();
+    }
+    return path;
+}
+
+std::string folderOf(const std::string& path)
+{
+    return path.substr(0, path.rfind('/'));
+}
 
 const ModelEntry* ModelTree::find(const std::string& path) const
 {
@@ -87,7 +95,7 @@ ModelEntry* ModelTree::find(const std::string& path)
 
 void ModelTree::put(const std::string& path, ModelEntry entry)
 {
-    for (std::string above = aboveOf(path); !above.empty() && find(above) == nullptr; above = aboveOf(above)) {
+    for (std::string above = folderOf(path); !above.empty() && find(above) == nullptr; above = folderOf(above)) {
         entries_[above] = {};
     }
     entries_[path] = std::move(entry);
@@ -125,7 +133,7 @@ const ModelEntry* ModelTree::follow(const std::string& path) const
         }
         if (entry != nullptr && entry->kind == Kind::link) {
             push(parts, entry->target);
-            reached = entry->target.starts_with('/') ? "" : aboveOf(reached);
+            reached = entry->target.starts_with('/') ? "" : folderOf(reached);
             ++links;
         }
     }

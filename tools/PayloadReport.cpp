@@ -44,12 +44,6 @@ ElementReport describeElement(const ModelTree& tree, const std::string& path, co
     return element;
 }
 
-std::string withoutEnd(std::string folder)
-{
-    folder.pop_back();
-    return folder;
-}
-
 class Reporter {
 public:
     Reporter(const Files& files, std::string productsFolder, const HostPaths& hosts)
