@@ -3,11 +3,8 @@
 #include "base/PathNames.h"
 #include "helper/InstallFolders.h"
 #include "platform/script/Parser.h"
-#include "tools/PrintableText.h"
+#include "tools/RunFindings.h"
 
-#include <map>
-#include <optional>
-#include <set>
 #include <utility>
 
 namespace corvellane {
@@ -57,6 +54,7 @@ public:
     ModelRun(ModelTree& tree, const runner::InstallFolders& folders)
         : tree_(tree)
         , folders_(folders)
+        , findings_(folders.application)
     {
     }
 
@@ -65,11 +63,11 @@ public:
         const std::string path = withoutEnd(command.path);
         ModelEntry* there = tree_.find(path);
         if (there == nullptr) {
-            tree_.put(path, {.owner = ownerAt(path), .element = element_});
+            tree_.put(path, {.owner = ownerAt(path), .element = findings_.element()});
         } else if (there->kind == Kind::folder) {
             there->isAssumed = false;
         } else {
-            block(path);
+            findings_.addBlocked(path);
         }
     }
 
@@ -77,10 +75,10 @@ public:
     {
         const std::string source = withoutEnd(command.source);
         if (runner::isWithin(source, folders_.products)) {
-            element_ = source;
+            findings_.begin(source);
         }
         if (!isFolder(tree_.follow(source))) {
-            return miss(source);
+            return findings_.addMissing(source);
         }
         const bool isWhole = !command.source.ends_with('/');
         const std::string target
@@ -97,10 +95,8 @@ public:
     void operator()(const runner::Remove& command)
     {
         const ModelEntry* there = tree_.find(command.path);
-        if (there != nullptr && !there->element.empty() && there->element != element_) {
-            findings_.push_back({"removed", there->element,
-                "loses " + quotedPrintable(command.path) + " again when " + quotedPrintable(element_)
-                    + " is installed, which supersedes it"});
+        if (isOthers(there)) {
+            findings_.addRemoved(there->element, command.path);
         }
         tree_.remove(command.path);
     }
@@ -114,40 +110,40 @@ public:
         }
         const ModelEntry* folder = tree_.follow(folderOf(path));
         if (!isFolder(tree_.follow(target))) {
-            miss(target);
+            findings_.addMissing(target);
         }
         if (!isFolder(folder)) {
-            return miss(folderOf(path));
+            return findings_.addMissing(folderOf(path));
         }
-        if (folder->isAssumed && told_.insert(folderOf(path)).second) {
-            findings_.push_back({"assumed", folderOf(path) + "/",
-                "is not created by the script when these products are installed together; it must be there already"});
+        if (folder->isAssumed) {
+            findings_.addAssumed(folderOf(path));
         }
-        place(path, {.kind = Kind::link, .owner = ownerAt(path), .target = target, .element = element_}, true);
+        place(
+            path, {.kind = Kind::link, .owner = ownerAt(path), .target = target, .element = findings_.element()}, true);
     }
 
     void operator()(const runner::WriteText& command)
     {
         const std::string editor = editorIn(command.text);
         if (!editor.empty() && !isFolder(tree_.follow(editor))) {
-            miss(editor);
+            findings_.addMissing(editor);
         }
         if (!isFolder(tree_.follow(folderOf(command.path)))) {
-            return miss(folderOf(command.path));
+            return findings_.addMissing(folderOf(command.path));
         }
         const ModelEntry* there = tree_.find(command.path);
         if (there != nullptr && there->kind != Kind::file) {
-            return block(command.path);
+            return findings_.addBlocked(command.path);
         }
-        if (there != nullptr && there->element == element_) {
-            findings_.push_back({"rewritten", there->origin, "is written anew by the installation"});
+        if (there != nullptr && there->element == findings_.element()) {
+            findings_.addRewritten(there->origin);
         }
         place(command.path,
             {.kind = Kind::file,
                 .mode = newFile,
                 .size = command.text.size(),
                 .owner = ownerAt(command.path),
-                .element = element_},
+                .element = findings_.element()},
             true);
     }
 
@@ -155,7 +151,7 @@ public:
     {
         const std::string path = withoutEnd(command.path);
         if (tree_.find(path) == nullptr) {
-            return miss(path);
+            return findings_.addMissing(path);
         }
         tree_.find(path)->owner = Owner::person;
         for (auto& [inside, entry] : tree_.below(path)) {
@@ -163,31 +159,20 @@ public:
         }
     }
 
-    void refuse(const std::string& refusal)
-    {
-        findings_.push_back({"refused", element_, "is refused by what carries commands out: " + refusal});
-    }
+    void refuse(const std::string& refusal) { findings_.addRefused(refusal); }
 
-    Findings finish()
-    {
-        for (const auto& [elements, clash] : clashes_) {
-            const std::string more = clash.count > 1 ? " and " + std::to_string(clash.count - 1) + " more" : "";
-            findings_.push_back({"overwritten", elements.second,
-                "is installed over what " + quotedPrintable(elements.first)
-                    + " has installed: " + quotedPrintable(clash.first) + more});
-        }
-        return std::move(findings_);
-    }
+    Findings finish() { return findings_.finish(); }
 
 private:
-    struct Clash {
-        std::string first;
-        int count = 0;
-    };
-
     Owner ownerAt(const std::string& path) const
     {
         return runner::isWithin(path, folders_.lightroom) ? Owner::person : Owner::administrator;
+    }
+
+    /// Whether it was made for another element.
+    bool isOthers(const ModelEntry* entry) const
+    {
+        return entry != nullptr && !entry->element.empty() && entry->element != findings_.element();
     }
 
     void placeCopy(const std::string& path, const std::string& source, const ModelEntry& entry, bool isRoot)
@@ -196,7 +181,7 @@ private:
         copy.mode &= keptBits;
         copy.owner = ownerAt(path);
         copy.origin = entry.origin.empty() ? source : entry.origin;
-        copy.element = element_;
+        copy.element = findings_.element();
         place(path, std::move(copy), isRoot);
     }
 
@@ -205,44 +190,17 @@ private:
     {
         const ModelEntry* there = tree_.find(path);
         const bool isMerged = isFolder(there) && entry.kind == Kind::folder;
-        if (there != nullptr && !there->element.empty() && there->element != element_ && (isNamed || !isMerged)) {
-            Clash& clash = clashes_[{there->element, element_}];
-            clash.first = clash.count++ == 0 ? path : clash.first;
+        if (isOthers(there) && (isNamed || !isMerged)) {
+            findings_.addOverwritten(there->element, path);
         }
         if (!isMerged) {
             tree_.put(path, std::move(entry));
         }
     }
 
-    /// In the words of the element's maker, where it lies in the element.
-    std::string inElement(const std::string& path) const
-    {
-        const std::string installed = folders_.application + std::string(lastPathComponent(element_)) + "/";
-        return quotedPrintable(path.starts_with(installed) ? path.substr(installed.size()) : path);
-    }
-
-    void miss(const std::string& path)
-    {
-        if (told_.insert(path).second) {
-            findings_.push_back(
-                {"missing", element_, "lacks the folder " + inElement(path) + ", which the script needs"});
-        }
-    }
-
-    void block(const std::string& path)
-    {
-        findings_.push_back(
-            {"blocked", element_, "has something else at " + inElement(path) + ", which the script makes"});
-    }
-
     ModelTree& tree_;
     const runner::InstallFolders& folders_;
-    /// The element whose commands are carried out.
-    std::string element_;
-    /// By the elements, the earlier one first.
-    std::map<std::pair<std::string, std::string>, Clash> clashes_;
-    std::set<std::string> told_;
-    Findings findings_;
+    RunFindings findings_;
 };
 
 } // namespace
