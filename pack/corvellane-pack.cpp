@@ -290,14 +290,19 @@ std::vector<std::string> problemsOf(const Options& options, Description& descrip
     return problems;
 }
 
-/// Whether the products can be installed; says what the rehearsal says when not all is well.
+/// Whether what is in the folder can be installed; shows what the rehearsal finds.
 bool isRehearsed(const Options& options)
 {
-    const runner::Reply reply = run({ownFolder() + "/../tools/rehearse", options.folder + "/Products"});
+    std::vector<std::string> words{ownFolder() + "/../tools/rehearse", options.folder};
+    if (options.strict) {
+        words.emplace_back("--strict");
+    }
+    const runner::Reply reply = run(words);
     if (reply.status != 0) {
         std::fputs((reply.output + reply.errors).c_str(), stderr);
+        tell({"nothing is made: the rehearsal found errors in the folder"});
     }
-    return reply.status == 0 || !options.strict;
+    return reply.status == 0;
 }
 
 int make(const Options& options)

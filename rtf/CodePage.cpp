@@ -61,7 +61,6 @@ constexpr auto pageNames = std::to_array<PageName>({
     {65001, "UTF-8"},
 });
 
-constexpr int westernPage = 1252;
 /// Of the bytes from 0x80 on, those that are not the character of their own number.
 constexpr std::array<char32_t, 0x20> westernCharacters{U'€', CodePage::invalid, U'‚', U'ƒ', U'„', U'…', U'†', U'‡',
     U'ˆ', U'‰', U'Š', U'‹', U'Œ', CodePage::invalid, U'Ž', CodePage::invalid, CodePage::invalid, U'‘', U'’', U'“', U'”',

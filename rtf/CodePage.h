@@ -9,6 +9,9 @@
 
 namespace corvellane::rtf {
 
+/// The number of the page of Western Europe, which stands in for one that is unknown.
+constexpr int westernPage = 1252;
+
 /// A code page: what bytes of text stand for. The characters of bytes seen once are remembered.
 class CodePage {
 public:

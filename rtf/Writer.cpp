@@ -9,7 +9,6 @@ namespace corvellane::rtf {
 namespace {
 
 constexpr int unicodePage = 65001;
-constexpr int westernPage = 1252;
 constexpr std::uint8_t deepestTable = 16;
 constexpr char32_t objectCharacter = 0xFFFC;
 constexpr Border noteRule{.style = LineStyle::solid, .width = 10, .space = 6, .padding = 0, .color = {}};

@@ -33,7 +33,7 @@ struct Substitutes {
 };
 
 /// The first row that fits counts.
-constexpr auto rows = std::to_array<Substitutes>({
+constexpr auto substitutes = std::to_array<Substitutes>({
     {"arialnarrow", narrow},
     {"arialunicode", gothicJapanese},
     {"arial", sans},
@@ -196,8 +196,9 @@ const char* guessFor(const rtf::FontFamily& family, const std::string& letters)
 
 const char* known(std::string_view name, const std::string& letters)
 {
-    const auto* const row = std::ranges::find_if(rows, [&](auto& each) { return letters.starts_with(each.beginning); });
-    if (row != rows.end()) {
+    const auto* const row
+        = std::ranges::find_if(substitutes, [&](auto& each) { return letters.starts_with(each.beginning); });
+    if (row != substitutes.end()) {
         return row->families;
     }
     const auto* const own

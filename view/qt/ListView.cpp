@@ -19,7 +19,7 @@
 namespace corvellane::view {
 namespace {
 
-constexpr int inset = 10;
+constexpr int besideRow = 10;
 constexpr int aboveName = 4;
 constexpr int besideFocus = 3;
 /// Between the list's edge and its first row, and after its last.
@@ -40,13 +40,13 @@ int sizeOf(const Symbol& symbol)
 QRect symbolArea(const QRect& row, const Symbol& symbol)
 {
     const int size = sizeOf(symbol);
-    return mirrored(row, {row.left() + inset, row.top() + (row.height() - size) / 2, size, size});
+    return mirrored(row, {row.left() + besideRow, row.top() + (row.height() - size) / 2, size, size});
 }
 
 /// The width that a row leaves to its name.
 int nameWidth(int rowWidth, const Symbol& symbol)
 {
-    return rowWidth - 2 * inset - sizeOf(symbol) - standardSpacing;
+    return rowWidth - 2 * besideRow - sizeOf(symbol) - standardSpacing;
 }
 
 /// The name's own area, as wide as its longest line.
@@ -54,7 +54,7 @@ QRect nameArea(const QRect& row, const Symbol& symbol, const QFont& font, const 
 {
     const int natural = QFontMetrics(font).size(0, name.text).width() + 1;
     const int width = std::clamp(natural, 0, std::max(0, nameWidth(row.width(), symbol)));
-    return mirrored(row, {row.left() + inset + sizeOf(symbol) + standardSpacing, row.top(), width, row.height()});
+    return mirrored(row, {row.left() + besideRow + sizeOf(symbol) + standardSpacing, row.top(), width, row.height()});
 }
 
 /// A name has a direction of its own, and stands where those of the window's direction begin.
@@ -168,7 +168,7 @@ QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInde
     const auto* const list = static_cast<const QAbstractScrollArea*>(option.widget);
     const NameLines name = nameOf(index, list->viewport()->width());
     const int text = QFontMetrics(fontOf(model_.list().font)).size(0, name.text).height();
-    return {inset, std::max(sizeOf(model_.list().plain), text) + 2 * aboveName};
+    return {besideRow, std::max(sizeOf(model_.list().plain), text) + 2 * aboveName};
 }
 
 bool RowDelegate::isHit(const QModelIndex& index, const QRect& row, const QPoint& point) const

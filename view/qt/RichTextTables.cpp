@@ -152,7 +152,7 @@ rtf::Border borderOf(const GridCell& cell, std::size_t side, int rows, int colum
     return isOuter.at(side) ? row.borders.at(side) : row.innerBorders.at(isBetweenRows ? 0 : 1);
 }
 
-Qt::Alignment alignmentOf(rtf::Alignment alignment)
+Qt::Alignment placeOf(rtf::Alignment alignment)
 {
     if (alignment == rtf::Alignment::centre) {
         return Qt::AlignHCenter;
@@ -223,7 +223,7 @@ QTextTableFormat tableFormatFor(const TableGrid& grid, const rtf::RowFormat& fir
     const bool isFull = width + grid.left > fullWidth;
     format.setWidth(
         isFull ? QTextLength(QTextLength::PercentageLength, 100) : QTextLength(QTextLength::FixedLength, width));
-    format.setAlignment(alignmentOf(firstRow.alignment));
+    format.setAlignment(placeOf(firstRow.alignment));
     format.setLeftMargin(isFull ? 0 : std::clamp(grid.left, 0.0, widestLeft));
     if (firstRow.rightToLeft) {
         format.setLayoutDirection(Qt::RightToLeft);
