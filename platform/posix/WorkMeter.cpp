@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
+#include <limits>
 #include <string_view>
 
 namespace corvellane {
@@ -63,6 +64,8 @@ void WorkMeter::begin(const std::vector<std::string>& commands)
     const std::lock_guard lock(mutex_);
     std::ranges::transform(commands, std::back_inserter(works_), &workOf);
     current_ = 0;
+    startOfCurrent_ = std::numeric_limits<std::time_t>::max(); // nothing counts as written before it starts
+    writtenByCurrent_ = 0;
     greatestPart_ = 0;
     nextLook_ = {};
 }

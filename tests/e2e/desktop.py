@@ -90,6 +90,7 @@ class Wizard:
         self.atspi = pyatspi
         self.FLAGS = {"checked": pyatspi.STATE_CHECKED, "focused": pyatspi.STATE_FOCUSED}
         self.output = output
+        os.environ.pop("QT_QPA_PLATFORM", None)  # a window is wanted, whatever tests without one have set
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", LANGUAGE="en")
         with open(output, "wb") as file:
             command = [*agent, bundle + "/bin/corvellane-installer"]
