@@ -5,9 +5,11 @@
 #include <fcntl.h>
 #include <grp.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -17,33 +19,56 @@ namespace {
 
 constexpr int refused = 126;
 
-/// Makes this process another user's while it lives. A program that is started meanwhile has no way back.
-class AsUser {
-public:
-    /// Nobody's when there is no user, and where this process is not root's.
-    explicit AsUser(const User* user)
-        : isOther_(user != nullptr && user->id != 0 && geteuid() == 0)
-    {
-        if (isOther_) {
-            hasFailed_ = setgroups(user->groups.size(), user->groups.data()) != 0
-                || setresgid(user->group, user->group, 0) != 0 || setresuid(user->id, user->id, 0) != 0;
-        }
-    }
-    AsUser(const AsUser&) = delete;
-    AsUser& operator=(const AsUser&) = delete;
-    ~AsUser()
-    {
-        if (isOther_ && (setresuid(0, 0, 0) != 0 || setresgid(0, 0, 0) != 0 || setgroups(0, nullptr) != 0)) {
-            std::abort();
-        }
-    }
+bool become(const User& user)
+{
+    return setgroups(user.groups.size(), user.groups.data()) == 0 && setresgid(user.group, user.group, user.group) == 0
+        && setresuid(user.id, user.id, user.id) == 0;
+}
 
-    bool hasFailed() const { return hasFailed_; }
+bool readWhole(int file, char* place, std::size_t size)
+{
+    while (size > 0) {
+        const ssize_t count = read(file, place, size);
+        if (count <= 0) {
+            return false;
+        }
+        place += count;
+        size -= static_cast<std::size_t>(count);
+    }
+    return true;
+}
 
-private:
-    bool isOther_;
-    bool hasFailed_ = false;
-};
+void writeWhole(int file, std::string_view bytes)
+{
+    ssize_t count = 0;
+    while (!bytes.empty() && (count = ::write(file, bytes.data(), bytes.size())) > 0) {
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+}
+
+/// What a process of its own replies that is the user's for good. File systems of a user's own, FUSE for one, refuse
+/// whoever could become root again, and nothing that is done there has a way back.
+template <typename Task>
+Reply asUser(const User& user, Task task)
+{
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) {
+        return cannotRun(std::strerror(errno));
+    }
+    const pid_t child = fork();
+    if (child == 0) {
+        const Reply reply = become(user) ? task() : cannotRun(std::strerror(errno));
+        writeReply(reply, [&](std::string_view bytes) { writeWhole(ends[1], bytes); });
+        _exit(0);
+    }
+    close(ends[1]);
+    auto reply = readReply([&](char* place, std::size_t size) { return readWhole(ends[0], place, size); });
+    close(ends[0]);
+    if (child > 0) {
+        waitpid(child, nullptr, 0);
+    }
+    return reply ? *std::move(reply) : cannotRun("the user's process has ended unexpectedly");
+}
 
 /// The shell's own words for a folder that is missing.
 const char* describe(int error)
@@ -162,28 +187,35 @@ std::optional<std::string> whyUnsafe(const InstallCommand& command, const Site& 
     return site.owner == Owner::anybody ? std::nullopt : whyChangeable(nearestThere(writtenFolder(command)));
 }
 
+namespace {
+
+Reply carryOut(const InstallCommand& command, std::string_view text, const Site& site)
+{
+    if (const auto reason = whyUnsafe(command, site)) {
+        return refuse(*reason);
+    }
+    if (const auto* echo = std::get_if<WriteText>(&command)) {
+        return write(*echo);
+    }
+    if (isDone(command)) {
+        return {};
+    }
+    // Names in messages are UTF-8; a tool that had to load all of a language would take a quarter longer to start.
+    const auto words = std::visit(Words(site.user), command);
+    return runProgram("/bin/" + words.front(), words, {"PATH=/usr/bin:/bin", "LC_CTYPE=C.UTF-8"}, text);
+}
+
+} // namespace
+
 Reply carryOut(std::string_view text, const Site& site)
 {
     const auto [command, refusal] = readCommand(text, site.folders);
     if (!command) {
         return refuse(refusal);
     }
-    const AsUser rights(isUsers(*command, site.folders) ? &site.user : nullptr);
-    if (rights.hasFailed()) {
-        return cannotRun(std::strerror(errno));
-    }
-    if (const auto reason = whyUnsafe(*command, site)) {
-        return refuse(*reason);
-    }
-    if (const auto* echo = std::get_if<WriteText>(&*command)) {
-        return write(*echo);
-    }
-    if (isDone(*command)) {
-        return {};
-    }
-    // Names in messages are UTF-8; a tool that had to load all of a language would take a quarter longer to start.
-    const auto words = std::visit(Words(site.user), *command);
-    return runProgram("/bin/" + words.front(), words, {"PATH=/usr/bin:/bin", "LC_CTYPE=C.UTF-8"}, text);
+    const auto itself = [&, &command = *command] { return carryOut(command, text, site); };
+    const bool isForAnother = isUsers(*command, site.folders) && site.user.id != 0 && geteuid() == 0;
+    return isForAnother ? asUser(site.user, itself) : itself();
 }
 
 } // namespace corvellane::runner
