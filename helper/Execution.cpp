@@ -209,12 +209,12 @@ Reply carryOut(const InstallCommand& command, std::string_view text, const Site&
 
 Reply carryOut(std::string_view text, const Site& site)
 {
-    const auto [command, refusal] = readCommand(text, site.folders);
-    if (!command) {
-        return refuse(refusal);
+    const Reading reading = readCommand(text, site.folders);
+    if (!reading.command) {
+        return refuse(reading.refusal);
     }
-    const auto itself = [&, &command = *command] { return carryOut(command, text, site); };
-    const bool isForAnother = isUsers(*command, site.folders) && site.user.id != 0 && geteuid() == 0;
+    const auto itself = [&] { return carryOut(*reading.command, text, site); };
+    const bool isForAnother = isUsers(*reading.command, site.folders) && site.user.id != 0 && geteuid() == 0;
     return isForAnother ? asUser(site.user, itself) : itself();
 }
 
