@@ -1,6 +1,6 @@
 // The command runner beside one root shell that does the same. Root, on a machine with polkit:
 //
-//     tests/machine/on-a-copy tests/machine/with-polkit build/release/bench/runner-benchmark BUNDLE/bin
+//     tests/machine/on-a-copy tests/machine/with-polkit build/bench/bench/runner-benchmark BUNDLE/bin
 //
 // The first argument is the folder of the command runner. To compare, let both take turns and look at the medians, by
 // --benchmark_enable_random_interleaving --benchmark_repetitions=12.

@@ -27,6 +27,24 @@ if(CORVELLANE_SANITIZE)
     target_link_options(corvellane-options INTERFACE ${sanitizers})
 endif()
 
+# Hardened by compiler and linker, whatever the compiler's own defaults are. The sanitizers have checks of their own.
+include(CheckCXXCompilerFlag)
+include(CheckPIESupported)
+check_pie_supported()
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT CORVELLANE_SANITIZE)
+    target_compile_options(corvellane-options INTERFACE
+        -fstack-protector-strong $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
+    check_cxx_compiler_flag(-fcf-protection hasControlFlowProtection)
+    if(hasControlFlowProtection)
+        target_compile_options(corvellane-options INTERFACE -fcf-protection)
+    endif()
+    if(LINUX)
+        target_link_options(corvellane-options INTERFACE
+            LINKER:-z,relro LINKER:-z,now $<$<BOOL:${hasControlFlowProtection}>:LINKER:-z,shstk>)
+    endif()
+endif()
+
 # corvellane_library(NAME [LOOPS] SOURCES file... LINKS target...): a folder's target, header-only when it has no
 # sources. Released, the program is optimised to be small, as all of it is loaded at every start; LOOPS is for what works
 # through long texts, lists or trees, and is optimised for speed.
