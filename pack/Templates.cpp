@@ -62,8 +62,8 @@ std::string retold(const std::string& sample, const Description& description, st
             {"The authors of the Corvellane Plugin Installer", inside(description.publisher)},
             {"Corvellane Plugin Installer", inside(description.name)},
             {"https://corvellane.example/", inside(description.homepage)},
-            {R"(version="1.0.0" date="2026-11-22")",
-                "version=\"" + description.version + "\" date=\"" + dateOf(epoch) + '"'},
+            {"@PROJECT_VERSION@", description.version},
+            {"@DATE@", dateOf(epoch)},
             {"/usr/lib/corvellane-installer", programs},
             {"Exec=corvellane-installer", "Exec=" + programs + "/bin/corvellane-installer"},
             {"Corvellane", inside(description.publisher)}});

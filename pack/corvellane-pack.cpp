@@ -249,15 +249,20 @@ std::string ownFolder()
     return fs::canonical("/proc/self/exe").parent_path().native();
 }
 
-/// That of the build whose program this is, or the one that lies beside it where it is installed.
-std::string kitFolder()
+/// Of a build where this program is a build's, else of the installed kit.
+std::string ownFile(const std::vector<std::string>& places)
 {
-    for (const char* const place : {"/../kit", "/../lib/corvellane-maker"}) {
-        if (fs::is_directory(ownFolder() + place)) {
+    for (const std::string& place : places) {
+        if (fs::exists(ownFolder() + place)) {
             return fs::canonical(ownFolder() + place).native();
         }
     }
-    throw std::runtime_error("the programs to pack are missing: build them with cmake --build BUILD --target kit");
+    throw std::runtime_error("“" + ownFolder() + places.back() + "” is missing: it is made by the target “kit” of a build");
+}
+
+std::string kitFolder()
+{
+    return ownFile({"/../kit", "/../lib/corvellane-maker"});
 }
 
 std::int64_t epoch()
@@ -293,7 +298,7 @@ std::vector<std::string> problemsOf(const Options& options, Description& descrip
 /// Whether what is in the folder can be installed; shows what the rehearsal finds.
 bool isRehearsed(const Options& options)
 {
-    std::vector<std::string> words{ownFolder() + "/../tools/rehearse", options.folder};
+    std::vector<std::string> words{ownFile({"/../tools/rehearse", "/rehearse"}), options.folder};
     if (options.strict) {
         words.emplace_back("--strict");
     }

@@ -9,11 +9,12 @@ foreach(component Unspecified libraries)
         COMMAND ${CMAKE_COMMAND} --install ${BUILD} --strip --component ${component} --prefix ${KIT}/bundle
         OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 endforeach()
-file(COPY ${KIT}/bundle/bin/corvellane-installer ${KIT}/bundle/bin/corvellane-command-runner
-    DESTINATION ${KIT}/system/bin)
-file(COPY ${KIT}/bundle/Resources DESTINATION ${KIT}/system)
+file(COPY ${KIT}/bundle/bin ${KIT}/bundle/Resources DESTINATION ${KIT}/system PATTERN qt.conf EXCLUDE)
 # Where the system's libraries are used, no other place is searched for them.
-file(RPATH_REMOVE FILE ${KIT}/system/bin/corvellane-installer)
+file(GLOB programs ${KIT}/system/bin/*)
+foreach(program ${programs})
+    file(RPATH_REMOVE FILE ${program})
+endforeach()
 
 foreach(ending desktop metainfo.xml policy)
     file(COPY ${BUILD}/packaging/com.corvellane.PluginInstaller.${ending} DESTINATION ${KIT}/desktop)
@@ -21,15 +22,10 @@ endforeach()
 file(COPY ${SOURCE}/packaging/com.corvellane.PluginInstaller.svg DESTINATION ${KIT}/desktop)
 file(COPY ${SOURCE}/packaging/copyright ${SOURCE}/packaging/starter DESTINATION ${KIT})
 
-# What the programs need of a Debian system, as its own tools find out.
-file(WRITE ${KIT}/debian/control "")
-execute_process(
-    COMMAND dpkg-shlibdeps -O -esystem/bin/corvellane-installer -esystem/bin/corvellane-command-runner
-    WORKING_DIRECTORY ${KIT}
-    OUTPUT_VARIABLE found ERROR_QUIET OUTPUT_STRIP_TRAILING_WHITESPACE
-    COMMAND_ERROR_IS_FATAL ANY)
-string(REGEX REPLACE "^shlibs:Depends=" "" depends "${found}")
+# What the programs need of a Debian system.
+include(${CMAKE_CURRENT_LIST_DIR}/Debian.cmake)
+debian_depends(depends ${programs})
+list(JOIN depends ", " depends)
 file(WRITE ${KIT}/debian/depends "${depends}, pkexec, polkitd, qt6-qpa-plugins")
-file(REMOVE ${KIT}/debian/control)
 execute_process(COMMAND dpkg --print-architecture OUTPUT_FILE ${KIT}/debian/architecture COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND uname -m OUTPUT_FILE ${KIT}/architecture COMMAND_ERROR_IS_FATAL ANY)

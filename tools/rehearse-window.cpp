@@ -1,4 +1,5 @@
 #include "app/Installer.h"
+#include "platform/Resources.h"
 #include "platform/posix/ProcessSetup.h"
 #include "platform/qt/Display.h"
 #include "tools/CommandLine.h"
@@ -65,6 +66,9 @@ int rehearse(int count, char** arguments)
     }
     view::ViewHost::prepareApplication();
     DesktopSystem system;
+    if (options.translations.empty()) {
+        options.translations = system.resources->folder("translations").value_or("");
+    }
     makeRehearsal(system, productsFolderIn(options.folder), options.into);
     return Installer(system, options.translations).run();
 }

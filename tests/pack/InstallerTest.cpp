@@ -18,7 +18,7 @@ TEST(Templates, tellOfTheMakerWhatTheSampleTellsOfItself)
                   0, Quoting::none),
         "Name=It's <Grain>\nExec=/usr/lib/com.example.grain/bin/corvellane-installer\nComment=Install Example & Co");
     EXPECT_EQ(retold("<a id=\"com.corvellane\">com.corvellane.PluginInstaller.install Corvellane Plugin Installer"
-                     "<release version=\"1.0.0\" date=\"2026-11-22\" />",
+                     "<release version=\"@PROJECT_VERSION@\" date=\"@DATE@\" />",
                   example, 86400, Quoting::xml),
         "<a id=\"com.example\">com.example.Grain.install It's &lt;Grain&gt;"
         "<release version=\"1.2\" date=\"1970-01-02\" />");

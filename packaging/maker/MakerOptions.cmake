@@ -1,0 +1,16 @@
+# Read by cpack for each kind of package.
+if(CPACK_GENERATOR STREQUAL "DEB")
+    set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+    list(GET CPACK_INSTALL_CMAKE_PROJECTS 0 build)
+    set(bundle ${build}/kit/bundle)
+    include(${CMAKE_CURRENT_LIST_DIR}/../Debian.cmake)
+    file(GLOB_RECURSE libraries ${bundle}/lib/* ${bundle}/plugins/*)
+    debian_depends(depends --ignore-missing-info ${build}/pack/corvellane-pack ${build}/tools/rehearse ${libraries})
+    # Of what the libraries brought along need, what is brought along itself: its licences have the names of its packages.
+    file(GLOB own RELATIVE ${bundle}/licenses ${bundle}/licenses/*)
+    list(TRANSFORM own REPLACE "([.+])" "[\\1]")
+    list(JOIN own "|" own)
+    list(FILTER depends EXCLUDE REGEX "^(${own}|qt6-base-abi)( |$)")
+    list(APPEND depends zstd)
+    list(JOIN depends ", " CPACK_DEBIAN_PACKAGE_DEPENDS)
+endif()
