@@ -65,10 +65,14 @@ inline void numberingLevel(Writer& writer, const Token& token)
     writer.lists.numberingLevel = static_cast<std::uint8_t>(std::clamp(token.parameterOr(1), 0, 9));
 }
 
+/// A paragraph that goes on with no number of its own has none, whatever kind of them it names.
 template <std::int32_t Kind>
 void numberingKind(Writer& writer, const Token&)
 {
-    writer.lists.level().kind = Kind;
+    std::int32_t& kind = writer.lists.level().kind;
+    if (kind != ListLevel::none) {
+        kind = Kind;
+    }
 }
 
 inline void numberingFont(Writer& writer, const Token& token)

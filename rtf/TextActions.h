@@ -212,18 +212,21 @@ inline void binary(Writer& writer, const Token& token)
     }
 }
 
-inline void propertyName(Writer& writer, const Token& token)
+/// Of a picture, or of a shape, which is none of the text's groups.
+inline void propertyName(Writer& writer, const Token&)
 {
-    destinationWithin<Destination::picture, Destination::propertyName>(writer, token);
+    const Destination around = writer.group().destination;
+    const bool isWithin = around == Destination::picture || around == Destination::body;
+    writer.changeGroup().destination = isWithin ? Destination::propertyName : Destination::skipped;
     writer.pictures.propertyName.clear();
 }
 
-/// Of a picture's properties its description alone says something.
+/// Of a picture's properties its description alone says something, and of a shape's the picture that fills it.
 inline void propertyValue(Writer& writer, const Token& token)
 {
     if (writer.pictures.propertyName == "wzDescription") {
         destinationWithin<Destination::picture, Destination::propertyValue>(writer, token);
-    } else {
+    } else if (writer.pictures.propertyName != "pib" || writer.group().destination != Destination::body) {
         writer.skipGroup();
     }
 }

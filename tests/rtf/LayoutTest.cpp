@@ -109,6 +109,7 @@ TEST(Lists, countWhatIsNotWritten)
         {R"(\ls1{\v hidden}\b a)", "3.\ta\n"},
         {R"({\*\pn\pnlvlbody\pnucrm\pnstart3{\pntxtb (}{\pntxta )}}a\par b\par\pard c)", "(III)\ta\n(IV)\tb\nc\n"},
         {R"({\*\pn\pnlvlblt\pnf1{\pntxtb\'b7}}a\par)", "•\ta\n"},
+        {R"({\*\pn\pnlvlcont\ilvl0\ls0\pndec}a\par)", "a\n"},
         {R"({\*\pn\pnlvlbody\pndec{\pntxta .}}a\par\pard x\par{\*\pn\pnlvlbody\pndec{\pntxta .}}b)",
             "1.\ta\nx\n1.\tb\n"},
     };
@@ -207,6 +208,8 @@ TEST(Pictures, areKeptWithinBoundsAndElseDescribed)
         {R"({\pict\jpegblip ffd8ffe00004}.)", ".\n"},
         {R"({\pict\dibitmap0 280000000100000001000000010018000000000000000000}.)", "\uFFFC.\n"},
         {R"({\shp{\*\shpinst{\sp{\sn wzDescription}{\sv no picture}}}}.)", ".\n"},
+        {R"({\shp{\*\shpinst{\sp{\sn pib}{\sv{\pict\jpegblip ffd8ffc0000b080010001001}}}}{\shprslt x}}.)", "\uFFFC.\n"},
+        {R"({\shp{\*\shpinst{\sp{\sn pibName}{\sv logo.jpg}}{\sp{\sn pib}{\sv{\pict\wmetafile8 00}}}}}.)", ".\n"},
         {R"({\v{\pict\jpegblip ffd8ffc0000b080010001001}}.)", ".\n"},
     };
     for (const auto& [body, expected] : rows) {
