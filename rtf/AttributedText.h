@@ -113,7 +113,8 @@ struct LineHeight {
     std::int32_t value = 0;
 };
 
-/// How a paragraph is laid out. Lengths may be negative where that makes sense to the author.
+/// How a paragraph is laid out. Lengths may be negative where that makes sense to the author. Indents and tab stops are
+/// counted from where lines begin: in a right-to-left paragraph "left" is its right side.
 struct ParagraphFormat {
     Twips leftIndent = 0;
     Twips rightIndent = 0;

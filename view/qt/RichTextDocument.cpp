@@ -13,13 +13,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <span>
-#include <string_view>
 #include <vector>
 
 namespace corvellane::view {
 namespace {
 
-constexpr double pageMargin = 8;
 constexpr std::size_t mostGridCells = 20'000;
 
 using Blocks = std::span<const rtf::Block>;
@@ -54,38 +52,6 @@ struct Space {
     double below;
 };
 
-/// What fills the space of each tab in a paragraph's text. Where each of them stops is known only when it is laid out:
-/// the last tab is taken to reach the last stop, and so on backwards.
-std::vector<rtf::TabLeader> leadersOf(
-    const rtf::AttributedText& text, const rtf::ParagraphFormat& format, std::string_view characters)
-{
-    std::vector<rtf::TabStop> stops = text.tabsOf(format);
-    if (std::ranges::all_of(stops, [](const auto& stop) { return stop.leader == rtf::TabLeader::none; })) {
-        return {};
-    }
-    std::ranges::sort(stops, {}, &rtf::TabStop::position);
-    std::vector<rtf::TabLeader> leaders(static_cast<std::size_t>(std::ranges::count(characters, '\t')));
-    const std::size_t count = std::min(leaders.size(), stops.size());
-    std::transform(stops.end() - static_cast<std::ptrdiff_t>(count), stops.end(),
-        leaders.end() - static_cast<std::ptrdiff_t>(count), [](const auto& stop) { return stop.leader; });
-    return leaders;
-}
-
-QTextCharFormat::UnderlineStyle styleOf(rtf::TabLeader leader)
-{
-    switch (leader) {
-    case rtf::TabLeader::none:
-        return QTextCharFormat::NoUnderline;
-    case rtf::TabLeader::dots:
-        return QTextCharFormat::DotLine;
-    case rtf::TabLeader::hyphens:
-        return QTextCharFormat::DashUnderline;
-    case rtf::TabLeader::line:
-        return QTextCharFormat::SingleUnderline;
-    }
-    return QTextCharFormat::NoUnderline;
-}
-
 /// A cell's format is that of its first paragraph's end too.
 void addFormat(QTextTableCell cell, const QTextTableCellFormat& added)
 {
@@ -110,6 +76,10 @@ public:
     void fill();
 
 private:
+    /// The cursor stands in a paragraph that has been written, or in one that is there by itself: at the beginning, in
+    /// a new cell or behind a table.
+    enum class Place { written, unused, behindTable };
+
     const rtf::ParagraphFormat& formatOf(const rtf::Block& block) const
     {
         return text_.formats[block.paragraph.format];
@@ -121,8 +91,6 @@ private:
     void insertFrame(Blocks blocks, const Space& space);
     void insertParagraph(const rtf::Block& block, double above, bool isFramed);
     void insertRun(const rtf::Run& run);
-    void insertText(std::string_view characters, const QTextCharFormat& format);
-    void insertTab(QTextCharFormat format);
     void insertRows(const rtf::Block& table, const Space& space);
     void fillTable(const rtf::Block& table, const TableGrid& grid, const Space& space);
     QTextTableCellFormat cellFormatWithSpace(const GridCell& place, const TableGrid& grid) const;
@@ -133,12 +101,8 @@ private:
     const rtf::AttributedText& text_;
     QTextCursor cursor_;
     QList<QTextCharFormat> formats_;
-    /// The cursor stands in a paragraph that is there by itself: at the beginning, in a new cell or behind a table.
-    bool isUnused_ = true;
+    Place place_ = Place::unused;
     bool isEmpty_ = true;
-    /// What fills the tabs of the paragraph that is being written, where any is filled.
-    std::vector<rtf::TabLeader> leaders_;
-    std::size_t nextTab_ = 0;
 };
 
 void Filler::fill()
@@ -192,8 +156,7 @@ void Filler::insertFrame(Blocks blocks, const Space& space)
 {
     const Indents indents = indentsOf(formatOf(blocks[0]));
     QTextTableFormat format = frameFormat();
-    format.setLeftMargin(indents.left + std::min(0.0, indents.firstLine));
-    format.setRightMargin(indents.right);
+    setSideMargins(format, formatOf(blocks[0]), indents.left + std::min(0.0, indents.firstLine), indents.right);
     format.setTopMargin(space.above);
     format.setBottomMargin(space.below);
     QTextTable* const frame = insertTable(1, 1, format);
@@ -216,22 +179,19 @@ void Filler::insertParagraph(const rtf::Block& block, double above, bool isFrame
     QTextBlockFormat blockFormat = blockFormatFor(text_, format, indents);
     blockFormat.setTopMargin(above);
     const QTextCharFormat& endFormat = formats_[block.paragraph.endAttributes];
-    if (isUnused_) {
+    isEmpty_ = block.paragraph.begin == block.paragraph.end;
+    const bool wouldBeHidden = isEmpty_ && place_ == Place::behindTable;
+    if (place_ != Place::written && !wouldBeHidden) {
         cursor_.setBlockFormat(blockFormat);
         // A cell's format has what is merged in it.
         cursor_.mergeBlockCharFormat(endFormat);
     } else {
         cursor_.insertBlock(blockFormat, endFormat);
     }
-    const std::string_view characters
-        = std::string_view(text_.text).substr(block.paragraph.begin, block.paragraph.end - block.paragraph.begin);
-    leaders_ = leadersOf(text_, format, characters);
-    nextTab_ = 0;
     for (const rtf::Run& run : text_.runsOf(block.paragraph)) {
         insertRun(run);
     }
-    isUnused_ = false;
-    isEmpty_ = block.paragraph.begin == block.paragraph.end;
+    place_ = Place::written;
 }
 
 void Filler::insertRun(const rtf::Run& run)
@@ -243,31 +203,8 @@ void Filler::insertRun(const rtf::Run& run)
         }
         return;
     }
-    const QTextCharFormat& format = formats_[run.attributes];
-    std::string_view rest = run.text;
-    while (!leaders_.empty() && rest.find('\t') != std::string_view::npos) {
-        insertText(rest.substr(0, rest.find('\t')), format);
-        insertTab(format);
-        rest.remove_prefix(rest.find('\t') + 1);
-    }
-    insertText(rest, format);
-}
-
-void Filler::insertText(std::string_view characters, const QTextCharFormat& format)
-{
-    if (!characters.empty()) {
-        cursor_.insertText(QString::fromUtf8(characters.data(), static_cast<qsizetype>(characters.size())), format);
-    }
-}
-
-/// What fills the space of a tab is drawn as its underline.
-void Filler::insertTab(QTextCharFormat format)
-{
-    const rtf::TabLeader leader = leaders_.at(nextTab_++);
-    if (leader != rtf::TabLeader::none) {
-        format.setUnderlineStyle(styleOf(leader));
-    }
-    cursor_.insertText(QStringLiteral("\t"), format);
+    cursor_.insertText(
+        QString::fromUtf8(run.text.data(), static_cast<qsizetype>(run.text.size())), formats_[run.attributes]);
 }
 
 /// A table of more places than a window can show is shown as the paragraphs in it.
@@ -297,7 +234,7 @@ void Filler::fillTable(const rtf::Block& table, const TableGrid& grid, const Spa
         }
         const QTextTableCell cell = inserted->cellAt(place.firstRow, place.firstColumn);
         cursor_ = cell.firstCursorPosition();
-        isUnused_ = true;
+        place_ = Place::unused;
         fillBlocks(place.cell->blocks);
         addFormat(cell, cellFormatWithSpace(place, grid));
     }
@@ -317,19 +254,19 @@ QTextTableCellFormat Filler::cellFormatWithSpace(const GridCell& place, const Ta
 /// Qt hides an empty paragraph before a table, and behind one.
 QTextTable* Filler::insertTable(int rows, int columns, const QTextTableFormat& format)
 {
-    if (!isUnused_ && isEmpty_) {
+    if (place_ == Place::written && isEmpty_) {
         cursor_.insertBlock(QTextBlockFormat());
     }
     QTextTable* const table = cursor_.insertTable(rows, columns, format);
     cursor_ = table->cellAt(0, 0).firstCursorPosition();
-    isUnused_ = true;
+    place_ = Place::unused;
     return table;
 }
 
 void Filler::leaveTable(const QTextTable& table)
 {
     cursor_.setPosition(table.lastPosition() + 1);
-    isUnused_ = true;
+    place_ = Place::behindTable;
 }
 
 } // namespace

@@ -2,11 +2,13 @@
 
 #include "view/qt/Appearance.h"
 #include "view/qt/FontSubstitutes.h"
+#include "view/qt/RichTextLines.h"
 
 #include <QFontMetricsF>
 #include <QTextOption>
 
 #include <algorithm>
+#include <vector>
 
 namespace corvellane::view {
 
@@ -45,7 +47,7 @@ QFont fontFor(const rtf::TextAttributes& attributes, const rtf::AttributedText& 
     return font;
 }
 
-/// Of two lines Qt draws one.
+/// Of two lines Qt draws the first one.
 QTextCharFormat::UnderlineStyle styleOf(rtf::Underline underline)
 {
     switch (underline) {
@@ -93,6 +95,16 @@ void setColors(QTextCharFormat& format, const rtf::TextAttributes& attributes)
     }
 }
 
+void addOwnLines(QTextCharFormat& format, const rtf::TextAttributes& attributes)
+{
+    if (attributes.underline == rtf::Underline::twofold) {
+        addSecondUnderline(format);
+    }
+    if (attributes.frame.style != rtf::LineStyle::none) {
+        addFrame(format, attributes.frame);
+    }
+}
+
 Qt::Alignment alignmentOf(rtf::Alignment alignment)
 {
     switch (alignment) {
@@ -110,19 +122,20 @@ Qt::Alignment alignmentOf(rtf::Alignment alignment)
     return Qt::AlignLeading;
 }
 
-QTextOption::TabType typeOf(rtf::TabKind kind)
+/// Text begins at a stop on the left and ends at one on the right, which for Qt are sides of the window also where text
+/// runs from right to left.
+QTextOption::TabType typeOf(rtf::TabKind kind, bool isRightToLeft)
 {
     switch (kind) {
     case rtf::TabKind::centre:
         return QTextOption::CenterTab;
-    case rtf::TabKind::right:
-        return QTextOption::RightTab;
     case rtf::TabKind::decimal:
         return QTextOption::DelimiterTab;
     case rtf::TabKind::left:
+    case rtf::TabKind::right:
         break;
     }
-    return QTextOption::LeftTab;
+    return (kind == rtf::TabKind::left) != isRightToLeft ? QTextOption::LeftTab : QTextOption::RightTab;
 }
 
 Qt::LayoutDirection directionOf(rtf::Direction direction)
@@ -138,21 +151,40 @@ Qt::LayoutDirection directionOf(rtf::Direction direction)
     return Qt::LayoutDirectionAuto;
 }
 
+struct Stop {
+    QTextOption::Tab tab;
+    rtf::TabLeader leader = rtf::TabLeader::none;
+};
+
 /// Qt counts a tab stop from where the line begins. A hanging first line stops at the indent of those below it, as
 /// readers of RTF do.
-QList<QTextOption::Tab> tabsFor(
-    const rtf::AttributedText& text, const rtf::ParagraphFormat& format, const Indents& indents)
+std::vector<Stop> stopsFor(const rtf::AttributedText& text, const rtf::ParagraphFormat& format, const Indents& indents)
 {
     const double lineStart = indents.left + indents.firstLine;
-    QList<QTextOption::Tab> tabs;
+    const bool isRightToLeft = format.direction == rtf::Direction::rightToLeft;
+    std::vector<Stop> stops;
     for (const rtf::TabStop& stop : text.tabsOf(format)) {
-        tabs.append({rtf::points(stop.position) - lineStart, typeOf(stop.kind), '.'});
+        stops.push_back({{rtf::points(stop.position) - lineStart, typeOf(stop.kind, isRightToLeft), '.'}, stop.leader});
     }
     if (indents.firstLine < 0) {
-        tabs.append({-indents.firstLine, QTextOption::LeftTab});
+        stops.push_back({{-indents.firstLine, typeOf(rtf::TabKind::left, isRightToLeft)}});
     }
-    std::ranges::sort(tabs, {}, &QTextOption::Tab::position);
-    return tabs;
+    std::ranges::stable_sort(stops, {}, [](const Stop& stop) { return stop.tab.position; });
+    return stops;
+}
+
+void setTabs(QTextBlockFormat& format, const std::vector<Stop>& stops)
+{
+    QList<QTextOption::Tab> tabs;
+    std::vector<rtf::TabLeader> leaders;
+    for (const Stop& stop : stops) {
+        tabs.append(stop.tab);
+        leaders.push_back(stop.leader);
+    }
+    format.setTabPositions(tabs);
+    if (std::ranges::any_of(leaders, [](rtf::TabLeader leader) { return leader != rtf::TabLeader::none; })) {
+        addLeaders(format, leaders);
+    }
 }
 
 void setLineHeight(QTextBlockFormat& format, const rtf::LineHeight& height)
@@ -220,6 +252,7 @@ QTextCharFormat charFormatFor(const rtf::TextAttributes& attributes, const rtf::
         format.setBaselineOffset(100 * (attributes.baselineOffset / 2.0) / QFontMetricsF(font).height());
     }
     setColors(format, attributes);
+    addOwnLines(format, attributes);
     if (attributes.link != 0) {
         format.setAnchor(true);
         format.setAnchorHref(QString::fromStdString(text.links[attributes.link - 1]));
@@ -233,10 +266,9 @@ QTextBlockFormat blockFormatFor(
     QTextBlockFormat block;
     block.setAlignment(alignmentOf(format.alignment));
     block.setLayoutDirection(directionOf(format.direction));
-    block.setLeftMargin(indents.left);
+    setSideMargins(block, format, indents.left, indents.right);
     block.setTextIndent(indents.firstLine);
-    block.setRightMargin(indents.right);
-    block.setTabPositions(tabsFor(text, format, indents));
+    setTabs(block, stopsFor(text, format, indents));
     setLineHeight(block, format.lineHeight());
     return block;
 }

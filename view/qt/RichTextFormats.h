@@ -8,6 +8,9 @@
 
 namespace corvellane::view {
 
+/// Around the text, in points.
+constexpr double pageMargin = 8;
+
 QColor colorOf(const rtf::Color& color);
 
 /// The format of `attributes`, which are some of `text`'s. A point is one device-independent pixel, as in all lengths
@@ -19,7 +22,8 @@ QTextCharFormat charFormatFor(const rtf::TextAttributes& attributes, const rtf::
 double spaceBetween(
     const rtf::AttributedText& text, const rtf::ParagraphFormat* first, const rtf::ParagraphFormat* second);
 
-/// The indents of a paragraph in points, within what a narrow window can show.
+/// The indents of a paragraph in points, within what a narrow window can show. `left` is where its lines begin: on the
+/// right in a paragraph that runs from right to left.
 struct Indents {
     double left;
     double firstLine;
@@ -29,6 +33,15 @@ struct Indents {
 };
 
 Indents indentsOf(const rtf::ParagraphFormat& format);
+
+/// Sets the margins of what shows a paragraph: `begin` where its lines begin, `end` where they end.
+template <typename Format>
+void setSideMargins(Format& shown, const rtf::ParagraphFormat& paragraph, double begin, double end)
+{
+    const bool isMirrored = paragraph.direction == rtf::Direction::rightToLeft;
+    shown.setLeftMargin(isMirrored ? end : begin);
+    shown.setRightMargin(isMirrored ? begin : end);
+}
 
 /// The format of a paragraph with those indents, without any space around it.
 QTextBlockFormat blockFormatFor(

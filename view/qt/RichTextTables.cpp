@@ -152,12 +152,28 @@ rtf::Border borderOf(const GridCell& cell, std::size_t side, int rows, int colum
     return isOuter.at(side) ? row.borders.at(side) : row.innerBorders.at(isBetweenRows ? 0 : 1);
 }
 
-Qt::Alignment placeOf(rtf::Alignment alignment)
+Qt::Alignment alignmentOf(const rtf::RowFormat& row)
 {
-    if (alignment == rtf::Alignment::centre) {
+    if (row.alignment == rtf::Alignment::centre) {
         return Qt::AlignHCenter;
     }
-    return alignment == rtf::Alignment::right ? Qt::AlignRight : Qt::AlignLeft;
+    const bool beginsRight = row.alignment == rtf::Alignment::natural && row.rightToLeft;
+    return beginsRight || row.alignment == rtf::Alignment::right ? Qt::AlignRight : Qt::AlignLeft;
+}
+
+/// The indent counts where the table begins at it. Qt takes what is not on the left for wider by the page's margin.
+void place(QTextTableFormat& format, const TableGrid& grid, const rtf::RowFormat& firstRow)
+{
+    const Qt::Alignment alignment = alignmentOf(firstRow);
+    const double indent = std::clamp(grid.left, 0.0, widestLeft);
+    const bool isOutermost = firstRow.depth <= 1;
+    format.setAlignment(alignment);
+    if (alignment == Qt::AlignLeft) {
+        format.setLeftMargin(firstRow.rightToLeft ? 0 : indent);
+    } else {
+        const bool isIndented = alignment == Qt::AlignRight && firstRow.rightToLeft;
+        format.setRightMargin((isIndented ? indent : 0) + (isOutermost ? pageMargin : 0));
+    }
 }
 
 QTextCharFormat::VerticalAlignment alignmentOf(rtf::CellAlignment alignment)
@@ -171,6 +187,16 @@ QTextCharFormat::VerticalAlignment alignmentOf(rtf::CellAlignment alignment)
         return QTextCharFormat::AlignBottom;
     }
     return QTextCharFormat::AlignTop;
+}
+
+/// Qt has a table's first column on the left whatever its direction.
+void mirror(TableGrid& grid)
+{
+    const auto columns = static_cast<int>(grid.columns.size());
+    std::ranges::reverse(grid.columns);
+    for (GridCell& cell : grid.cells) {
+        cell.firstColumn = columns - cell.firstColumn - cell.columns;
+    }
 }
 
 QTextTableFormat plainTable()
@@ -205,6 +231,9 @@ TableGrid gridOf(const std::vector<rtf::TableRow>& rows)
             }
         }
     }
+    if (rows.front().format.rightToLeft) {
+        mirror(grid);
+    }
     return grid;
 }
 
@@ -220,13 +249,11 @@ QTextTableFormat tableFormatFor(const TableGrid& grid, const rtf::RowFormat& fir
         lengths.append(QTextLength(QTextLength::PercentageLength, 100 * column / width));
     }
     format.setColumnWidthConstraints(lengths);
-    const bool isFull = width + grid.left > fullWidth;
-    format.setWidth(
-        isFull ? QTextLength(QTextLength::PercentageLength, 100) : QTextLength(QTextLength::FixedLength, width));
-    format.setAlignment(placeOf(firstRow.alignment));
-    format.setLeftMargin(isFull ? 0 : std::clamp(grid.left, 0.0, widestLeft));
-    if (firstRow.rightToLeft) {
-        format.setLayoutDirection(Qt::RightToLeft);
+    if (width + grid.left > fullWidth) {
+        format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+    } else {
+        place(format, grid, firstRow);
+        format.setWidth(QTextLength(QTextLength::FixedLength, width + format.leftMargin() + format.rightMargin()));
     }
     return format;
 }

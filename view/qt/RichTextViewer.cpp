@@ -2,6 +2,7 @@
 
 #include "view/qt/Appearance.h"
 #include "view/qt/RichTextDocument.h"
+#include "view/qt/RichTextLines.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -27,6 +28,15 @@ public:
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     }
 
+    void show(const rtf::AttributedText& text)
+    {
+        auto* document = new QTextDocument(this);
+        fillTextDocument(*document, text);
+        setDocument(document);
+        setCursorWidth(0); // kept with the document
+        hasLines_ = hasLines(*document);
+    }
+
 protected:
     void keyPressEvent(QKeyEvent* event) override
     {
@@ -39,8 +49,14 @@ protected:
     void paintEvent(QPaintEvent* event) override
     {
         QTextEdit::paintEvent(event);
+        QPainter painter(viewport());
+        if (hasLines_) {
+            const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+            painter.translate(-scrolled);
+            paintLines(painter, *document(), event->rect().translated(scrolled));
+            painter.resetTransform();
+        }
         if (hasFocus()) {
-            QPainter painter(viewport());
             paintFocusFrame(painter, viewport()->rect());
         }
     }
@@ -84,6 +100,8 @@ private:
             return false;
         }
     }
+
+    bool hasLines_ = false;
 };
 
 QPalette paperPalette(QPalette palette)
@@ -101,10 +119,7 @@ QWidget* makeRichTextViewer(const rtf::AttributedText& text, QWidget* parent)
 {
     auto* viewer = new Viewer(parent);
     viewer->setPalette(paperPalette(viewer->palette()));
-    auto* document = new QTextDocument(viewer);
-    fillTextDocument(*document, text);
-    viewer->setDocument(document);
-    viewer->setCursorWidth(0); // kept with the document
+    viewer->show(text);
     return viewer;
 }
 

@@ -1,6 +1,7 @@
 #include "view/qt/RichTextDocument.h"
 #include "rtf/Reader.h"
 #include "view/qt/FontSubstitutes.h"
+#include "view/qt/RichTextLines.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
@@ -74,7 +75,6 @@ TEST(RichTextDocument, carriesEveryStyleOfARun)
         {R"(\ulwave x)", [](Format f) { return f.underlineStyle() == QTextCharFormat::WaveUnderline; }},
         {R"(\uldash x)", [](Format f) { return f.underlineStyle() == QTextCharFormat::DashUnderline; }},
         {R"(\expndtw40 x)", [](Format f) { return f.font().letterSpacing() == 2; }},
-        {R"(\tqr\tldot\tx4000\tab x)", [](Format f) { return f.underlineStyle() == QTextCharFormat::DotLine; }},
         {R"(\strike x)", [](Format f) { return f.fontStrikeOut(); }},
         {R"(\super x)", [](Format f) { return f.verticalAlignment() == QTextCharFormat::AlignSuperScript; }},
         {R"(\sub x)", [](Format f) { return f.verticalAlignment() == QTextCharFormat::AlignSubScript; }},
@@ -139,6 +139,10 @@ TEST(RichTextDocument, putsTextWhereItsParagraphSays)
         {R"(\u1488?\u1489?\u1490?)", 0, 400},
         {R"(\ltrpar\u1488?\u1489?\u1490?)", 3, 0},
         {R"(\rtlpar abc)", 3, 400},
+        {R"(\rtlpar\qr\li720\ri200 abc)", 3, 364},
+        {R"(\rtlpar\ql\li720\ri200 abc)", 0, 10},
+        {R"(\rtlpar\li720\fi-360 abc)", 3, 382},
+        {R"(\rtlpar\li720\fi-360 \u1488?\tab\u1488?\u1488?)", 2, 364},
         {R"(\deftab1000\tab abc)", 1, 50},
     };
     for (const auto& [body, position, place] : rows) {
@@ -166,10 +170,52 @@ TEST(RichTextDocument, spacesParagraphsAndLines)
         {R"(\s1\sa200\contextualspace a\par\s2 b)", line + 10},
         {R"(\sa200 a\par\pard\trowd\cellx2000\intbl c\cell\row\pard\sb100 b)", 2 * line + 17},
         {R"(a\par\trowd\cellx2000\sb100\sa200\intbl c\cell\row\pard b)", 2 * line + 17},
+        {R"(\trowd\cellx2000\intbl c\cell\row\pard\par b)", 2 * line + 2},
+        {R"(\trowd\cellx2000\intbl c\cell\row\pard\par\trowd\cellx2000\intbl c\cell\row\pard b)", 3 * line + 4},
+        {R"(\box\brdrs\brdrw20 a\par\pard\par b)", 2 * line + 2},
     };
     for (const auto& [body, top] : rows) {
         EXPECT_NEAR(topOf(documentOf(body)->lastBlock()), top, 1.5) << body;
     }
+}
+
+/// Where the lines that Qt has no format for are painted, from the text area's upper left corner.
+QRect linesOf(const std::string& body)
+{
+    const auto document = documentOf(body);
+    QPixmap paper(document->size().toSize());
+    paper.fill(Qt::white);
+    QPainter painter(&paper);
+    paintLines(painter, *document, paper.rect());
+    painter.end();
+    const int margin = static_cast<int>(document->documentMargin());
+    return QRegion(paper.createMaskFromColor(Qt::white)).boundingRect().translated(-margin, -margin);
+}
+
+TEST(RichTextLines, standUnderWordsAroundThemAndBeforeTabStops)
+{
+    const auto widthOf = [](const char* text) {
+        return placeOf(documentOf(text)->firstBlock(), static_cast<int>(std::string_view(text).size()));
+    };
+    const double word = widthOf("abc");
+    const double number = widthOf("12");
+    const std::vector<std::tuple<const char*, double, double>> rows{
+        {R"(abc{\uldb abc}abc)", word, 2 * word},
+        {R"(abc{\chbrdr\brdrs a{\b\chbrdr\brdrs }bc}abc)", word, 2 * word},
+        {R"(\tqr\tldot\tx6000 abc\tab 12)", word, 300 - number},
+        {R"(\tx2000\tqr\tlul\tx6000\tab abc\tab 12)", 100 + word, 300 - number},
+        {R"(\tqr\tldot\tx2000 abc\tab 12\tab abc)", word, 100 - number},
+        {R"(\tx200\tqr\tlhyph\tx6000 abc\tab 12)", word, 300 - number},
+        {R"(\rtlpar\tqr\tlul\tx6000 abc\tab 12)", 100 + number, 400 - word},
+        {R"(\trowd\cellx2000\cellx4000\intbl\cell{\uldb abc}\cell\row)", 101, 101 + word},
+    };
+    for (const auto& [body, left, right] : rows) {
+        EXPECT_NEAR(linesOf(body).left(), left, 6) << body;
+        EXPECT_NEAR(linesOf(body).right(), right, 6) << body;
+    }
+    EXPECT_GT(linesOf(R"({\uldb abc})").top(), lowestInk(*documentOf(R"({\ul abc})")) - 8);
+    EXPECT_FALSE(hasLines(*documentOf(R"({\ul abc}\tqr\tx6000\tab x)")));
+    EXPECT_TRUE(linesOf("abc").isEmpty());
 }
 
 /// The first table of the document; null where there is none.
@@ -211,6 +257,35 @@ TEST(RichTextDocument, showsTablesAsTheirAuthorDividedThem)
     EXPECT_EQ(table->cellAt(1, 1).format().verticalAlignment(), QTextCharFormat::AlignMiddle);
     EXPECT_EQ(textOf(table->cellAt(1, 2)), QString("d\u2029") + "e");
     EXPECT_EQ(document->lastBlock().text(), "after");
+}
+
+TEST(RichTextDocument, putsCellsWhereTheirRowSays)
+{
+    struct Case {
+        const char* row;
+        const char* leftCell;
+        double first;
+        double second;
+    };
+    const std::vector<Case> rows{
+        {R"(\cellx1000\cellx3000)", "a", 0, 50},
+        {R"(\trleft400\cellx1400\cellx3400)", "a", 20, 70},
+        {R"(\trqr\trleft400\cellx1400\cellx3400)", "a", 250, 300},
+        {R"(\trqc\cellx1000\cellx3000)", "a", 125, 175},
+        {R"(\rtlrow\cellx1000\cellx3000)", "b", 250, 350},
+        {R"(\rtlrow\trleft400\cellx1400\cellx3400)", "b", 230, 330},
+        {R"(\rtlrow\trql\cellx1000\cellx3000)", "b", 0, 100},
+    };
+    for (const auto& [row, leftCell, first, second] : rows) {
+        const auto document = documentOf("\\trowd" + std::string(row) + R"(\pard\intbl a\cell b\cell\row)");
+        const auto leftOf = [&](int column) {
+            const QTextBlock block = tableOf(*document)->cellAt(0, column).firstCursorPosition().block();
+            return document->documentLayout()->blockBoundingRect(block).left() - document->documentMargin();
+        };
+        EXPECT_EQ(textOf(tableOf(*document)->cellAt(0, 0)), leftCell) << row;
+        EXPECT_NEAR(leftOf(0), first, 2.5) << row;
+        EXPECT_NEAR(leftOf(1), second, 2.5) << row;
+    }
 }
 
 TEST(RichTextDocument, makesNoTableWiderThanThePage)

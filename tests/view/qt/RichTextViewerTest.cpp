@@ -15,11 +15,12 @@ namespace {
 
 rtf::AttributedText longAgreement()
 {
-    std::string body = R"({\rtf1 {\field{\*\fldinst HYPERLINK "https://x.example/"}{\fldrslt link to the shop}}\par )";
+    std::string body
+        = R"({\rtf1{\colortbl;;\red255;}{\field{\*\fldinst HYPERLINK "https://x.example/"}{\fldrslt link to the shop}}\par )";
     for (int count = 0; count < 40; ++count) {
         body += R"(A sentence of an agreement that is wider than the viewer is when it is narrow.\par )";
     }
-    return rtf::read(body + std::string(300, 'w') + R"(\par})").value();
+    return rtf::read(body + R"({\cf2\uldb twice}\par )" + std::string(300, 'w') + R"(\par})").value();
 }
 
 class RichTextViewer : public testing::Test {
@@ -82,6 +83,29 @@ TEST_F(RichTextViewer, scrollsByKeyInsideAFrameThatTellsOfTheFocus)
     EXPECT_EQ(vertical.value(), 0);
     QTest::keyClick(viewer_, Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(viewer_->textCursor().selectedText(), QStringLiteral("l"));
+}
+
+TEST_F(RichTextViewer, paintsBothLinesOfAnUnderlineWhereTheyAreScrolledTo)
+{
+    const auto reddestRows = [this] {
+        const QImage picture = viewer_->viewport()->grab().toImage();
+        std::vector<int> rows;
+        for (int y = 0; y < picture.height(); ++y) {
+            int red = 0;
+            for (int x = 0; x < picture.width(); ++x) {
+                red += picture.pixelColor(x, y) == QColor(Qt::red) ? 1 : 0;
+            }
+            if (red > 15) {
+                rows.push_back(y);
+            }
+        }
+        return rows;
+    };
+    EXPECT_TRUE(reddestRows().empty());
+    viewer_->verticalScrollBar()->setValue(viewer_->verticalScrollBar()->maximum());
+    const std::vector<int> rows = reddestRows();
+    ASSERT_EQ(rows.size(), 2U);
+    EXPECT_NEAR(rows[1] - rows[0], 2, 1);
 }
 
 TEST_F(RichTextViewer, opensNoLinkWhateverIsPressed)
