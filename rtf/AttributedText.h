@@ -36,7 +36,8 @@ struct Border {
     std::uint8_t width = 0;
     /// Points between the line and what it stands around.
     std::uint8_t space = 0;
-    std::uint8_t padding = 0;
+    /// The file says what line it is, or that there is none.
+    bool isSaid = false;
     /// None: the colour of text.
     Color color;
 

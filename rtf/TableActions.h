@@ -132,7 +132,10 @@ void changeBorders(Writer& writer, Change change)
 template <LineStyle Style>
 void borderStyle(Writer& writer, const Token&)
 {
-    changeBorders(writer, [](Border& border) { border.style = Style; });
+    changeBorders(writer, [](Border& border) {
+        border.style = Style;
+        border.isSaid = true;
+    });
 }
 
 inline void borderWidth(Writer& writer, const Token& token)

@@ -11,7 +11,7 @@ namespace {
 constexpr int unicodePage = 65001;
 constexpr std::uint8_t deepestTable = 16;
 constexpr char32_t objectCharacter = 0xFFFC;
-constexpr Border noteRule{.style = LineStyle::solid, .width = 10, .space = 6, .padding = 0, .color = {}};
+constexpr Border noteRule{.style = LineStyle::solid, .width = 10, .space = 6, .isSaid = true, .color = {}};
 
 } // namespace
 

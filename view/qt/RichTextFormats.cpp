@@ -17,7 +17,9 @@ namespace {
 constexpr double widestLeftIndent = 240;
 constexpr double widestRightIndent = 120;
 constexpr double pageBreakSpace = 24;
-constexpr double automaticSpace = 14;
+/// Automatic space where it follows the rules of web pages, of which the larger one of two counts, and else.
+constexpr double webSpace = 14;
+constexpr double fixedSpace = 5;
 const QColor linkColor(0, 0, 238);
 
 QFont::Capitalization capitalizationOf(rtf::Capitals capitals)
@@ -204,11 +206,9 @@ void setLineHeight(QTextBlockFormat& format, const rtf::LineHeight& height)
     }
 }
 
-/// Between the items of a list there is none unless their author says so.
-double spaceOf(rtf::Twips space, bool isAutomatic, bool isWithinList)
+double spaceOf(rtf::Twips space, bool isAutomatic, double automatic)
 {
-    const double ownSpace = isWithinList ? 0 : automaticSpace;
-    return isAutomatic ? ownSpace : std::max(0.0, rtf::points(space));
+    return isAutomatic ? automatic : std::max(0.0, rtf::points(space));
 }
 
 } // namespace
@@ -218,6 +218,7 @@ QColor colorOf(const rtf::Color& color)
     return {color.red, color.green, color.blue};
 }
 
+/// Between the items of a list there is none unless their author says so.
 double spaceBetween(
     const rtf::AttributedText& text, const rtf::ParagraphFormat* first, const rtf::ParagraphFormat* second)
 {
@@ -225,13 +226,15 @@ double spaceBetween(
     const rtf::ParagraphFormat& upper = first != nullptr ? *first : none;
     const rtf::ParagraphFormat& lower = second != nullptr ? *second : none;
     const bool isWithinList = upper.list != 0 && lower.list != 0;
+    const double ownSpace = text.largerSpaceCounts ? webSpace : fixedSpace;
+    const double automatic = isWithinList ? 0 : ownSpace;
     const bool isSameStyle = first != nullptr && second != nullptr && upper.style == lower.style;
     const bool hasAfter = !upper.contextualSpace || !isSameStyle;
     const bool hasBefore = !lower.contextualSpace || !isSameStyle;
-    const double after = hasAfter ? spaceOf(upper.spaceAfter, upper.automaticSpaceAfter, isWithinList) : 0;
-    const double before = hasBefore ? spaceOf(lower.spaceBefore, lower.automaticSpaceBefore, isWithinList) : 0;
-    const bool isLarger = text.largerSpaceCounts || upper.automaticSpaceAfter || lower.automaticSpaceBefore;
-    return (isLarger ? std::max(after, before) : after + before) + (lower.pageBreakBefore ? pageBreakSpace : 0);
+    const double after = hasAfter ? spaceOf(upper.spaceAfter, upper.automaticSpaceAfter, automatic) : 0;
+    const double before = hasBefore ? spaceOf(lower.spaceBefore, lower.automaticSpaceBefore, automatic) : 0;
+    return (text.largerSpaceCounts ? std::max(after, before) : after + before)
+        + (lower.pageBreakBefore ? pageBreakSpace : 0);
 }
 
 Indents indentsOf(const rtf::ParagraphFormat& format)

@@ -204,6 +204,23 @@ QTextBlock firstBlockAt(const QTextDocument& document, double top)
     return document.findBlock(position);
 }
 
+/// Of two lines each is solid.
+Qt::PenStyle styleOf(rtf::LineStyle style)
+{
+    switch (style) {
+    case rtf::LineStyle::none:
+        return Qt::NoPen;
+    case rtf::LineStyle::solid:
+    case rtf::LineStyle::twofold:
+        return Qt::SolidLine;
+    case rtf::LineStyle::dotted:
+        return Qt::DotLine;
+    case rtf::LineStyle::dashed:
+        return Qt::DashLine;
+    }
+    return Qt::NoPen;
+}
+
 } // namespace
 
 void addSecondUnderline(QTextCharFormat& format)
@@ -215,9 +232,7 @@ void addFrame(QTextCharFormat& format, const rtf::Border& border)
 {
     QPen pen(border.color.isSet ? colorOf(border.color) : QColor(Qt::black));
     pen.setWidthF(std::clamp(rtf::points(border.width), 1.0, widestFrame));
-    pen.setStyle(border.style == rtf::LineStyle::dotted ? Qt::DotLine
-            : border.style == rtf::LineStyle::dashed    ? Qt::DashLine
-                                                        : Qt::SolidLine);
+    pen.setStyle(styleOf(border.style));
     pen.setJoinStyle(Qt::MiterJoin);
     format.setProperty(framePen, pen);
     if (border.style == rtf::LineStyle::twofold) {

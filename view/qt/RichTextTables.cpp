@@ -138,11 +138,11 @@ void setBorder(QTextTableCellFormat& format, std::size_t side, const rtf::Border
     }
 }
 
-/// A cell without a border of its own has that of its row: the outer one at the row's ends, or one between cells.
+/// A cell of whose border nothing is said has that of its row: the outer one at the row's ends, or one between cells.
 rtf::Border borderOf(const GridCell& cell, std::size_t side, int rows, int columns)
 {
     const rtf::Border& own = cell.cell->format.borders.at(side);
-    if (own.style != rtf::LineStyle::none) {
+    if (own.isSaid) {
         return own;
     }
     const rtf::RowFormat& row = cell.row->format;

@@ -164,7 +164,8 @@ TEST(RichTextDocument, spacesParagraphsAndLines)
         {R"(\sl480\slmult1 a\par\pard b)", 2 * line},
         {R"(a\page b)", line + 24},
         {R"(\htmautsp\sa200 a\par\sb100 b)", line + 10},
-        {R"(\sa200 a\par\sbauto1 b)", line + 14},
+        {R"(\htmautsp\sa200 a\par\sbauto1 b)", line + 14},
+        {R"(\sa200 a\par\sb0\sbauto1 b)", line + 15},
         {R"(\ls1\sbauto1\saauto1 a\par b)", line},
         {R"(\s1\sa200\sb100\contextualspace a\par b)", line},
         {R"(\s1\sa200\contextualspace a\par\s2 b)", line + 10},
@@ -234,11 +235,11 @@ QString textOf(const QTextTableCell& cell)
 
 TEST(RichTextDocument, showsTablesAsTheirAuthorDividedThem)
 {
-    const auto document
-        = documentOf(R"(\trowd\trgaph100\clcbpat2\clbrdrb\brdrdb\brdrw40\brdrcf1\clvmgf\cellx1000\cellx3000)"
-                     R"(\pard\intbl a\cell\qr b\cell\row)"
-                     R"(\trowd\clvmrg\cellx1000\clvertalc\cellx2000\cellx3000)"
-                     R"(\pard\intbl\cell c\cell d\par e\cell\row\pard after)");
+    const auto document = documentOf(
+        R"(\trowd\trgaph100\trbrdrt\brdrs\trbrdrl\brdrs\clbrdrt\brdrnone\clcbpat2\clbrdrb\brdrdb\brdrw40\brdrcf1\clvmgf\cellx1000\cellx3000)"
+        R"(\pard\intbl a\cell\qr b\cell\row)"
+        R"(\trowd\clvmrg\cellx1000\clvertalc\cellx2000\cellx3000)"
+        R"(\pard\intbl\cell c\cell d\par e\cell\row\pard after)");
     const QTextTable* const table = tableOf(*document);
     ASSERT_NE(table, nullptr);
     EXPECT_EQ(table->rows(), 2);
@@ -252,6 +253,7 @@ TEST(RichTextDocument, showsTablesAsTheirAuthorDividedThem)
     EXPECT_EQ(look.bottomBorderStyle(), QTextFrameFormat::BorderStyle_Double);
     EXPECT_EQ(look.bottomBorderBrush().color(), QColor(200, 10, 20));
     EXPECT_EQ(look.topBorder(), 0);
+    EXPECT_EQ(look.leftBorder(), 1);
     EXPECT_EQ(look.leftPadding(), 5);
     EXPECT_EQ(table->cellAt(0, 1).columnSpan(), 2);
     EXPECT_EQ(table->cellAt(1, 1).format().verticalAlignment(), QTextCharFormat::AlignMiddle);
