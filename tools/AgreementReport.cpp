@@ -42,6 +42,12 @@ constexpr auto names<rtf::Picture::Kind> = std::to_array<std::string_view>({"png
 template <>
 constexpr auto names<rtf::VerticalPosition> = std::to_array<std::string_view>({"", "super", "sub"});
 template <>
+constexpr auto names<rtf::FontClass>
+    = std::to_array<std::string_view>({"", "serif", "sans", "fixed", "script", "decorative"});
+template <>
+constexpr auto names<rtf::FontLanguage>
+    = std::to_array<std::string_view>({"", "japanese", "simplifiedChinese", "traditionalChinese", "korean"});
+template <>
 constexpr auto names<rtf::Capitals> = std::to_array<std::string_view>({"", "small", "all"});
 
 /// Compilers write a value that no enumerator has as a number behind its type in brackets.
@@ -272,6 +278,22 @@ Json blocksJson(const rtf::AttributedText& text, const std::vector<rtf::Block>& 
     return json;
 }
 
+/// What is known of fonts beyond their names.
+Json fontsJson(const rtf::AttributedText& text)
+{
+    Json json;
+    for (const rtf::FontFamily& family : text.families) {
+        Json font{{"name", family.name}};
+        add(font, "alternative", family.alternative);
+        add(font, "class", nameOf(family.kind));
+        add(font, "language", nameOf(family.language));
+        if (font.size() > 1) {
+            json.push_back(font);
+        }
+    }
+    return json;
+}
+
 void appendRows(std::string& plain, const rtf::AttributedText& text, const rtf::Block& table);
 
 /// What stands in a cell, which ends with its last paragraph or with a line of the table that is its last.
@@ -305,6 +327,7 @@ std::string agreementJson(const rtf::AttributedText& text)
 {
     Json json;
     json["paragraphs"] = blocksJson(text, rtf::blocksOf(text));
+    add(json, "fonts", fontsJson(text));
     add(json, "largerSpaceCounts", text.largerSpaceCounts);
     if (text.defaultTab != rtf::AttributedText().defaultTab) {
         json["defaultTab"] = rtf::points(text.defaultTab);

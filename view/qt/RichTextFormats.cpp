@@ -162,7 +162,8 @@ struct Stop {
 /// readers of RTF do.
 std::vector<Stop> stopsFor(const rtf::AttributedText& text, const rtf::ParagraphFormat& format, const Indents& indents)
 {
-    const double lineStart = indents.left + indents.firstLine;
+    const double lineStart = std::min(
+        indents.left + indents.firstLine, rtf::points(format.leftIndent) + rtf::points(format.firstLineIndent));
     const bool isRightToLeft = format.direction == rtf::Direction::rightToLeft;
     std::vector<Stop> stops;
     for (const rtf::TabStop& stop : text.tabsOf(format)) {
@@ -239,8 +240,9 @@ double spaceBetween(
 
 Indents indentsOf(const rtf::ParagraphFormat& format)
 {
-    const double left = std::clamp(rtf::points(format.leftIndent), 0.0, widestLeftIndent);
-    return {left, std::clamp(rtf::points(format.firstLineIndent), -left, widestLeftIndent - left),
+    const double first = rtf::points(format.firstLineIndent);
+    const double left = std::clamp(std::max(rtf::points(format.leftIndent), -first), 0.0, widestLeftIndent);
+    return {left, std::clamp(first, -left, widestLeftIndent - left),
         std::clamp(rtf::points(format.rightIndent), 0.0, widestRightIndent)};
 }
 

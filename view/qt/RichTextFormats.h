@@ -22,8 +22,8 @@ QTextCharFormat charFormatFor(const rtf::TextAttributes& attributes, const rtf::
 double spaceBetween(
     const rtf::AttributedText& text, const rtf::ParagraphFormat* first, const rtf::ParagraphFormat* second);
 
-/// The indents of a paragraph in points, within what a narrow window can show. `left` is where its lines begin: on the
-/// right in a paragraph that runs from right to left.
+/// The indents of a paragraph in points, within what a narrow window can show: a first line that hangs out into the
+/// margin pushes the others in. `left` is where lines begin, on the right in a paragraph that runs from right to left.
 struct Indents {
     double left;
     double firstLine;
