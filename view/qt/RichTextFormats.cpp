@@ -97,9 +97,11 @@ void setColors(QTextCharFormat& format, const rtf::TextAttributes& attributes)
     }
 }
 
+/// Of what is raised or lowered the first line has to do.
 void addOwnLines(QTextCharFormat& format, const rtf::TextAttributes& attributes)
 {
-    if (attributes.underline == rtf::Underline::twofold) {
+    const bool isRaised = attributes.script != rtf::VerticalPosition::normal || attributes.baselineOffset != 0;
+    if (attributes.underline == rtf::Underline::twofold && !isRaised) {
         addSecondUnderline(format);
     }
     if (attributes.frame.style != rtf::LineStyle::none) {
