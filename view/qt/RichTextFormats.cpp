@@ -174,7 +174,7 @@ std::vector<Stop> stopsFor(const rtf::AttributedText& text, const rtf::Paragraph
     if (indents.firstLine < 0) {
         stops.push_back({{-indents.firstLine, typeOf(rtf::TabKind::left, isRightToLeft)}});
     }
-    std::ranges::stable_sort(stops, {}, [](const Stop& stop) { return stop.tab.position; });
+    std::ranges::sort(stops, {}, [](const Stop& stop) { return stop.tab.position; });
     return stops;
 }
 

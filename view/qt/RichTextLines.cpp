@@ -205,7 +205,7 @@ QTextBlock firstBlockAt(const QTextDocument& document, double top)
 }
 
 /// Of two lines each is solid.
-Qt::PenStyle styleOf(rtf::LineStyle style)
+Qt::PenStyle penStyleOf(rtf::LineStyle style)
 {
     switch (style) {
     case rtf::LineStyle::none:
@@ -232,7 +232,7 @@ void addFrame(QTextCharFormat& format, const rtf::Border& border)
 {
     QPen pen(border.color.isSet ? colorOf(border.color) : QColor(Qt::black));
     pen.setWidthF(std::clamp(rtf::points(border.width), 1.0, widestFrame));
-    pen.setStyle(styleOf(border.style));
+    pen.setStyle(penStyleOf(border.style));
     pen.setJoinStyle(Qt::MiterJoin);
     format.setProperty(framePen, pen);
     if (border.style == rtf::LineStyle::twofold) {
