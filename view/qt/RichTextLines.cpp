@@ -184,7 +184,7 @@ void PaintedParagraph::paintLeaders(const QTextFragment& fragment)
     for (qsizetype tab = text.indexOf(u'\t'); tab >= 0; tab = text.indexOf(u'\t', tab + 1)) {
         const int place = begin + static_cast<int>(tab);
         const QTextLine line = block_.layout()->lineForTextPosition(place);
-        const auto stretch = stretchOf(line, place, place + 1);
+        const auto stretch = line.isValid() ? stretchOf(line, place, place + 1) : std::nullopt;
         const rtf::TabLeader leader = stretch ? leaderAt(line, *stretch) : rtf::TabLeader::none;
         if (leader != rtf::TabLeader::none) {
             painter_.setPen(QPen(colorIn(fragment.charFormat()), 1));
