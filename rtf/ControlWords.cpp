@@ -1,5 +1,6 @@
 #include "rtf/ControlWords.h"
 
+#include "rtf/ByteScan.h"
 #include "rtf/ListActions.h"
 #include "rtf/TableActions.h"
 #include "rtf/TextActions.h"
@@ -276,6 +277,7 @@ constexpr auto words = [] {
     for (ControlWord row : rows) {
         for (std::string_view names = row.name; !names.empty(); ++count) {
             row.name = names.substr(0, names.find(' '));
+            row.code = codeOfName(row.name);
             names.remove_prefix(std::min(row.name.size() + 1, names.size()));
             single[count] = row;
         }
@@ -286,14 +288,9 @@ constexpr auto words = [] {
 constexpr std::size_t slotCount = 1U << 11U;
 static_assert(words.size() * 4 < slotCount);
 
-/// Words differ by their first letters and their lengths, but for a few that then stand in neighbouring slots.
-constexpr std::size_t slotOf(std::string_view name)
+constexpr std::size_t slotOf(std::uint64_t code)
 {
-    std::uint64_t letters = name.size();
-    for (const char letter : name.substr(0, 7)) {
-        letters = letters << 8U | static_cast<unsigned char>(letter);
-    }
-    return letters * 0x9E3779B97F4A7C15U >> 53U;
+    return code * 0x9E3779B97F4A7C15U >> 53U;
 }
 
 /// 1 + the index of a word in the slot of its name or in the next free one after it; 0 in a free slot.
@@ -301,7 +298,7 @@ constexpr std::array<std::uint16_t, slotCount> slots = [] {
     static_assert(words.size() <= UINT16_MAX);
     std::array<std::uint16_t, slotCount> filled{};
     for (std::size_t index = 0; index < words.size(); ++index) {
-        std::size_t slot = slotOf(words[index].name);
+        std::size_t slot = slotOf(words[index].code);
         while (filled[slot] != 0) {
             slot = (slot + 1) % slotCount;
         }
@@ -310,24 +307,24 @@ constexpr std::array<std::uint16_t, slotCount> slots = [] {
     return filled;
 }();
 
-constexpr const ControlWord* find(std::string_view name)
+constexpr const ControlWord* find(std::uint64_t code)
 {
-    for (std::size_t slot = slotOf(name); slots[slot] != 0; slot = (slot + 1) % slotCount) {
+    for (std::size_t slot = slotOf(code); slots[slot] != 0; slot = (slot + 1) % slotCount) {
         const ControlWord& candidate = words[slots[slot] - 1];
-        if (candidate.name == name) {
+        if (candidate.code == code) {
             return &candidate;
         }
     }
     return nullptr;
 }
 
-static_assert(std::ranges::all_of(words, [](auto& word) { return find(word.name) == &word; }));
+static_assert(std::ranges::all_of(words, [](auto& word) { return find(word.code) == &word; }));
 
 } // namespace
 
-const ControlWord* findControlWord(std::string_view name)
+const ControlWord* findControlWord(std::uint64_t code)
 {
-    return find(name);
+    return find(code);
 }
 
 } // namespace corvellane::rtf

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 namespace corvellane::rtf {
@@ -16,9 +17,11 @@ struct ControlWord {
     Action action = nullptr;
     /// The character that the word stands for; 0 for none.
     char32_t character = 0;
+    /// The name's code.
+    std::uint64_t code = 0;
 };
 
-/// The control word of that name; null for one that means nothing to the reader.
-const ControlWord* findControlWord(std::string_view name);
+/// The control word whose name has that code (LeadingLetters); null for one that means nothing to the reader.
+const ControlWord* findControlWord(std::uint64_t code);
 
 } // namespace corvellane::rtf

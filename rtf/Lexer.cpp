@@ -8,16 +8,6 @@
 namespace corvellane::rtf {
 namespace {
 
-bool isLetter(char byte)
-{
-    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-}
-
-bool isDigit(char byte)
-{
-    return byte >= '0' && byte <= '9';
-}
-
 constexpr std::array<std::int8_t, 256> hexDigits = [] {
     std::array<std::int8_t, 256> values{};
     values.fill(-1);
@@ -33,150 +23,71 @@ int hexDigit(char byte)
     return hexDigits[static_cast<unsigned char>(byte)];
 }
 
-std::string_view leadingLetters(std::string_view bytes)
+/// The byte that two digits stand for; -1 where there are none.
+int hexByte(const char* digits)
 {
-    return {bytes.begin(), std::ranges::find_if_not(bytes, isLetter)};
+    const int high = hexDigit(digits[0]);
+    const int low = high < 0 ? -1 : hexDigit(digits[1]);
+    return low < 0 ? -1 : (high * 16) + low;
 }
 
 /// What could follow a backslash: a word that the reader knows, or a byte in hexadecimal.
-bool startsControl(std::string_view bytes)
+bool startsControl(const char* next, const char* end)
 {
-    if (bytes.starts_with('\'')) {
-        return bytes.size() > 2 && hexDigit(bytes[1]) >= 0 && hexDigit(bytes[2]) >= 0;
+    if (*next == '\'') {
+        return hexByte(next + 1) >= 0;
     }
-    return findControlWord(leadingLetters(bytes)) != nullptr;
+    return findControlWord(leadingLetters(next, end).code) != nullptr;
 }
 
 } // namespace
 
-bool Lexer::at(std::size_t offset, char wanted) const
-{
-    return offset < bytes_.size() - position_ && bytes_[position_ + offset] == wanted;
-}
-
-const Token& Lexer::next()
-{
-    while (position_ < bytes_.size()) {
-        if (lexToken()) {
-            return token_;
-        }
-    }
-    token_.kind = Token::Kind::end;
-    return token_;
-}
-
-/// False when what stood there means nothing.
-bool Lexer::lexToken()
-{
-    const char byte = bytes_[position_];
-    if (byte == '\\') {
-        return lexControl();
-    }
-    if (byte == '{' || byte == '}') {
-        token_.kind = byte == '{' ? Token::Kind::open : Token::Kind::close;
-        ++position_;
-        return true;
-    }
-    return lexText();
-}
-
-/// Steps over a byte that is none of the text.
+/// Steps over a byte that is none of the text, and gives false.
 bool Lexer::lexText()
 {
-    const std::string_view rest = bytes_.substr(position_);
-    const std::size_t asciiLength = textLength<TextBytes::ascii>(rest);
-    const std::size_t length = asciiLength + textLength<TextBytes::all>(rest.substr(asciiLength));
-    position_ += std::max<std::size_t>(length, 1);
+    const std::size_t asciiLength = textLength<TextBytes::ascii>({next_, end_});
+    const std::size_t length = asciiLength + textLength<TextBytes::all>({next_ + asciiLength, end_});
     token_.kind = Token::Kind::text;
     token_.ascii = length == asciiLength;
-    token_.text = rest.substr(0, length);
+    token_.text = {next_, length};
+    next_ += std::max<std::size_t>(length, 1);
     return length != 0;
 }
 
-bool Lexer::lexControl()
+/// False when what stood there means nothing.
+bool Lexer::lexNoWord()
 {
-    ++position_;
-    if (position_ == bytes_.size()) {
-        return false;
-    }
-    if (bytes_[position_] == '\'') {
+    if (*next_ == '\'') {
         return lexBytes();
     }
-    isLetter(bytes_[position_]) ? lexWord() : lexSymbol();
+    token_.kind = Token::Kind::symbol;
+    token_.text = *next_ == '\r' ? "\n" : std::string_view(next_, 1);
+    ++next_;
     return true;
-}
-
-void Lexer::lexWord()
-{
-    token_.kind = Token::Kind::word;
-    token_.text = leadingLetters(bytes_.substr(position_));
-    position_ += token_.text.size();
-    lexParameter();
-    if (at(0, ' ')) {
-        ++position_;
-    }
-    if (token_.text == "bin") {
-        lexData();
-    }
-}
-
-/// A number wider than 32 bits keeps its low 32.
-void Lexer::lexParameter()
-{
-    const std::size_t sign = at(0, '-') ? 1 : 0;
-    token_.hasParameter = position_ + sign < bytes_.size() && isDigit(bytes_[position_ + sign]);
-    token_.parameter = 0;
-    if (!token_.hasParameter) {
-        return;
-    }
-    position_ += sign;
-    std::uint32_t number = 0;
-    for (; position_ < bytes_.size() && isDigit(bytes_[position_]); ++position_) {
-        number = number * 10 + static_cast<std::uint32_t>(bytes_[position_] - '0');
-    }
-    token_.parameter = static_cast<std::int32_t>(sign != 0 ? 0U - number : number);
 }
 
 void Lexer::lexData()
 {
-    token_.data = bytes_.substr(position_, static_cast<std::size_t>(std::max(token_.parameter, 0)));
-    position_ += token_.data.size();
-}
-
-void Lexer::lexSymbol()
-{
-    token_.kind = Token::Kind::symbol;
-    token_.text = at(0, '\r') ? "\n" : bytes_.substr(position_, 1);
-    ++position_;
-}
-
-/// The byte written at the position of two digits; -1 where there are none.
-int Lexer::hexByteAt(std::size_t position) const
-{
-    if (bytes_.size() < 2 || position > bytes_.size() - 2) {
-        return -1;
-    }
-    const int high = hexDigit(bytes_[position]);
-    const int low = hexDigit(bytes_[position + 1]);
-    return high < 0 || low < 0 ? -1 : (high * 16) + low;
+    token_.data = std::string_view(next_, end_).substr(0, static_cast<std::size_t>(std::max(token_.parameter, 0)));
+    next_ += token_.data.size();
 }
 
 /// Stands on the apostrophe. Of a byte without its digits nothing is left, not even a single digit.
 bool Lexer::lexBytes()
 {
     std::size_t count = 0;
-    for (int value = hexByteAt(position_ + 1); value >= 0; value = hexByteAt(position_ + 1)) {
+    for (int value = hexByte(next_ + 1); value >= 0; value = hexByte(next_ + 1)) {
         hexBytes_[count++] = static_cast<char>(value);
-        position_ += 3;
-        if (count == hexBytes_.size() || !at(0, '\\') || !at(1, '\'') || hexByteAt(position_ + 2) < 0) {
+        next_ += 3;
+        if (count == hexBytes_.size() || next_[0] != '\\' || next_[1] != '\'' || hexByte(next_ + 2) < 0) {
             token_.kind = Token::Kind::bytes;
             token_.text = {hexBytes_.data(), count};
             return true;
         }
-        ++position_;
+        ++next_;
     }
-    ++position_;
-    position_ += position_ < bytes_.size() && hexDigit(bytes_[position_]) >= 0 ? 1 : 0;
+    ++next_;
+    next_ += hexDigit(*next_) >= 0 ? 1 : 0;
     return false;
 }
 
@@ -184,11 +95,11 @@ bool Lexer::lexBytes()
 /// hexadecimal. After two backslashes only what follows can tell: a control, or text.
 int Lexer::peekTrailByte() const
 {
-    if (at(0, '{') || at(0, '}')) {
-        return bytes_[position_];
+    if (next_ == end_ || *next_ == '{' || *next_ == '}') {
+        return next_ == end_ ? -1 : *next_;
     }
-    const bool written = at(1, '\'') || (at(1, '\\') && !startsControl(bytes_.substr(position_ + 2)));
-    return at(0, '\\') && !written ? '\\' : -1;
+    const bool written = next_[1] == '\'' || (next_[1] == '\\' && !startsControl(next_ + 2, end_));
+    return *next_ == '\\' && !written ? '\\' : -1;
 }
 
 } // namespace corvellane::rtf

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "rtf/ByteScan.h"
+#include "rtf/ControlWords.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -30,6 +33,8 @@ struct Token {
     /// 0 where there is none.
     std::int32_t parameter = 0;
     std::string_view text;
+    /// What a control word is to the reader; null for one that means nothing to it.
+    const ControlWord* word = nullptr;
     /// The data behind \bin.
     std::string_view data;
 
@@ -37,11 +42,13 @@ struct Token {
 };
 
 /// Cuts RTF into tokens that point into the given bytes, or for bytes in hexadecimal into the lexer. Line ends and
-/// control characters in the text are left out, as are hexadecimal bytes without their digits.
+/// control characters in the text are left out, as are hexadecimal bytes without their digits, and all that follows the
+/// last closing brace.
 class Lexer {
 public:
     explicit Lexer(std::string_view bytes)
-        : bytes_(bytes)
+        : next_(bytes.data())
+        , end_(bytes.data() + bytes.rfind('}') + 1)
     {
     }
 
@@ -53,24 +60,83 @@ public:
     int peekTrailByte() const;
 
     /// Steps over the byte that peekTrailByte() gave.
-    void skipByte() { ++position_; }
+    void skipByte() { ++next_; }
 
 private:
-    bool lexToken();
     bool lexControl();
+    bool lexNoWord();
     bool lexText();
-    void lexWord();
-    void lexSymbol();
-    bool lexBytes();
-    int hexByteAt(std::size_t position) const;
+    void lexWord(const LeadingLetters& name);
     void lexParameter();
+    bool lexBytes();
     void lexData();
-    bool at(std::size_t offset, char wanted) const;
 
-    std::string_view bytes_;
-    std::size_t position_ = 0;
+    const char* next_;
+    /// A closing brace stands before the end, which ends whatever else is looked at.
+    const char* end_;
     Token token_;
     std::array<char, 256> hexBytes_{};
 };
+
+inline const Token& Lexer::next()
+{
+    while (next_ != end_) {
+        const char byte = *next_;
+        if (byte == '\\') {
+            if (lexControl()) {
+                return token_;
+            }
+        } else if (byte == '{' || byte == '}') {
+            token_.kind = byte == '{' ? Token::Kind::open : Token::Kind::close;
+            ++next_;
+            return token_;
+        } else if (lexText()) {
+            return token_;
+        }
+    }
+    token_.kind = Token::Kind::end;
+    return token_;
+}
+
+/// False when what stood there means nothing.
+inline bool Lexer::lexControl()
+{
+    ++next_;
+    const LeadingLetters name = leadingLetters(next_, end_);
+    if (name.length == 0) {
+        return lexNoWord();
+    }
+    lexWord(name);
+    return true;
+}
+
+inline void Lexer::lexWord(const LeadingLetters& name)
+{
+    token_.kind = Token::Kind::word;
+    token_.text = {next_, name.length};
+    token_.word = findControlWord(name.code);
+    next_ += name.length;
+    lexParameter();
+    next_ += *next_ == ' ' ? 1 : 0;
+    if (name.code == codeOfName("bin")) {
+        lexData();
+    }
+}
+
+/// A number wider than 32 bits keeps its low 32.
+inline void Lexer::lexParameter()
+{
+    const auto digit = [](char byte) { return static_cast<unsigned>(byte) - '0'; };
+    const bool isNegative = *next_ == '-';
+    const char* const begin = next_ + (isNegative ? 1 : 0);
+    const char* next = begin;
+    std::uint32_t number = 0;
+    for (; digit(*next) <= 9; ++next) {
+        number = number * 10 + digit(*next);
+    }
+    token_.hasParameter = next != begin;
+    token_.parameter = static_cast<std::int32_t>(isNegative ? 0U - number : number);
+    next_ = token_.hasParameter ? next : next_;
+}
 
 } // namespace corvellane::rtf

@@ -37,7 +37,9 @@ public:
     AttributedText take() { return writer_.take(); }
 
 private:
-    void carryOut(const Token& token, bool beginsGroup);
+    /// What a token is to the one after it.
+    enum class Before : std::uint8_t { open, optionalMark, other };
+
     void onWord(const Token& token);
     void onSymbol(const Token& token);
     void onText(const Token& token);
@@ -46,51 +48,45 @@ private:
 
     Lexer lexer_;
     Writer writer_;
-    /// A \* was the last token.
-    bool isOptional_ = false;
 };
 
 /// Goes through the outer group; false when it never closes.
 bool Interpreter::run()
 {
-    auto before = Token::Kind::end;
-    do {
+    auto next = Before::other;
+    while (true) {
         const Token& token = lexer_.next();
-        if (token.kind == Token::Kind::end) {
-            return false;
-        }
-        if (token.kind != Token::Kind::word && std::exchange(isOptional_, false)) {
+        const Before before = std::exchange(next, Before::other);
+        if (before == Before::optionalMark && (token.kind != Token::Kind::word || token.word == nullptr)) {
             writer_.skipGroup();
         }
-        carryOut(token, std::exchange(before, token.kind) == Token::Kind::open);
-    } while (writer_.depth() != 0);
-    return true;
-}
-
-void Interpreter::carryOut(const Token& token, bool beginsGroup)
-{
-    switch (token.kind) {
-    case Token::Kind::end:
-        break;
-    case Token::Kind::open:
-        writer_.openGroup();
-        break;
-    case Token::Kind::close:
-        writer_.closeGroup();
-        break;
-    case Token::Kind::word:
-        onWord(token);
-        break;
-    case Token::Kind::symbol:
-        isOptional_ = beginsGroup && token.text == "*";
-        onSymbol(token);
-        break;
-    case Token::Kind::bytes:
-        writer_.putBytes(withoutFallback(token.text));
-        break;
-    case Token::Kind::text:
-        onText(token);
-        break;
+        switch (token.kind) {
+        case Token::Kind::end:
+            return false;
+        case Token::Kind::open:
+            writer_.openGroup();
+            next = Before::open;
+            break;
+        case Token::Kind::close:
+            writer_.closeGroup();
+            if (writer_.depth() == 0) {
+                return true;
+            }
+            break;
+        case Token::Kind::word:
+            onWord(token);
+            break;
+        case Token::Kind::symbol:
+            onSymbol(token);
+            next = before == Before::open && token.text == "*" ? Before::optionalMark : Before::other;
+            break;
+        case Token::Kind::bytes:
+            writer_.putBytes(withoutFallback(token.text));
+            break;
+        case Token::Kind::text:
+            onText(token);
+            break;
+        }
     }
 }
 
@@ -98,10 +94,7 @@ void Interpreter::carryOut(const Token& token, bool beginsGroup)
 /// forgot the fallback before.
 void Interpreter::onWord(const Token& token)
 {
-    const ControlWord* const word = findControlWord(token.text);
-    if (std::exchange(isOptional_, false) && word == nullptr) {
-        writer_.skipGroup();
-    }
+    const ControlWord* const word = token.word;
     writer_.breakBytes();
     if (word != nullptr && word->character == 0) {
         writer_.fallback = 0;

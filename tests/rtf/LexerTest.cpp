@@ -23,14 +23,17 @@ std::string printed(const Token& token)
                                                                  : result;
 }
 
-std::string tokens(std::string_view rtf)
+/// What stands before the brace that ends the RTF.
+std::string tokens(const std::string& rtf)
 {
-    Lexer lexer(rtf);
+    const std::string group = rtf + '}';
+    Lexer lexer(group);
     std::string all;
     for (const Token* token = &lexer.next(); token->kind != Token::Kind::end; token = &lexer.next()) {
-        all.append(all.empty() ? "" : "|").append(printed(*token));
+        all.append("|").append(printed(*token));
     }
-    return all;
+    all.resize(all.ends_with("|}") ? all.size() - 2 : all.size());
+    return all.substr(all.empty() ? 0 : 1);
 }
 
 TEST(Lexer, cutsRtfIntoTokens)
@@ -56,7 +59,8 @@ TEST(Lexer, cutsRtfIntoTokens)
         {"\\~\\*\\\\\\{", "\\~|\\*|\\\\|\\{"},
         {"\\\n\\\r\\\r\n.", "\\end-of-line|\\end-of-line|\\end-of-line|ascii ."},
         {"\\\r\r\n\\\n\n.", "\\end-of-line|\\end-of-line|ascii ."},
-        {"\\", ""},
+        {"\\", "\\}"},
+        {"a}b", "ascii a|}|ascii b"},
         {"a\tb\xE9 c", "bytes a\tb\xE9 c"},
         {"a\nb\r\nc", "ascii a|ascii b|ascii c"},
         {"\x01 ~\x7F\x1F[|]\x80\xFF\x02", "ascii  ~\x7F|bytes [|]\x80\xFF"},
@@ -84,11 +88,11 @@ TEST(Lexer, cutsRtfIntoTokens)
 TEST(Lexer, tellsATrailByteFromAControl)
 {
     const std::vector<std::pair<std::string, int>> rows = {
-        {"", -1},
         {"a", -1},
         {"{b", '{'},
         {"}", '}'},
         {"\\par", '\\'},
+        {"", '}'},
         {"\\", '\\'},
         {"\\'a0", -1},
         {"\\\\text", -1},
@@ -99,7 +103,7 @@ TEST(Lexer, tellsATrailByteFromAControl)
         {"\\}", '\\'},
     };
     for (const auto& [rest, expected] : rows) {
-        EXPECT_EQ(Lexer(rest).peekTrailByte(), expected) << rest;
+        EXPECT_EQ(Lexer(rest + '}').peekTrailByte(), expected) << rest;
     }
 }
 
