@@ -80,18 +80,17 @@ struct LeadingLetters {
     }
 };
 
+/// The same where the first eight are letters.
+LeadingLetters leadingLettersOfMany(const char* next, const char* end);
+
 inline LeadingLetters leadingLetters(const char* next, const char* end)
 {
-    LeadingLetters name;
-    while (true) {
-        const EightBytes bytes = eightBytes(next + name.length, end);
-        const EightBytes marks = markNoLetters(bytes);
-        if (marks != 0) {
-            name.add(keepBefore(marks, bytes), bytesBefore(marks));
-            return name;
-        }
-        name.add(bytes, sizeof bytes);
+    const EightBytes bytes = eightBytes(next, end);
+    const EightBytes marks = markNoLetters(bytes);
+    if (marks != 0) [[likely]] {
+        return {.length = bytesBefore(marks), .code = keepBefore(marks, bytes)};
     }
+    return leadingLettersOfMany(next, end);
 }
 
 /// The code of a name that is known.

@@ -9,15 +9,25 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace corvellane::rtf {
 namespace {
 
 using namespace actions;
 
-/// What the reader knows, words of the same sense in one row, parted by spaces.
-constexpr auto rows = std::to_array<ControlWord>({
-    {"rtf ansi shppict picprop sp shpinst shptxt"},
+/// Words of the same sense, parted by spaces.
+struct Row {
+    std::string_view names;
+    Action action = nullptr;
+    char32_t character = 0;
+};
+
+void nothing(Writer&, const Token&) { }
+
+/// What the reader knows.
+constexpr auto rows = std::to_array<Row>({
+    {"rtf ansi shppict picprop sp shpinst shptxt", nothing},
     {"mac", codePage<10000>},
     {"pc", codePage<437>},
     {"pca", codePage<850>},
@@ -263,68 +273,27 @@ constexpr auto rows = std::to_array<ControlWord>({
         destination<Destination::skipped>},
 });
 
-constexpr std::size_t wordCount = [] {
-    std::size_t count = rows.size();
-    for (const ControlWord& row : rows) {
-        count += static_cast<std::size_t>(std::ranges::count(row.name, ' '));
-    }
-    return count;
-}();
+} // namespace
 
-constexpr auto words = [] {
-    std::array<ControlWord, wordCount> single{};
-    std::size_t count = 0;
-    for (ControlWord row : rows) {
-        for (std::string_view names = row.name; !names.empty(); ++count) {
-            row.name = names.substr(0, names.find(' '));
-            row.code = codeOfName(row.name);
-            names.remove_prefix(std::min(row.name.size() + 1, names.size()));
-            single[count] = row;
+constexpr std::array<ControlWord, controlWordSlotCount> controlWords = [] {
+    std::array<ControlWord, controlWordSlotCount> filled{};
+    const auto add = [&](const ControlWord& word) {
+        std::size_t slot = controlWordSlot(word.code);
+        while (filled[slot].code != 0 && filled[slot].code != word.code) {
+            slot = (slot + 1) % controlWordSlotCount;
         }
-    }
-    return single;
-}();
-
-constexpr std::size_t slotCount = 1U << 11U;
-static_assert(words.size() * 4 < slotCount);
-
-constexpr std::size_t slotOf(std::uint64_t code)
-{
-    return code * 0x9E3779B97F4A7C15U >> 53U;
-}
-
-/// 1 + the index of a word in the slot of its name or in the next free one after it; 0 in a free slot.
-constexpr std::array<std::uint16_t, slotCount> slots = [] {
-    static_assert(words.size() <= UINT16_MAX);
-    std::array<std::uint16_t, slotCount> filled{};
-    for (std::size_t index = 0; index < words.size(); ++index) {
-        std::size_t slot = slotOf(words[index].code);
-        while (filled[slot] != 0) {
-            slot = (slot + 1) % slotCount;
+        // No two words have one code: a second one does not compile.
+        filled.at(filled[slot].code == 0 ? slot : filled.size()) = word;
+    };
+    for (const Row& row : rows) {
+        for (std::size_t begin = 0, end = 0; begin < row.names.size(); begin = end + 1) {
+            end = std::min(row.names.find(' ', begin), row.names.size());
+            add({.code = codeOfName(row.names.substr(begin, end - begin)), .action = row.action, .character = row.character});
         }
-        filled[slot] = static_cast<std::uint16_t>(index + 1);
     }
     return filled;
 }();
 
-constexpr const ControlWord* find(std::uint64_t code)
-{
-    for (std::size_t slot = slotOf(code); slots[slot] != 0; slot = (slot + 1) % slotCount) {
-        const ControlWord& candidate = words[slots[slot] - 1];
-        if (candidate.code == code) {
-            return &candidate;
-        }
-    }
-    return nullptr;
-}
-
-static_assert(std::ranges::all_of(words, [](auto& word) { return find(word.code) == &word; }));
-
-} // namespace
-
-const ControlWord* findControlWord(std::uint64_t code)
-{
-    return find(code);
-}
+static_assert(std::ranges::count(controlWords, 0U, &ControlWord::code) > std::ptrdiff_t{controlWordSlotCount / 2});
 
 } // namespace corvellane::rtf

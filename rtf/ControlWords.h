@@ -1,7 +1,8 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
-#include <string_view>
 
 namespace corvellane::rtf {
 
@@ -12,16 +13,34 @@ struct Token;
 using Action = void (*)(Writer& writer, const Token& token);
 
 struct ControlWord {
-    std::string_view name;
-    /// Null for a word that does nothing, or only puts its character.
+    /// Of its name (LeadingLetters).
+    std::uint64_t code = 0;
+    /// Null for a word that only puts its character.
     Action action = nullptr;
     /// The character that the word stands for; 0 for none.
     char32_t character = 0;
-    /// The name's code.
-    std::uint64_t code = 0;
 };
 
-/// The control word whose name has that code (LeadingLetters); null for one that means nothing to the reader.
-const ControlWord* findControlWord(std::uint64_t code);
+constexpr std::size_t controlWordSlotCount = 1U << 10U;
+
+constexpr std::size_t controlWordSlot(std::uint64_t code)
+{
+    return code * 0x9E3779B97F4A7C15U >> 54U;
+}
+
+/// What the reader knows, each word in the slot of its code or in the next free one after it. Free slots have the code 0.
+extern const std::array<ControlWord, controlWordSlotCount> controlWords;
+
+/// The control word whose name has that code, which is not 0; null for one that means nothing to the reader.
+inline const ControlWord* findControlWord(std::uint64_t code)
+{
+    for (std::size_t slot = controlWordSlot(code); controlWords[slot].code != 0;
+        slot = (slot + 1) % controlWordSlotCount) {
+        if (controlWords[slot].code == code) {
+            return &controlWords[slot];
+        }
+    }
+    return nullptr;
+}
 
 } // namespace corvellane::rtf

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
-#include <string_view>
+#include <cstring>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -45,15 +46,40 @@ public:
     std::vector<Value> take() { return std::move(values_); }
 
 private:
-    static std::string_view bytesOf(const Value& value)
+    static constexpr std::size_t wordCount = (sizeof(Value) + 7) / 8;
+
+    /// Eight of the value's bytes; the last word may overlap the one before it.
+    static std::uint64_t word(const Value& value, std::size_t index)
     {
-        return {reinterpret_cast<const char*>(&value), sizeof value};
+        std::uint64_t bytes = 0;
+        static_assert(sizeof value >= sizeof bytes);
+        const std::size_t begin = std::min(index * sizeof bytes, sizeof value - sizeof bytes);
+        std::memcpy(&bytes, reinterpret_cast<const char*>(&value) + begin, sizeof bytes);
+        return bytes;
+    }
+
+    static std::uint64_t hashOf(const Value& value)
+    {
+        std::uint64_t hash = 0;
+        for (std::size_t index = 0; index < wordCount; ++index) {
+            hash = (std::rotl(hash, 5) ^ word(value, index)) * 0x9E3779B97F4A7C15U;
+        }
+        return hash;
+    }
+
+    static bool areEqual(const Value& first, const Value& second)
+    {
+        std::uint64_t difference = 0;
+        for (std::size_t index = 0; index < wordCount; ++index) {
+            difference |= word(first, index) ^ word(second, index);
+        }
+        return difference == 0;
     }
 
     std::uint32_t& slotOf(const Value& value)
     {
-        std::size_t place = std::hash<std::string_view>()(bytesOf(value)) & (slots_.size() - 1);
-        while (slots_[place] != 0 && bytesOf(values_[slots_[place] - 1]) != bytesOf(value)) {
+        std::size_t place = hashOf(value) >> shift_;
+        while (slots_[place] != 0 && !areEqual(values_[slots_[place] - 1], value)) {
             place = (place + 1) & (slots_.size() - 1);
         }
         return slots_[place];
@@ -61,7 +87,8 @@ private:
 
     void grow()
     {
-        slots_.assign(slots_.empty() ? 64 : slots_.size() * 2, 0);
+        --shift_;
+        slots_.assign(std::size_t{1} << (64 - shift_), 0);
         for (std::uint32_t index = 0; index < values_.size(); ++index) {
             slotOf(values_[index]) = index + 1;
         }
@@ -69,8 +96,9 @@ private:
 
     std::size_t most_;
     std::vector<Value> values_;
-    /// 1 + the index of a value, 0 for a free slot; the size is a power of two.
+    /// 1 + the index of a value, 0 for a free slot; by the hash's bits from `shift_` on.
     std::vector<std::uint32_t> slots_;
+    unsigned shift_ = 59;
 };
 
 } // namespace corvellane::rtf

@@ -42,16 +42,28 @@ bool startsControl(const char* next, const char* end)
 
 } // namespace
 
-/// Steps over a byte that is none of the text, and gives false.
-bool Lexer::lexText()
+LeadingLetters leadingLettersOfMany(const char* next, const char* end)
+{
+    LeadingLetters name;
+    EightBytes marks = 0;
+    while (marks == 0) {
+        const EightBytes bytes = eightBytes(next + name.length, end);
+        marks = markNoLetters(bytes);
+        name.add(marks != 0 ? keepBefore(marks, bytes) : bytes, marks != 0 ? bytesBefore(marks) : sizeof bytes);
+    }
+    return name;
+}
+
+/// Stands on a byte that is text.
+void Lexer::lexText()
 {
     const std::size_t asciiLength = textLength<TextBytes::ascii>({next_, end_});
-    const std::size_t length = asciiLength + textLength<TextBytes::all>({next_ + asciiLength, end_});
     token_.kind = Token::Kind::text;
-    token_.ascii = length == asciiLength;
+    token_.ascii = static_cast<unsigned char>(next_[asciiLength]) < 0x80;
+    const std::size_t length
+        = token_.ascii ? asciiLength : asciiLength + textLength<TextBytes::all>({next_ + asciiLength, end_});
     token_.text = {next_, length};
-    next_ += std::max<std::size_t>(length, 1);
-    return length != 0;
+    next_ += length;
 }
 
 /// False when what stood there means nothing.

@@ -65,9 +65,9 @@ public:
 private:
     bool lexControl();
     bool lexNoWord();
-    bool lexText();
+    void lexText();
     void lexWord(const LeadingLetters& name);
-    void lexParameter();
+    const char* lexParameter(const char* begin);
     bool lexBytes();
     void lexData();
 
@@ -90,8 +90,11 @@ inline const Token& Lexer::next()
             token_.kind = byte == '{' ? Token::Kind::open : Token::Kind::close;
             ++next_;
             return token_;
-        } else if (lexText()) {
+        } else if (isTextByte<TextBytes::all>[static_cast<unsigned char>(byte)]) {
+            lexText();
             return token_;
+        } else {
+            ++next_;
         }
     }
     token_.kind = Token::Kind::end;
@@ -103,11 +106,11 @@ inline bool Lexer::lexControl()
 {
     ++next_;
     const LeadingLetters name = leadingLetters(next_, end_);
-    if (name.length == 0) {
-        return lexNoWord();
+    if (name.length != 0) [[likely]] {
+        lexWord(name);
+        return true;
     }
-    lexWord(name);
-    return true;
+    return lexNoWord();
 }
 
 inline void Lexer::lexWord(const LeadingLetters& name)
@@ -115,28 +118,26 @@ inline void Lexer::lexWord(const LeadingLetters& name)
     token_.kind = Token::Kind::word;
     token_.text = {next_, name.length};
     token_.word = findControlWord(name.code);
-    next_ += name.length;
-    lexParameter();
-    next_ += *next_ == ' ' ? 1 : 0;
-    if (name.code == codeOfName("bin")) {
+    const char* const next = lexParameter(next_ + name.length);
+    next_ = next + (*next == ' ' ? 1 : 0);
+    if (name.code == codeOfName("bin")) [[unlikely]] {
         lexData();
     }
 }
 
-/// A number wider than 32 bits keeps its low 32.
-inline void Lexer::lexParameter()
+/// Gives what follows. A number wider than 32 bits keeps its low 32.
+inline const char* Lexer::lexParameter(const char* begin)
 {
     const auto digit = [](char byte) { return static_cast<unsigned>(byte) - '0'; };
-    const bool isNegative = *next_ == '-';
-    const char* const begin = next_ + (isNegative ? 1 : 0);
-    const char* next = begin;
+    const bool isNegative = *begin == '-' && digit(begin[1]) <= 9;
+    const char* next = begin + (isNegative ? 1 : 0);
     std::uint32_t number = 0;
     for (; digit(*next) <= 9; ++next) {
         number = number * 10 + digit(*next);
     }
     token_.hasParameter = next != begin;
     token_.parameter = static_cast<std::int32_t>(isNegative ? 0U - number : number);
-    next_ = token_.hasParameter ? next : next_;
+    return next;
 }
 
 } // namespace corvellane::rtf

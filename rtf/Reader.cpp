@@ -40,6 +40,7 @@ private:
     /// What a token is to the one after it.
     enum class Before : std::uint8_t { open, optionalMark, other };
 
+    Before carryOut(const Token& token, Before before);
     void onWord(const Token& token);
     void onSymbol(const Token& token);
     void onText(const Token& token);
@@ -53,41 +54,51 @@ private:
 /// Goes through the outer group; false when it never closes.
 bool Interpreter::run()
 {
-    auto next = Before::other;
+    auto before = Before::other;
     while (true) {
         const Token& token = lexer_.next();
-        const Before before = std::exchange(next, Before::other);
         if (before == Before::optionalMark && (token.kind != Token::Kind::word || token.word == nullptr)) {
             writer_.skipGroup();
         }
-        switch (token.kind) {
-        case Token::Kind::end:
-            return false;
-        case Token::Kind::open:
-            writer_.openGroup();
-            next = Before::open;
-            break;
-        case Token::Kind::close:
-            writer_.closeGroup();
-            if (writer_.depth() == 0) {
-                return true;
-            }
-            break;
-        case Token::Kind::word:
+        if (token.kind == Token::Kind::word) [[likely]] {
             onWord(token);
-            break;
-        case Token::Kind::symbol:
-            onSymbol(token);
-            next = before == Before::open && token.text == "*" ? Before::optionalMark : Before::other;
-            break;
-        case Token::Kind::bytes:
-            writer_.putBytes(withoutFallback(token.text));
-            break;
-        case Token::Kind::text:
-            onText(token);
-            break;
+            before = Before::other;
+            continue;
+        }
+        if (token.kind == Token::Kind::end) {
+            return false;
+        }
+        before = carryOut(token, before);
+        if (token.kind == Token::Kind::close && writer_.depth() == 0) {
+            return true;
         }
     }
+}
+
+/// Gives what the token is to the next one.
+Interpreter::Before Interpreter::carryOut(const Token& token, Before before)
+{
+    switch (token.kind) {
+    case Token::Kind::end:
+    case Token::Kind::word:
+        break;
+    case Token::Kind::open:
+        writer_.openGroup();
+        return Before::open;
+    case Token::Kind::close:
+        writer_.closeGroup();
+        break;
+    case Token::Kind::symbol:
+        onSymbol(token);
+        return before == Before::open && token.text == "*" ? Before::optionalMark : Before::other;
+    case Token::Kind::bytes:
+        writer_.putBytes(withoutFallback(token.text));
+        break;
+    case Token::Kind::text:
+        onText(token);
+        break;
+    }
+    return Before::other;
 }
 
 /// A writer may put any word in the place of a character, but one that formats is more likely one that the writer
@@ -96,9 +107,9 @@ void Interpreter::onWord(const Token& token)
 {
     const ControlWord* const word = token.word;
     writer_.breakBytes();
-    if (word != nullptr && word->character == 0) {
+    if (word != nullptr && word->action != nullptr) {
         writer_.fallback = 0;
-        if (word->action != nullptr && writer_.group().destination != Destination::skipped) {
+        if (writer_.group().destination != Destination::skipped) {
             word->action(writer_, token);
         }
     } else if (writer_.fallback > 0) {

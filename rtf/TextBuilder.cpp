@@ -123,14 +123,9 @@ void TextBuilder::endRow(const RowFormat& row)
     part_->rows.push_back(rowFormats_.index(row));
 }
 
-/// Paragraph after paragraph sets the same stops: the one that came next last time is tried before any other.
-std::uint32_t TextBuilder::addTab(TabStop stop)
+std::uint32_t TextBuilder::addOtherTab(TabStop stop)
 {
-    const std::uint32_t next = nextTabs_[stop.previous];
     stop.count = stop.previous != 0 ? static_cast<std::uint16_t>(tabs_[stop.previous - 1].count + 1) : std::uint16_t{1};
-    if (next != 0 && tabs_[next - 1] == stop) {
-        return next;
-    }
     if (stop.count > mostTabs) {
         return stop.previous;
     }

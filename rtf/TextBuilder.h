@@ -71,6 +71,7 @@ private:
     };
 
     std::uint32_t lookOf(std::uint32_t character, const FontTable& fonts);
+    std::uint32_t addOtherTab(TabStop stop);
     void endRun();
     void appendNotes();
 
@@ -90,5 +91,18 @@ private:
     std::vector<std::string> links_;
     std::vector<Picture> pictures_;
 };
+
+/// Paragraph after paragraph sets the same stops: the one that came next last time is tried before any other.
+inline std::uint32_t TextBuilder::addTab(TabStop stop)
+{
+    const std::uint32_t next = nextTabs_[stop.previous];
+    if (next != 0) {
+        const TabStop& known = tabs_[next - 1];
+        if (known.position == stop.position && known.kind == stop.kind && known.leader == stop.leader) {
+            return next;
+        }
+    }
+    return addOtherTab(stop);
+}
 
 } // namespace corvellane::rtf

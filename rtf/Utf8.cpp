@@ -4,7 +4,9 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <functional>
 #include <memory>
+#include <numeric>
 
 namespace corvellane::rtf {
 namespace {
@@ -15,10 +17,11 @@ constexpr std::size_t fewestCharacters = 2;
 const char* findAbove(const char* next, const char* end)
 {
     constexpr std::uint64_t highBits = 0x8080808080808080U;
-    std::array<std::uint64_t, 4> block{};
+    std::array<std::uint64_t, 8> block{};
     for (; static_cast<std::size_t>(end - next) >= sizeof block; next += sizeof block) {
         std::memcpy(block.data(), next, sizeof block);
-        if (((block[0] | block[1] | block[2] | block[3]) & highBits) != 0) {
+        const std::uint64_t all = std::accumulate(block.begin(), block.end(), std::uint64_t{0}, std::bit_or());
+        if ((all & highBits) != 0) {
             break;
         }
     }

@@ -366,15 +366,6 @@ std::uint32_t Writer::endFormatIndex()
     return builder_.indexOf(format);
 }
 
-void Writer::addTab(Twips position)
-{
-    const TabStop stop{.position = position,
-        .previous = paragraph_.lastTab,
-        .kind = std::exchange(tabKind, TabKind::left),
-        .leader = std::exchange(tabLeader, TabLeader::none)};
-    changeParagraph().lastTab = builder_.addTab(stop);
-}
-
 void Writer::endCellFormat(Twips rightEdge)
 {
     CellFormat& cell = rows.cell();

@@ -16,6 +16,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace corvellane::rtf {
 
@@ -176,6 +177,15 @@ inline FontTable& Writer::changeFonts()
 {
     sinkChanged_ = true;
     return fonts_;
+}
+
+inline void Writer::addTab(Twips position)
+{
+    ParagraphFormat& format = changeParagraph();
+    format.lastTab = builder_.addTab({.position = position,
+        .previous = format.lastTab,
+        .kind = std::exchange(tabKind, TabKind::left),
+        .leader = std::exchange(tabLeader, TabLeader::none)});
 }
 
 } // namespace corvellane::rtf
