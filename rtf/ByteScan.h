@@ -50,7 +50,7 @@ inline EightBytes eightBytes(const char* from, const char* end)
 /// How many bytes stand before the first mark.
 constexpr std::size_t bytesBefore(EightBytes marks)
 {
-    return static_cast<std::size_t>(std::countr_zero(marks)) / 8;
+    return static_cast<unsigned>(std::countr_zero(marks)) / 8;
 }
 
 /// The bytes before the first mark, and zeros behind them.

@@ -31,13 +31,19 @@ int hexByte(const char* digits)
     return low < 0 ? -1 : (high * 16) + low;
 }
 
+bool isKnownWord(const char* next, const char* end)
+{
+    const std::uint64_t code = leadingLetters(next, end).code;
+    return code != 0 && findControlWord(code).code != 0;
+}
+
 /// What could follow a backslash: a word that the reader knows, or a byte in hexadecimal.
 bool startsControl(const char* next, const char* end)
 {
     if (*next == '\'') {
         return hexByte(next + 1) >= 0;
     }
-    return findControlWord(leadingLetters(next, end).code) != nullptr;
+    return isKnownWord(next, end);
 }
 
 } // namespace
@@ -101,6 +107,29 @@ bool Lexer::lexBytes()
     ++next_;
     next_ += hexDigit(*next_) >= 0 ? 1 : 0;
     return false;
+}
+
+void Lexer::skipNoText()
+{
+    constexpr std::string_view controls = "\\{}";
+    while (next_ != end_ && !isTextByte<TextBytes::all>[static_cast<unsigned char>(*next_)]
+        && controls.find(*next_) == std::string_view::npos) {
+        ++next_;
+    }
+}
+
+bool Lexer::takeOptionalMark()
+{
+    skipNoText();
+    const bool isMark = std::string_view(next_, end_).starts_with("\\*");
+    next_ += isMark ? 2 : 0;
+    return isMark;
+}
+
+bool Lexer::isAtKnownWord()
+{
+    skipNoText();
+    return next_ != end_ && *next_ == '\\' && isKnownWord(next_ + 1, end_);
 }
 
 /// Writers that know the code page leave a trail byte bare; others put a backslash before it or write it in

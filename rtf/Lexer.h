@@ -33,7 +33,7 @@ struct Token {
     /// 0 where there is none.
     std::int32_t parameter = 0;
     std::string_view text;
-    /// What a control word is to the reader; null for one that means nothing to it.
+    /// What a control word is to the reader.
     const ControlWord* word = nullptr;
     /// The data behind \bin.
     std::string_view data;
@@ -55,6 +55,12 @@ public:
     /// The next token; it changes with the next call.
     const Token& next();
 
+    /// Steps over the mark of a group that may be passed over (\*), where it stands next; false where it does not.
+    bool takeOptionalMark();
+
+    /// A control word that the reader knows stands next.
+    bool isAtKnownWord();
+
     /// What the byte after a raw lead byte of a two-byte character would be, taken as its trail byte although it
     /// means something else to RTF; -1 for a byte that is to be read as RTF. Moves nothing.
     int peekTrailByte() const;
@@ -67,7 +73,9 @@ private:
     bool lexNoWord();
     void lexText();
     void lexWord(const LeadingLetters& name);
-    const char* lexParameter(const char* begin);
+    const char* lexParameter(const char* next);
+    const char* lexNegative(const char* next);
+    void skipNoText();
     bool lexBytes();
     void lexData();
 
@@ -117,7 +125,7 @@ inline void Lexer::lexWord(const LeadingLetters& name)
 {
     token_.kind = Token::Kind::word;
     token_.text = {next_, name.length};
-    token_.word = findControlWord(name.code);
+    token_.word = &findControlWord(name.code);
     const char* const next = lexParameter(next_ + name.length);
     next_ = next + (*next == ' ' ? 1 : 0);
     if (name.code == codeOfName("bin")) [[unlikely]] {
@@ -126,17 +134,31 @@ inline void Lexer::lexWord(const LeadingLetters& name)
 }
 
 /// Gives what follows. A number wider than 32 bits keeps its low 32.
-inline const char* Lexer::lexParameter(const char* begin)
+inline const char* Lexer::lexParameter(const char* next)
 {
     const auto digit = [](char byte) { return static_cast<unsigned>(byte) - '0'; };
-    const bool isNegative = *begin == '-' && digit(begin[1]) <= 9;
-    const char* next = begin + (isNegative ? 1 : 0);
-    std::uint32_t number = 0;
-    for (; digit(*next) <= 9; ++next) {
+    std::uint32_t number = digit(*next);
+    if (number > 9) {
+        return lexNegative(next);
+    }
+    for (++next; digit(*next) <= 9; ++next) {
         number = number * 10 + digit(*next);
     }
-    token_.hasParameter = next != begin;
-    token_.parameter = static_cast<std::int32_t>(isNegative ? 0U - number : number);
+    token_.hasParameter = true;
+    token_.parameter = static_cast<std::int32_t>(number);
+    return next;
+}
+
+/// The same where no digit stands: a number below zero, or none.
+inline const char* Lexer::lexNegative(const char* next)
+{
+    if (*next == '-' && next[1] >= '0' && next[1] <= '9') {
+        next = lexParameter(next + 1);
+        token_.parameter = static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(token_.parameter));
+        return next;
+    }
+    token_.hasParameter = false;
+    token_.parameter = 0;
     return next;
 }
 

@@ -37,11 +37,9 @@ public:
     AttributedText take() { return writer_.take(); }
 
 private:
-    /// What a token is to the one after it.
-    enum class Before : std::uint8_t { open, optionalMark, other };
-
-    Before carryOut(const Token& token, Before before);
+    void carryOut(const Token& token);
     void onWord(const Token& token);
+    void onOpen();
     void onSymbol(const Token& token);
     void onText(const Token& token);
     std::string_view withoutFallback(std::string_view bytes);
@@ -54,43 +52,36 @@ private:
 /// Goes through the outer group; false when it never closes.
 bool Interpreter::run()
 {
-    auto before = Before::other;
     while (true) {
         const Token& token = lexer_.next();
-        if (before == Before::optionalMark && (token.kind != Token::Kind::word || token.word == nullptr)) {
-            writer_.skipGroup();
-        }
         if (token.kind == Token::Kind::word) [[likely]] {
             onWord(token);
-            before = Before::other;
             continue;
         }
-        if (token.kind == Token::Kind::end) {
-            return false;
-        }
-        before = carryOut(token, before);
-        if (token.kind == Token::Kind::close && writer_.depth() == 0) {
-            return true;
+        carryOut(token);
+        if (token.kind == Token::Kind::end || (token.kind == Token::Kind::close && writer_.depth() == 0)) {
+            return token.kind == Token::Kind::close;
         }
     }
 }
 
-/// Gives what the token is to the next one.
-Interpreter::Before Interpreter::carryOut(const Token& token, Before before)
+void Interpreter::carryOut(const Token& token)
 {
     switch (token.kind) {
     case Token::Kind::end:
-    case Token::Kind::word:
         break;
     case Token::Kind::open:
-        writer_.openGroup();
-        return Before::open;
+        onOpen();
+        break;
     case Token::Kind::close:
         writer_.closeGroup();
         break;
+    case Token::Kind::word:
+        onWord(token);
+        break;
     case Token::Kind::symbol:
         onSymbol(token);
-        return before == Before::open && token.text == "*" ? Before::optionalMark : Before::other;
+        break;
     case Token::Kind::bytes:
         writer_.putBytes(withoutFallback(token.text));
         break;
@@ -98,24 +89,31 @@ Interpreter::Before Interpreter::carryOut(const Token& token, Before before)
         onText(token);
         break;
     }
-    return Before::other;
+}
+
+void Interpreter::onOpen()
+{
+    writer_.openGroup();
+    if (lexer_.takeOptionalMark() && !lexer_.isAtKnownWord()) {
+        writer_.skipGroup();
+    }
 }
 
 /// A writer may put any word in the place of a character, but one that formats is more likely one that the writer
 /// forgot the fallback before.
 void Interpreter::onWord(const Token& token)
 {
-    const ControlWord* const word = token.word;
+    const ControlWord& word = *token.word;
     writer_.breakBytes();
-    if (word != nullptr && word->action != nullptr) {
+    if (word.action != nullptr) {
         writer_.fallback = 0;
         if (writer_.group().destination != Destination::skipped) {
-            word->action(writer_, token);
+            word.action(writer_, token);
         }
     } else if (writer_.fallback > 0) {
         --writer_.fallback;
-    } else if (word != nullptr) {
-        writer_.put(word->character);
+    } else if (word.character != 0) {
+        writer_.put(word.character);
     }
 }
 

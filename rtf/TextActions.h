@@ -133,7 +133,7 @@ inline void unicode(Writer& writer, const Token& token)
 
 inline void fallbackLength(Writer& writer, const Token& token)
 {
-    writer.changeGroup().fallbackLength = std::max(token.parameterOr(1), 0);
+    writer.setFallbackLength(std::max(token.parameterOr(1), 0));
 }
 
 /// The result of a field that says nothing here is left out.

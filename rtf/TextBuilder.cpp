@@ -58,16 +58,12 @@ TextBuilder::TextBuilder(std::size_t size)
     body_.formats.reserve(size / shortestRun);
 }
 
-std::uint32_t TextBuilder::lookOf(std::uint32_t character, const FontTable& fonts)
+std::uint32_t TextBuilder::addLookOf(std::uint32_t character, const FontTable& fonts)
 {
-    if (character >= looksOfCharacters_.size()) {
-        looksOfCharacters_.resize(characters_.values().size());
-    }
-    std::uint32_t& known = looksOfCharacters_[character];
-    if (known == 0) {
-        known = 1 + looks_.index(lookOfState(characters_[character], fonts));
-    }
-    return known - 1;
+    looksOfCharacters_.resize(characters_.values().size());
+    const std::uint32_t look = looks_.index(lookOfState(characters_[character], fonts));
+    looksOfCharacters_[character] = 1 + look;
+    return look;
 }
 
 void TextBuilder::replaceEnd(std::size_t from, std::string_view end)
@@ -77,17 +73,6 @@ void TextBuilder::replaceEnd(std::size_t from, std::string_view end)
     if (!part_->runs.empty() && part_->runs.back().end > from) {
         part_->runs.back().end = static_cast<std::uint32_t>(part_->text.size());
     }
-}
-
-bool TextBuilder::beginRun(std::uint32_t character, const FontTable& fonts)
-{
-    const std::uint32_t look = lookOf(character, fonts);
-    if (look == part_->look) {
-        return false;
-    }
-    endRun();
-    part_->look = look;
-    return true;
 }
 
 void TextBuilder::endRun()

@@ -71,6 +71,7 @@ private:
     };
 
     std::uint32_t lookOf(std::uint32_t character, const FontTable& fonts);
+    std::uint32_t addLookOf(std::uint32_t character, const FontTable& fonts);
     std::uint32_t addOtherTab(TabStop stop);
     void endRun();
     void appendNotes();
@@ -91,6 +92,23 @@ private:
     std::vector<std::string> links_;
     std::vector<Picture> pictures_;
 };
+
+inline std::uint32_t TextBuilder::lookOf(std::uint32_t character, const FontTable& fonts)
+{
+    const std::uint32_t known = character < looksOfCharacters_.size() ? looksOfCharacters_[character] : 0;
+    return known != 0 ? known - 1 : addLookOf(character, fonts);
+}
+
+inline bool TextBuilder::beginRun(std::uint32_t character, const FontTable& fonts)
+{
+    const std::uint32_t look = lookOf(character, fonts);
+    if (look == part_->look) {
+        return false;
+    }
+    endRun();
+    part_->look = look;
+    return true;
+}
 
 /// Paragraph after paragraph sets the same stops: the one that came next last time is tried before any other.
 inline std::uint32_t TextBuilder::addTab(TabStop stop)

@@ -26,6 +26,7 @@ void Writer::setCodePage(int number)
 {
     if (hasCodePage(number)) {
         documentPage_ = number;
+        pageNumber_ = 0;
         sinkChanged_ = true;
     }
 }
@@ -223,21 +224,13 @@ bool Writer::putTrailByte(char byte)
     return completes;
 }
 
-std::string* Writer::sink()
-{
-    if (sinkChanged_) {
-        findSink();
-        sinkChanged_ = false;
-    }
-    return sink_;
-}
-
 void Writer::findSink()
 {
     if (atParagraphBegin_ && isInBody()) {
         beginParagraph();
     }
-    page_ = &pages_.findOr(codePage(), documentPage_);
+    findPage();
+    sinkChanged_ = false;
     decoder_.setSubstitute(nullptr);
     if (group_.destination != Destination::body) {
         sink_ = sinkOutsideBody();
@@ -250,6 +243,16 @@ void Writer::findSink()
         }
         sink_ = &builder_.text();
         decoder_.setSubstitute(page_->isMultiByte() ? pages_.find(documentPage_) : nullptr);
+    }
+}
+
+/// Most text is in the page of the text before it.
+void Writer::findPage()
+{
+    const int number = codePage();
+    if (number != pageNumber_) {
+        page_ = &pages_.findOr(number, documentPage_);
+        pageNumber_ = number;
     }
 }
 

@@ -35,6 +35,7 @@ public:
     bool isInBody() const { return group_.destination == Destination::body && !character_.hidden; }
 
     GroupState& changeGroup();
+    void setFallbackLength(std::int32_t length) { group_.fallbackLength = length; }
     CharacterState& changeCharacter();
     ParagraphFormat& changeParagraph();
     FontTable& changeFonts();
@@ -110,6 +111,7 @@ public:
 private:
     std::string* sink();
     void findSink();
+    void findPage();
     std::string* sinkOutsideBody();
     int codePage() const;
     std::uint32_t characterIndex();
@@ -138,6 +140,8 @@ private:
     /// Where text goes, null for nowhere, and how its bytes are read; found anew when something has changed.
     std::string* sink_ = nullptr;
     CodePage* page_ = nullptr;
+    /// What page was asked for, 0 for none.
+    int pageNumber_ = 0;
     bool sinkChanged_ = true;
 
     int documentPage_ = 1252;
@@ -153,6 +157,14 @@ private:
     std::size_t symbolPlace_ = 0;
     std::string passedText_;
 };
+
+inline std::string* Writer::sink()
+{
+    if (sinkChanged_) {
+        findSink();
+    }
+    return sink_;
+}
 
 inline GroupState& Writer::changeGroup()
 {
