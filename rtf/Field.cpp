@@ -12,15 +12,17 @@ constexpr std::string_view spaces = " \t";
 /// Takes an argument off the text. In quotes a backslash stands before a quote or another backslash.
 std::string takeQuoted(std::string_view& text)
 {
+    const auto isPlain = [](char byte) { return byte != '"' && byte != '\\'; };
     std::string argument;
-    std::size_t index = 1;
-    for (; index < text.size() && text[index] != '"'; ++index) {
-        const bool escaped
-            = text[index] == '\\' && index + 1 < text.size() && (text[index + 1] == '"' || text[index + 1] == '\\');
-        index += escaped ? 1 : 0;
-        argument += text[index];
+    text.remove_prefix(1);
+    while (!text.empty() && text[0] != '"') {
+        const bool escaped = text.starts_with("\\\"") || text.starts_with("\\\\");
+        text.remove_prefix(escaped ? 1 : 0);
+        const auto* const end = std::find_if_not(text.begin() + 1, text.end(), isPlain);
+        argument.append(text.begin(), end);
+        text.remove_prefix(static_cast<std::size_t>(end - text.begin()));
     }
-    text.remove_prefix(index < text.size() ? index + 1 : text.size());
+    text.remove_prefix(text.empty() ? 0 : 1);
     return argument;
 }
 

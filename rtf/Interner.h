@@ -21,22 +21,13 @@ public:
     explicit Interner(std::size_t most)
         : most_(most)
     {
+        grow();
     }
 
     std::uint32_t index(const Value& value)
     {
-        if (values_.size() * 2 >= slots_.size()) {
-            grow();
-        }
         std::uint32_t& slot = slotOf(value);
-        if (slot == 0) {
-            if (values_.size() == most_) {
-                return 0;
-            }
-            values_.push_back(value);
-            slot = static_cast<std::uint32_t>(values_.size());
-        }
-        return slot - 1;
+        return slot != 0 ? slot - 1 : add(value, slot);
     }
 
     const Value& operator[](std::uint32_t index) const { return values_[index]; }
@@ -83,6 +74,19 @@ private:
             place = (place + 1) & (slots_.size() - 1);
         }
         return slots_[place];
+    }
+
+    std::uint32_t add(const Value& value, std::uint32_t& slot)
+    {
+        if (values_.size() == most_) {
+            return 0;
+        }
+        values_.push_back(value);
+        slot = static_cast<std::uint32_t>(values_.size());
+        if (values_.size() * 2 >= slots_.size()) {
+            grow();
+        }
+        return static_cast<std::uint32_t>(values_.size()) - 1;
     }
 
     void grow()

@@ -7,6 +7,7 @@
 #include "rtf/Writer.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace corvellane::rtf {
@@ -27,9 +28,9 @@ std::string_view withoutLead(std::string_view bytes)
 /// Carries out RTF token by token.
 class Interpreter {
 public:
-    Interpreter(std::string_view bytes, bool rawIsUnicode)
+    Interpreter(std::string_view bytes, std::optional<bool> rawIsUnicode)
         : lexer_(bytes)
-        , writer_(bytes.size(), rawIsUnicode)
+        , writer_(bytes, rawIsUnicode)
     {
     }
 
@@ -164,8 +165,8 @@ std::string_view Interpreter::withoutFallback(std::string_view bytes)
     const std::size_t passed = std::min(bytes.size(), static_cast<std::size_t>(writer_.fallback));
     writer_.fallback -= static_cast<std::int32_t>(passed);
     bytes.remove_prefix(passed);
-    if (passed != 0 && writer_.rawIsUnicode()) {
-        const auto continues = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80; };
+    const auto continues = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80; };
+    if (passed != 0 && !bytes.empty() && continues(bytes[0]) && writer_.rawIsUnicode()) {
         bytes.remove_prefix(static_cast<std::size_t>(std::ranges::find_if_not(bytes, continues) - bytes.begin()));
     }
     return bytes;
@@ -204,13 +205,13 @@ std::string fromUtf16(std::string_view bytes, std::size_t highByte)
     return text;
 }
 
-Expected<AttributedText, ReadFailure> readBytes(std::string_view bytes, bool rawIsUnicode)
+Expected<AttributedText, ReadFailure> readBytes(std::string_view bytes, std::optional<bool> rawIsUnicode)
 {
     const std::string_view rtf = withoutLead(bytes);
     if (!rtf.starts_with("{\\rtf") || rtf.size() > largestInput) {
         return tl::unexpected(ReadFailure::notRtf);
     }
-    Interpreter interpreter(rtf, rawIsUnicode || isUtf8Text(rtf));
+    Interpreter interpreter(rtf, rawIsUnicode);
     if (!interpreter.run()) {
         return tl::unexpected(ReadFailure::incomplete);
     }
@@ -225,7 +226,7 @@ Expected<AttributedText, ReadFailure> read(std::string_view bytes)
     if (littleEndian || bytes.starts_with("\xFE\xFF")) {
         return readBytes(fromUtf16(bytes.substr(2), littleEndian ? 1 : 0), true);
     }
-    return readBytes(bytes, false);
+    return readBytes(bytes, std::nullopt);
 }
 
 } // namespace corvellane::rtf

@@ -15,11 +15,20 @@ constexpr Border noteRule{.style = LineStyle::solid, .width = 10, .space = 6, .i
 
 } // namespace
 
-Writer::Writer(std::size_t size, bool rawIsUnicode)
-    : builder_(size)
+Writer::Writer(std::string_view bytes, std::optional<bool> rawIsUnicode)
+    : builder_(bytes.size())
+    , bytes_(bytes)
     , rawIsUnicode_(rawIsUnicode)
-    , markerRoom_(size)
+    , markerRoom_(bytes.size())
 {
+}
+
+bool Writer::rawIsUnicode()
+{
+    if (!rawIsUnicode_) {
+        rawIsUnicode_ = isUtf8Text(bytes_);
+    }
+    return *rawIsUnicode_;
 }
 
 void Writer::setCodePage(int number)
@@ -200,7 +209,7 @@ void Writer::putBytes(std::string_view bytes)
 void Writer::putText(std::string_view bytes, bool ascii)
 {
     std::string* const out = sink();
-    CodePage& page = rawIsUnicode_ && !ascii ? pages_.findOr(unicodePage, documentPage_) : *page_;
+    CodePage& page = !ascii && rawIsUnicode() ? pages_.findOr(unicodePage, documentPage_) : *page_;
     if (out == nullptr) {
         decoder_.breakBytes();
         if (!ascii && page.isMultiByte()) {

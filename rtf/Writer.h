@@ -14,6 +14,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -24,8 +25,8 @@ namespace corvellane::rtf {
 /// for others is public.
 class Writer {
 public:
-    /// For a file of `size` bytes; `rawIsUnicode`: its raw bytes are UTF-8, whatever code page is in effect.
-    Writer(std::size_t size, bool rawIsUnicode);
+    /// For a file of these bytes, which outlive it; what the raw ones are is found out where it is not told.
+    Writer(std::string_view bytes, std::optional<bool> rawIsUnicode);
 
     const GroupState& group() const { return group_; }
     const CharacterState& character() const { return character_; }
@@ -62,7 +63,8 @@ public:
     /// Puts a byte where it ends a character that the last raw byte began; false where it does not.
     bool putTrailByte(char byte);
     bool awaitsTrail() const { return decoder_.awaitsTrail(); }
-    bool rawIsUnicode() const { return rawIsUnicode_; }
+    /// The file's raw bytes are UTF-8, whatever code page is in effect.
+    bool rawIsUnicode();
     /// What comes next continues no multi-byte character.
     void breakBytes() { decoder_.breakBytes(); }
 
@@ -144,8 +146,10 @@ private:
     int pageNumber_ = 0;
     bool sinkChanged_ = true;
 
+    std::string_view bytes_;
     int documentPage_ = 1252;
-    bool rawIsUnicode_;
+    /// None while no raw byte has mattered.
+    std::optional<bool> rawIsUnicode_;
     bool atParagraphBegin_ = true;
     /// The same of the text around a note.
     bool wasAtParagraphBegin_ = true;
