@@ -4,9 +4,13 @@
 #include "rtf/ControlWords.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace corvellane::rtf {
 namespace {
+
+/// In words.
+constexpr std::size_t longestRun = 64;
 
 constexpr std::array<std::int8_t, 256> hexDigits = [] {
     std::array<std::int8_t, 256> values{};
@@ -84,6 +88,42 @@ bool Lexer::lexNoWord()
     return true;
 }
 
+/// Stands on the letters of the first word.
+void Lexer::lexRun()
+{
+    const std::string_view rest(next_, end_);
+    const auto isHere = [&](const Run& run) { return !run.bytes.empty() && rest.starts_with(run.bytes); };
+    const auto* const known = std::ranges::find_if(runs_, isHere);
+    if (known != runs_.end()) {
+        run_ = static_cast<std::size_t>(known - runs_.begin());
+        next_ += known->length;
+    } else {
+        run_ = std::exchange(oldestRun_, (oldestRun_ + 1) % runs_.size());
+        lexNewRun(runs_[run_]);
+    }
+    token_.kind = Token::Kind::run;
+}
+
+/// A run ends before data. Where the last word runs on to the byte behind it, that belongs to what the run is known by;
+/// but where it is a minus, what follows would tell more, and the run is not known again.
+void Lexer::lexNewRun(Run& run)
+{
+    run.words.clear();
+    const char* const begin = next_;
+    LeadingLetters name = leadingLetters(next_, end_);
+    for (bool goesOn = true; goesOn;) {
+        lexWord(name);
+        run.words.push_back(token_);
+        skipNoText();
+        name = *next_ == '\\' ? leadingLetters(next_ + 1, end_) : LeadingLetters();
+        goesOn = name.length != 0 && name.code != codeOfName("bin") && run.words.size() < longestRun;
+        next_ += goesOn ? 1 : 0;
+    }
+    run.length = static_cast<std::size_t>(next_ - begin);
+    const bool isEnded = static_cast<unsigned char>(next_[-1]) <= ' ';
+    run.bytes = isEnded || *next_ != '-' ? std::string_view(begin, next_ + (isEnded ? 0 : 1)) : std::string_view();
+}
+
 void Lexer::lexData()
 {
     token_.data = std::string_view(next_, end_).substr(0, static_cast<std::size_t>(std::max(token_.parameter, 0)));
@@ -111,9 +151,7 @@ bool Lexer::lexBytes()
 
 void Lexer::skipNoText()
 {
-    constexpr std::string_view controls = "\\{}";
-    while (next_ != end_ && !isTextByte<TextBytes::all>[static_cast<unsigned char>(*next_)]
-        && controls.find(*next_) == std::string_view::npos) {
+    while (static_cast<unsigned char>(*next_) < ' ' && *next_ != '\t') {
         ++next_;
     }
 }
@@ -129,7 +167,7 @@ bool Lexer::takeOptionalMark()
 bool Lexer::isAtKnownWord()
 {
     skipNoText();
-    return next_ != end_ && *next_ == '\\' && isKnownWord(next_ + 1, end_);
+    return *next_ == '\\' && isKnownWord(next_ + 1, end_);
 }
 
 /// Writers that know the code page leave a trail byte bare; others put a backslash before it or write it in

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace corvellane::rtf {
 
@@ -18,6 +19,8 @@ struct Token {
         close,
         /// A control word: `text` is its name, `parameter` its number.
         word,
+        /// Several control words: Lexer::run().
+        run,
         /// A control symbol: `text` is the character after the backslash, a line feed for any line end.
         symbol,
         /// Bytes of text that are written as two hexadecimal digits each: `text`, until the next token is asked for.
@@ -55,6 +58,10 @@ public:
     /// The next token; it changes with the next call.
     const Token& next();
 
+    /// The control words of a run, which begins with that of a paragraph's defaults. Paragraph after paragraph repeats
+    /// what it is told: the last runs are known by their bytes.
+    const std::vector<Token>& run() const { return runs_[run_].words; }
+
     /// Steps over the mark of a group that may be passed over (\*), where it stands next; false where it does not.
     bool takeOptionalMark();
 
@@ -69,8 +76,17 @@ public:
     void skipByte() { ++next_; }
 
 private:
+    struct Run {
+        /// What it is known by; empty for nothing.
+        std::string_view bytes;
+        std::size_t length = 0;
+        std::vector<Token> words;
+    };
+
     bool lexControl();
     bool lexNoWord();
+    void lexRun();
+    void lexNewRun(Run& run);
     void lexText();
     void lexWord(const LeadingLetters& name);
     const char* lexParameter(const char* next);
@@ -84,6 +100,10 @@ private:
     const char* end_;
     Token token_;
     std::array<char, 256> hexBytes_{};
+    std::array<Run, 16> runs_;
+    /// The run of the last token.
+    std::size_t run_ = 0;
+    std::size_t oldestRun_ = 0;
 };
 
 inline const Token& Lexer::next()
@@ -114,11 +134,11 @@ inline bool Lexer::lexControl()
 {
     ++next_;
     const LeadingLetters name = leadingLetters(next_, end_);
-    if (name.length != 0) [[likely]] {
-        lexWord(name);
-        return true;
+    if (name.length == 0) {
+        return lexNoWord();
     }
-    return lexNoWord();
+    name.code == codeOfName("pard") ? lexRun() : lexWord(name);
+    return true;
 }
 
 inline void Lexer::lexWord(const LeadingLetters& name)

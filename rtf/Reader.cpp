@@ -80,6 +80,9 @@ void Interpreter::carryOut(const Token& token)
     case Token::Kind::word:
         onWord(token);
         break;
+    case Token::Kind::run:
+        std::ranges::for_each(lexer_.run(), [this](const Token& word) { onWord(word); });
+        break;
     case Token::Kind::symbol:
         onSymbol(token);
         break;
@@ -137,7 +140,7 @@ void Interpreter::onSymbol(const Token& token)
 
 void Interpreter::onText(const Token& token)
 {
-    std::string_view bytes = withoutFallback(token.text);
+    std::string_view bytes = writer_.fallback > 0 ? withoutFallback(token.text) : token.text;
     const Destination to = writer_.group().destination;
     if (to == Destination::colorTable) {
         for (auto entries = std::ranges::count(bytes, ';'); entries > 0; --entries) {

@@ -10,7 +10,7 @@ namespace corvellane::rtf {
 namespace {
 
 /// By the kinds in their order.
-constexpr std::array beforeText = {"end", "{", "}", "\\", "\\", "hex ", "bytes "};
+constexpr std::array beforeText = {"end", "{", "}", "\\", "run", "\\", "hex ", "bytes "};
 
 std::string printed(const Token& token)
 {
