@@ -76,7 +76,8 @@ private:
         return slots_[place];
     }
 
-    std::uint32_t add(const Value& value, std::uint32_t& slot)
+    /// Kept out of the search, which seldom comes to it.
+    [[gnu::noinline]] std::uint32_t add(const Value& value, std::uint32_t& slot)
     {
         if (values_.size() == most_) {
             return 0;

@@ -67,13 +67,14 @@ LeadingLetters leadingLettersOfMany(const char* next, const char* end)
 /// Stands on a byte that is text.
 void Lexer::lexText()
 {
-    const std::size_t asciiLength = textLength<TextBytes::ascii>({next_, end_});
+    const std::size_t length = textLength<TextBytes::ascii>({next_, end_});
     token_.kind = Token::Kind::text;
-    token_.ascii = static_cast<unsigned char>(next_[asciiLength]) < 0x80;
-    const std::size_t length
-        = token_.ascii ? asciiLength : asciiLength + textLength<TextBytes::all>({next_ + asciiLength, end_});
     token_.text = {next_, length};
-    next_ += length;
+    token_.ascii = static_cast<unsigned char>(next_[length]) < 0x80;
+    if (!token_.ascii) {
+        token_.text = {next_, length + textLength<TextBytes::all>({next_ + length, end_})};
+    }
+    next_ += token_.text.size();
 }
 
 /// False when what stood there means nothing.

@@ -58,7 +58,7 @@ public:
     /// The next token; it changes with the next call.
     const Token& next();
 
-    /// The control words of a run, which begins with that of a paragraph's defaults. Paragraph after paragraph repeats
+    /// The control words of a run, which begins with the defaults of a paragraph or a row. One after the other repeats
     /// what it is told: the last runs are known by their bytes.
     const std::vector<Token>& run() const { return runs_[run_].words; }
 
@@ -137,7 +137,8 @@ inline bool Lexer::lexControl()
     if (name.length == 0) {
         return lexNoWord();
     }
-    name.code == codeOfName("pard") ? lexRun() : lexWord(name);
+    const bool beginsRun = name.code == codeOfName("pard") || name.code == codeOfName("trowd");
+    beginsRun ? lexRun() : lexWord(name);
     return true;
 }
 

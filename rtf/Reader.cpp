@@ -43,6 +43,8 @@ private:
     void onOpen();
     void onSymbol(const Token& token);
     void onText(const Token& token);
+    void onTextOutsideBody(std::string_view bytes, bool ascii);
+    void takeTrailByte();
     std::string_view withoutFallback(std::string_view bytes);
     std::string_view withoutFonts(std::string_view names, bool ascii);
 
@@ -140,22 +142,33 @@ void Interpreter::onSymbol(const Token& token)
 
 void Interpreter::onText(const Token& token)
 {
-    std::string_view bytes = writer_.fallback > 0 ? withoutFallback(token.text) : token.text;
+    const std::string_view bytes = writer_.fallback > 0 ? withoutFallback(token.text) : token.text;
+    if (writer_.group().destination != Destination::body) {
+        onTextOutsideBody(bytes, token.ascii);
+        return;
+    }
+    writer_.putText(bytes, token.ascii);
+    takeTrailByte();
+}
+
+void Interpreter::onTextOutsideBody(std::string_view bytes, bool ascii)
+{
     const Destination to = writer_.group().destination;
     if (to == Destination::colorTable) {
         for (auto entries = std::ranges::count(bytes, ';'); entries > 0; --entries) {
             writer_.colors.finishEntry();
         }
-        return;
-    }
-    if (to == Destination::fontTable) {
-        bytes = withoutFonts(bytes, token.ascii);
-    }
-    if (to == Destination::picture) {
+    } else if (to == Destination::picture) {
         writer_.pictures.addDigits(bytes);
-        return;
+    } else {
+        writer_.putText(to == Destination::fontTable ? withoutFonts(bytes, ascii) : bytes, ascii);
+        takeTrailByte();
     }
-    writer_.putText(bytes, token.ascii);
+}
+
+/// A raw byte that ends a character although it means something else to RTF.
+void Interpreter::takeTrailByte()
+{
     const int trail = writer_.awaitsTrail() && !writer_.rawIsUnicode() ? lexer_.peekTrailByte() : -1;
     if (trail >= 0 && writer_.putTrailByte(static_cast<char>(trail))) {
         lexer_.skipByte();

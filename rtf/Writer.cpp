@@ -206,20 +206,17 @@ void Writer::putBytes(std::string_view bytes)
 }
 
 /// Text that is not wanted still tells which braces are halves of characters.
-void Writer::putText(std::string_view bytes, bool ascii)
+void Writer::putOtherText(std::string_view bytes, bool ascii)
 {
-    std::string* const out = sink();
     CodePage& page = !ascii && rawIsUnicode() ? pages_.findOr(unicodePage, documentPage_) : *page_;
-    if (out == nullptr) {
-        decoder_.breakBytes();
-        if (!ascii && page.isMultiByte()) {
-            passedText_.clear();
-            decoder_.appendBytes(bytes, page, passedText_);
-        }
-    } else if (ascii && page.hasAscii() && !decoder_.awaitsTrail()) {
-        out->append(bytes);
-    } else {
-        decoder_.appendBytes(bytes, page, *out);
+    if (sink_ != nullptr) {
+        decoder_.appendBytes(bytes, page, *sink_);
+        return;
+    }
+    decoder_.breakBytes();
+    if (!ascii && page.isMultiByte()) {
+        passedText_.clear();
+        decoder_.appendBytes(bytes, page, passedText_);
     }
 }
 

@@ -115,6 +115,7 @@ private:
     void findSink();
     void findPage();
     std::string* sinkOutsideBody();
+    void putOtherText(std::string_view bytes, bool ascii);
     int codePage() const;
     std::uint32_t characterIndex();
     std::uint32_t paragraphIndex();
@@ -168,6 +169,16 @@ inline std::string* Writer::sink()
         findSink();
     }
     return sink_;
+}
+
+inline void Writer::putText(std::string_view bytes, bool ascii)
+{
+    std::string* const out = sink();
+    if (out != nullptr && ascii && page_->hasAscii() && !decoder_.awaitsTrail()) {
+        out->append(bytes);
+    } else {
+        putOtherText(bytes, ascii);
+    }
 }
 
 inline GroupState& Writer::changeGroup()
