@@ -22,8 +22,8 @@ Failure asFailure(const std::string& path, rtf::ReadFailure reason)
 
 Expected<rtf::AttributedText> readAgreement(const Files& files, const std::string& path)
 {
-    return files.read(path, rtf::largestInput).and_then([&](const std::string& bytes) {
-        return rtf::read(bytes).map_error([&](rtf::ReadFailure reason) { return asFailure(path, reason); });
+    return files.read(path, rtf::largestInput).and_then([&](std::string&& bytes) {
+        return rtf::readAway(std::move(bytes)).map_error([&](rtf::ReadFailure reason) { return asFailure(path, reason); });
     });
 }
 

@@ -14,7 +14,7 @@ class Console;
 class Files;
 class Resources;
 
-/// Reads the rich-text file at that path, which is held in memory whole while it is read. A failure's message is one
+/// Reads the rich-text file at that path; what it takes is at most four times the file's size. A failure's message is one
 /// line with the file's own name in it. Any thread.
 Expected<rtf::AttributedText> readAgreement(const Files& files, const std::string& path);
 

@@ -66,5 +66,9 @@ int main()
     corvellane::report("fontEntries", corvellane::fontEntries);
     corvellane::report("differentLooks", corvellane::differentLooks);
     corvellane::report("changingLooks", corvellane::changingLooks);
+    corvellane::report("changingGroups", corvellane::changingGroups);
+    corvellane::report("changingLines", corvellane::changingLines);
+    corvellane::report("rawKatakana", corvellane::rawKatakana);
+    corvellane::report("rawPictographs", corvellane::rawPictographs);
     return 0;
 }

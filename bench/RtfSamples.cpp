@@ -126,6 +126,26 @@ std::string changingLooks(std::size_t size)
     return repeated("{\\rtf1 ", "\\b a\\b0\\ql\\\n\\qr\\\n", size);
 }
 
+std::string changingGroups(std::size_t size)
+{
+    return repeated("{\\rtf1 ", "{\\b\x80}\x80", size);
+}
+
+std::string changingLines(std::size_t size)
+{
+    return repeated("{\\rtf1 ", "{\\qr\\b\\\n}\\\n", size);
+}
+
+std::string rawKatakana(std::size_t size)
+{
+    return repeated(std::string(japaneseHead), "\xB1\xB2\xB3\xB4\xB5", size);
+}
+
+std::string rawPictographs(std::size_t size)
+{
+    return repeated("{\\rtf1{\\fonttbl{\\f0\\fnil\\fcharset2 Wingdings;}}\\f0 ", "012345678", size);
+}
+
 std::size_t scanForControls(std::string_view bytes)
 {
     std::size_t count = 0;

@@ -22,11 +22,15 @@ std::string listSample(std::size_t size);
 std::string tableSample(std::size_t size);
 
 /// What takes the least bytes to ask for the most: empty lines, entries of the font table, looks that never come again,
-/// and looks and formats that change with every character.
+/// looks and formats that change with every character, and bytes that become three or four each.
 std::string emptyLines(std::size_t size);
 std::string fontEntries(std::size_t size);
 std::string differentLooks(std::size_t size);
 std::string changingLooks(std::size_t size);
+std::string changingGroups(std::size_t size);
+std::string changingLines(std::size_t size);
+std::string rawKatakana(std::size_t size);
+std::string rawPictographs(std::size_t size);
 
 /// How many backslashes and braces there are: one memchr scan of all bytes for each of the three.
 std::size_t scanForControls(std::string_view bytes);

@@ -81,7 +81,7 @@ struct LeadingLetters {
 };
 
 /// The same where the first eight are letters.
-LeadingLetters leadingLettersOfMany(const char* next, const char* end);
+LeadingLetters leadingLettersOfMany(EightBytes first, const char* next, const char* end);
 
 inline LeadingLetters leadingLetters(const char* next, const char* end)
 {
@@ -90,7 +90,7 @@ inline LeadingLetters leadingLetters(const char* next, const char* end)
     if (marks != 0) [[likely]] {
         return {.length = bytesBefore(marks), .code = keepBefore(marks, bytes)};
     }
-    return leadingLettersOfMany(next, end);
+    return leadingLettersOfMany(bytes, next, end);
 }
 
 /// The code of a name that is known.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <algorithm>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -53,7 +52,7 @@ private:
     {
         std::uint64_t hash = 0;
         for (std::size_t index = 0; index < wordCount; ++index) {
-            hash = (std::rotl(hash, 5) ^ word(value, index)) * 0x9E3779B97F4A7C15U;
+            hash = (hash ^ word(value, index)) * 0x9E3779B97F4A7C15U;
         }
         return hash;
     }

@@ -9,8 +9,11 @@
 namespace corvellane::rtf {
 namespace {
 
-/// In words.
+/// In words, and in bytes what it is known by.
 constexpr std::size_t longestRun = 64;
+constexpr std::size_t longestRunBytes = 4096;
+/// Of longer text several tokens are made, between which what is read can be given back.
+constexpr std::ptrdiff_t longestText = 1 << 17;
 
 constexpr std::array<std::int8_t, 256> hexDigits = [] {
     std::array<std::int8_t, 256> values{};
@@ -50,30 +53,36 @@ bool startsControl(const char* next, const char* end)
     return isKnownWord(next, end);
 }
 
+/// Kept out of what most text goes through.
+[[gnu::noinline]] std::size_t lengthOfRaw(const char* begin, const char* end)
+{
+    return textLength<TextBytes::all>({begin, end});
+}
+
 } // namespace
 
-LeadingLetters leadingLettersOfMany(const char* next, const char* end)
+LeadingLetters leadingLettersOfMany(EightBytes first, const char* next, const char* end)
 {
-    LeadingLetters name;
-    EightBytes marks = 0;
-    while (marks == 0) {
+    LeadingLetters name{.length = sizeof first, .code = first};
+    while (true) {
         const EightBytes bytes = eightBytes(next + name.length, end);
-        marks = markNoLetters(bytes);
-        name.add(marks != 0 ? keepBefore(marks, bytes) : bytes, marks != 0 ? bytesBefore(marks) : sizeof bytes);
+        const EightBytes marks = markNoLetters(bytes);
+        if (marks != 0) {
+            name.add(keepBefore(marks, bytes), bytesBefore(marks));
+            return name;
+        }
+        name.add(bytes, sizeof bytes);
     }
-    return name;
 }
 
 /// Stands on a byte that is text.
 void Lexer::lexText()
 {
-    const std::size_t length = textLength<TextBytes::ascii>({next_, end_});
+    const char* const end = end_ - next_ > longestText ? next_ + longestText : end_;
+    const std::size_t length = textLength<TextBytes::ascii>({next_, end});
     token_.kind = Token::Kind::text;
-    token_.text = {next_, length};
     token_.ascii = static_cast<unsigned char>(next_[length]) < 0x80;
-    if (!token_.ascii) {
-        token_.text = {next_, length + textLength<TextBytes::all>({next_ + length, end_})};
-    }
+    token_.text = {next_, token_.ascii ? length : length + lengthOfRaw(next_ + length, end)};
     next_ += token_.text.size();
 }
 
@@ -122,7 +131,8 @@ void Lexer::lexNewRun(Run& run)
     }
     run.length = static_cast<std::size_t>(next_ - begin);
     const bool isEnded = static_cast<unsigned char>(next_[-1]) <= ' ';
-    run.bytes = isEnded || *next_ != '-' ? std::string_view(begin, next_ + (isEnded ? 0 : 1)) : std::string_view();
+    const bool isKnownAgain = (isEnded || *next_ != '-') && run.length < longestRunBytes;
+    run.bytes.assign(begin, isKnownAgain ? run.length + (isEnded ? 0 : 1) : 0);
 }
 
 void Lexer::lexData()

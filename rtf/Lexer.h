@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -62,6 +63,15 @@ public:
     /// what it is told: the last runs are known by their bytes.
     const std::vector<Token>& run() const { return runs_[run_].words; }
 
+    /// What is left to cut, and the same bytes at another place, from where it goes on. Tokens may not be looked at any
+    /// more.
+    std::string_view rest() const { return {next_, end_}; }
+    void moveTo(std::string_view rest)
+    {
+        next_ = rest.data();
+        end_ = rest.data() + rest.size();
+    }
+
     /// Steps over the mark of a group that may be passed over (\*), where it stands next; false where it does not.
     bool takeOptionalMark();
 
@@ -78,7 +88,7 @@ public:
 private:
     struct Run {
         /// What it is known by; empty for nothing.
-        std::string_view bytes;
+        std::string bytes;
         std::size_t length = 0;
         std::vector<Token> words;
     };

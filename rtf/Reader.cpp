@@ -28,9 +28,13 @@ std::string_view withoutLead(std::string_view bytes)
 /// Carries out RTF token by token.
 class Interpreter {
 public:
-    Interpreter(std::string_view bytes, std::optional<bool> rawIsUnicode)
+    /// `own`: where the bytes stand, at their end, if they may be given back.
+    Interpreter(std::string_view bytes, std::string* own, std::optional<bool> rawIsUnicode)
         : lexer_(bytes)
         , writer_(bytes, rawIsUnicode)
+        , own_(own)
+        , size_(bytes.size())
+        , leftToGiveBack_(own != nullptr ? bytes.size() / 2 : 0)
     {
     }
 
@@ -48,8 +52,14 @@ private:
     std::string_view withoutFallback(std::string_view bytes);
     std::string_view withoutFonts(std::string_view names, bool ascii);
 
+    void giveBack();
+
     Lexer lexer_;
     Writer writer_;
+    std::string* own_;
+    std::size_t size_;
+    /// When so many bytes are left to read, those that are read may be given back; 0 for never.
+    std::size_t leftToGiveBack_;
 };
 
 /// Goes through the outer group; false when it never closes.
@@ -149,6 +159,23 @@ void Interpreter::onText(const Token& token)
     }
     writer_.putText(bytes, token.ascii);
     takeTrailByte();
+    if (lexer_.rest().size() < leftToGiveBack_) {
+        giveBack();
+    }
+}
+
+/// All that is moved is no more than there were bytes.
+void Interpreter::giveBack()
+{
+    constexpr std::size_t fewestBytes = std::size_t{1} << 20U;
+    const std::string_view rest = lexer_.rest();
+    if (writer_.textIsLongerThan(size_ - rest.size())) {
+        writer_.rawIsUnicode();
+        std::string moved(rest);
+        own_->swap(moved);
+        lexer_.moveTo(*own_);
+    }
+    leftToGiveBack_ = rest.size() > fewestBytes ? rest.size() / 2 : 0;
 }
 
 void Interpreter::onTextOutsideBody(std::string_view bytes, bool ascii)
@@ -221,28 +248,41 @@ std::string fromUtf16(std::string_view bytes, std::size_t highByte)
     return text;
 }
 
-Expected<AttributedText, ReadFailure> readBytes(std::string_view bytes, std::optional<bool> rawIsUnicode)
+Expected<AttributedText, ReadFailure> readBytes(
+    std::string_view bytes, std::string* own, std::optional<bool> rawIsUnicode = std::nullopt)
 {
     const std::string_view rtf = withoutLead(bytes);
     if (!rtf.starts_with("{\\rtf") || rtf.size() > largestInput) {
         return tl::unexpected(ReadFailure::notRtf);
     }
-    Interpreter interpreter(rtf, rawIsUnicode);
+    Interpreter interpreter(rtf, own, rawIsUnicode);
     if (!interpreter.run()) {
         return tl::unexpected(ReadFailure::incomplete);
     }
     return interpreter.take();
 }
 
+/// Where the first of two bytes is the high one; none for bytes that are not UTF-16.
+std::optional<std::size_t> highByteOf(std::string_view bytes)
+{
+    const bool littleEndian = bytes.starts_with("\xFF\xFE");
+    return littleEndian || bytes.starts_with("\xFE\xFF") ? std::optional<std::size_t>(littleEndian ? 1 : 0) : std::nullopt;
+}
+
 } // namespace
 
 Expected<AttributedText, ReadFailure> read(std::string_view bytes)
 {
-    const bool littleEndian = bytes.starts_with("\xFF\xFE");
-    if (littleEndian || bytes.starts_with("\xFE\xFF")) {
-        return readBytes(fromUtf16(bytes.substr(2), littleEndian ? 1 : 0), true);
+    return highByteOf(bytes) ? readAway(std::string(bytes)) : readBytes(bytes, nullptr);
+}
+
+Expected<AttributedText, ReadFailure> readAway(std::string bytes)
+{
+    const auto highByte = highByteOf(bytes);
+    if (highByte) {
+        bytes = fromUtf16(std::string_view(bytes).substr(2), *highByte);
     }
-    return readBytes(bytes, std::nullopt);
+    return readBytes(bytes, &bytes, highByte ? std::optional(true) : std::nullopt);
 }
 
 } // namespace corvellane::rtf

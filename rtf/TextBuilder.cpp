@@ -11,13 +11,18 @@ constexpr std::uint32_t mostCells = 128;
 
 /// No byte of any code page takes more room in UTF-8.
 constexpr std::size_t mostGrowth = 4;
-/// In bytes of the file: what it takes at least to change a look.
-constexpr std::size_t shortestRun = 3;
 
-/// No file that is written for its text changes its looks more often.
+/// No file that is written for its text has more looks than these, or changes them more often.
+constexpr std::size_t fewLooks = 4096;
+
 std::size_t mostLooks(std::size_t size)
 {
-    return 4096 + (size / 256);
+    return fewLooks + (size / 1024);
+}
+
+std::size_t mostStretches(std::size_t size)
+{
+    return fewLooks + (size / 8);
 }
 
 std::uint32_t lengthOf(const std::string& text)
@@ -46,7 +51,8 @@ void append(std::vector<Stretch>& to, std::vector<Stretch>& from, std::uint32_t 
 } // namespace
 
 TextBuilder::TextBuilder(std::size_t size)
-    : characters_(mostLooks(size))
+    : most_(mostStretches(size))
+    , characters_(mostLooks(size))
     , paragraphs_(mostLooks(size))
     , looks_(mostLooks(size))
     , tabs_(mostLooks(size))
@@ -54,8 +60,8 @@ TextBuilder::TextBuilder(std::size_t size)
     , cellFormats_(mostLooks(size))
 {
     body_.text.reserve(size * mostGrowth);
-    body_.runs.reserve(size / shortestRun);
-    body_.formats.reserve(size / shortestRun);
+    body_.runs.reserve(most_);
+    body_.formats.reserve(most_);
 }
 
 std::uint32_t TextBuilder::addLookOf(std::uint32_t character, const FontTable& fonts)
@@ -78,13 +84,19 @@ void TextBuilder::replaceEnd(std::size_t from, std::string_view end)
 void TextBuilder::endRun()
 {
     std::vector<Stretch>& runs = part_->runs;
-    if (lengthOf(part_->text) == (runs.empty() ? 0 : runs.back().end)) {
-        return;
+    const std::uint32_t end = lengthOf(part_->text);
+    if (end != (runs.empty() ? 0 : runs.back().end)) {
+        extend(runs, end, part_->look);
     }
-    if (!runs.empty() && runs.back().index == part_->look) {
-        runs.back().end = lengthOf(part_->text);
+}
+
+/// Up to `end` the text has that index, or goes on as before where it has changed too often.
+void TextBuilder::extend(std::vector<Stretch>& stretches, std::uint32_t end, std::uint32_t index) const
+{
+    if (!stretches.empty() && (stretches.back().index == index || stretches.size() == most_)) {
+        stretches.back().end = end;
     } else {
-        runs.push_back({lengthOf(part_->text), part_->look});
+        stretches.push_back({end, index});
     }
 }
 
@@ -93,11 +105,7 @@ void TextBuilder::endParagraph(char mark, std::uint32_t character, std::uint32_t
     beginRun(character, fonts);
     part_->text += mark;
     part_->paragraphBegin = part_->text.size();
-    std::vector<Stretch>& formats = part_->formats;
-    if (formats.empty() || formats.back().index != paragraph) {
-        formats.push_back({0, paragraph});
-    }
-    formats.back().end = lengthOf(part_->text);
+    extend(part_->formats, lengthOf(part_->text), paragraph);
 }
 
 void TextBuilder::endRow(const RowFormat& row)

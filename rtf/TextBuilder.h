@@ -27,6 +27,7 @@ public:
 
     /// The text to append to, once a run is begun.
     std::string& text() { return part_->text; }
+    const std::string& text() const { return part_->text; }
 
     /// Writes `end` in the place of what stands from there on, none of which ends a paragraph.
     void replaceEnd(std::size_t from, std::string_view end);
@@ -74,8 +75,11 @@ private:
     std::uint32_t addLookOf(std::uint32_t character, const FontTable& fonts);
     std::uint32_t addOtherTab(TabStop stop);
     void endRun();
+    void extend(std::vector<Stretch>& stretches, std::uint32_t end, std::uint32_t index) const;
     void appendNotes();
 
+    /// How many runs there are at most, and stretches of one format.
+    std::size_t most_;
     Part body_;
     Part notes_;
     Part* part_ = &body_;

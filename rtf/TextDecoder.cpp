@@ -107,15 +107,28 @@ bool TextDecoder::completesCharacter(char byte, CodePage& page, const std::strin
 
 void TextDecoder::appendUnit(char32_t code, std::string& out)
 {
+    const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
+    if (isSurrogate) {
+        appendSurrogate(code, out);
+        return;
+    }
+    highSurrogate_ = 0;
+    if (isText(code)) {
+        appendUtf8(out, code);
+    }
+}
+
+void TextDecoder::appendSurrogate(char32_t code, std::string& out)
+{
     const char32_t high = highSurrogate_;
     highSurrogate_ = 0;
-    if (code >= 0xD800 && code <= 0xDBFF) {
+    if (code <= 0xDBFF) {
         highSurrogate_ = code;
         appendPending(out, replacementCharacter);
-    } else if (code >= 0xDC00 && code <= 0xDFFF && high != 0 && endsWithPending(out)) {
+    } else if (high != 0 && endsWithPending(out)) {
         out.resize(pendingBegin_);
         appendUtf8(out, 0x10000 + ((high - 0xD800) << 10U) + (code - 0xDC00));
-    } else if (isText(code)) {
+    } else {
         appendUtf8(out, code);
     }
 }

@@ -44,6 +44,7 @@ private:
     bool endsWithPending(const std::string& out) const { return pendingIn_ == &out && pendingEnd_ == out.size(); }
     static std::size_t appendCharacters(std::string_view bytes, CodePage& page, std::string& out);
     bool continueCharacter(char byte, CodePage& page, std::string& out);
+    void appendSurrogate(char32_t code, std::string& out);
     void appendPending(std::string& out, char32_t code);
     char32_t loneCharacter(char byte) const;
 

@@ -10,6 +10,9 @@ namespace {
 
 constexpr int unicodePage = 65001;
 constexpr std::uint8_t deepestTable = 16;
+/// No language's text takes more bytes in UTF-8 for each of a code page's; pictographs of a font may.
+constexpr std::size_t mostGrowth = 3;
+constexpr std::size_t freeGrowth = 65536;
 constexpr char32_t objectCharacter = 0xFFFC;
 constexpr Border noteRule{.style = LineStyle::solid, .width = 10, .space = 6, .isSaid = true, .color = {}};
 
@@ -20,6 +23,7 @@ Writer::Writer(std::string_view bytes, std::optional<bool> rawIsUnicode)
     , bytes_(bytes)
     , rawIsUnicode_(rawIsUnicode)
     , markerRoom_(bytes.size())
+    , mostText_((bytes.size() * mostGrowth) + freeGrowth)
 {
 }
 
@@ -209,7 +213,7 @@ void Writer::putBytes(std::string_view bytes)
 void Writer::putOtherText(std::string_view bytes, bool ascii)
 {
     CodePage& page = !ascii && rawIsUnicode() ? pages_.findOr(unicodePage, documentPage_) : *page_;
-    if (sink_ != nullptr) {
+    if (sink_ != nullptr && sink_->size() < mostText_) {
         decoder_.appendBytes(bytes, page, *sink_);
         return;
     }

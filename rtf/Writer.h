@@ -63,8 +63,10 @@ public:
     /// Puts a byte where it ends a character that the last raw byte began; false where it does not.
     bool putTrailByte(char byte);
     bool awaitsTrail() const { return decoder_.awaitsTrail(); }
-    /// The file's raw bytes are UTF-8, whatever code page is in effect.
+    /// The file's raw bytes are UTF-8, whatever code page is in effect. The first time it looks at all of them.
     bool rawIsUnicode();
+    /// There is more text than those bytes.
+    bool textIsLongerThan(std::size_t bytes) const { return builder_.text().size() > bytes; }
     /// What comes next continues no multi-byte character.
     void breakBytes() { decoder_.breakBytes(); }
 
@@ -157,6 +159,8 @@ private:
     bool numberWasWritten_ = false;
     /// How many bytes of list markers the text may get yet.
     std::size_t markerRoom_;
+    /// How long the text may get by bytes of code pages.
+    std::size_t mostText_;
     /// The character of a field, which stands where its result is empty: the text has not grown from there.
     char32_t symbol_ = 0;
     std::size_t symbolPlace_ = 0;
