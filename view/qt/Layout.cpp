@@ -77,8 +77,8 @@ void Slot::place(const QRect& cell, Placement horizontally, Placement vertically
 void Panel::present(const Arrangement& arrangement, const Backdrop& backdrop, bool modal)
 {
     arrangement_ = arrangement;
-    laidOut_ = {};
     showBackdrop(backdrop);
+    forgetSizes();
     modal_ = modal;
     setAttribute(Qt::WA_NoMousePropagation, modal);
 }
@@ -97,7 +97,14 @@ void Panel::showBackdrop(const Backdrop& backdrop)
 void Panel::arrange(std::vector<Slot> slotsOfChildren)
 {
     slots_ = std::move(slotsOfChildren);
+    forgetSizes();
+}
+
+void Panel::forgetSizes()
+{
     laidOut_ = {};
+    widths_.reset();
+    heights_.reset();
 }
 
 void Panel::paintEvent(QPaintEvent*)
@@ -123,14 +130,21 @@ void Panel::paintEvent(QPaintEvent*)
 
 Extent Panel::widthExtent() const
 {
-    const QMargins line = contentsMargins();
-    return padded(contentExtent(Axis::horizontal, 0), line.left() + line.right());
+    if (!widths_) {
+        const QMargins line = contentsMargins();
+        widths_ = padded(contentExtent(Axis::horizontal, 0), line.left() + line.right());
+    }
+    return *widths_;
 }
 
 Extent Panel::heightExtent(int width) const
 {
-    const QMargins line = contentsMargins();
-    return padded(contentExtent(Axis::vertical, width - line.left() - line.right()), line.top() + line.bottom());
+    if (!heights_ || heights_->width != width) {
+        const QMargins line = contentsMargins();
+        const Extent content = contentExtent(Axis::vertical, width - line.left() - line.right());
+        heights_ = Heights{width, padded(content, line.top() + line.bottom())};
+    }
+    return heights_->extent;
 }
 
 int Panel::spacing() const

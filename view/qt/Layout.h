@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -80,9 +81,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    struct Heights {
+        int width = 0;
+        Extent extent;
+    };
+
     const Stack* stack() const { return std::get_if<Stack>(&arrangement_); }
     bool isAlong(Axis axis) const { return stack() != nullptr && stack()->axis == axis; }
     void showBackdrop(const Backdrop& backdrop);
+    void forgetSizes();
     int spacing() const;
     Extent extentOf(const Slot& slot, Axis axis, int width) const;
     Extent contentExtent(Axis axis, int width) const;
@@ -96,6 +103,9 @@ private:
     bool modal_ = false;
     /// The area that the children are laid out in; null where they are not.
     QRect laidOut_;
+    /// What was last asked for; every panel asks those inside it several times.
+    mutable std::optional<Extent> widths_;
+    mutable std::optional<Heights> heights_;
 };
 
 } // namespace corvellane::view
