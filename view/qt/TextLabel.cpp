@@ -3,6 +3,8 @@
 #include "view/qt/Accessibility.h"
 #include "view/qt/Appearance.h"
 
+#include <QPainter>
+
 #include <algorithm>
 #include <cmath>
 
@@ -63,7 +65,7 @@ Extent TextLabel::widthExtent() const
 Extent TextLabel::heightExtent(int width) const
 {
     if (width < widths_.maximum && width != measuredWidth_) {
-        measuredHeight_ = sizeInLines(width).height();
+        measuredHeight_ = qCeil(sizeInLines(width).height());
         measuredWidth_ = width;
     }
     const int height = width < widths_.maximum ? measuredHeight_ : naturalHeight_;
@@ -100,21 +102,36 @@ void TextLabel::resizeEvent(QResizeEvent* event)
     QLabel::resizeEvent(event);
 }
 
+/// Draws the lines that were measured: their letters have been shaped.
+void TextLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const QRectF room = contentsRect();
+    const double above = (room.height() - sizeInLines(contentsRect().width()).height()) / 2;
+    const bool isCentred = alignment().testFlag(Qt::AlignHCenter);
+    const double part = isCentred ? 0.5 : text().isRightToLeft() ? 1 : 0;
+    for (int index = 0; index < lines_.lineCount(); ++index) {
+        const QTextLine line = lines_.lineAt(index);
+        const double before = (room.width() - line.horizontalAdvance()) * part;
+        line.draw(&painter, {room.left() + before, room.top() + above});
+    }
+}
+
 void TextLabel::measure()
 {
     lines_.setText(text().replace('\n', QChar::LineSeparator));
     lines_.setFont(font());
     lines_.beginLayout();
     leading_ = QFontMetricsF(font()).leading();
-    const QSize natural = sizeInLines(unbounded);
-    widths_.maximum = natural.width() + 1;
+    const QSizeF natural = sizeInLines(unbounded);
+    widths_.maximum = qCeil(natural.width()) + 1;
     widths_.minimum = std::min(widths_.maximum, qCeil(lines_.minimumWidth()) + 1);
-    naturalHeight_ = natural.height();
+    naturalHeight_ = qCeil(natural.height());
     measuredWidth_ = -1;
 }
 
-/// The size of the text in lines of that width, as labels draw them.
-QSize TextLabel::sizeInLines(int width) const
+/// Sets the text in lines of that width, and gives its size.
+QSizeF TextLabel::sizeInLines(int width) const
 {
     double widest = 0;
     double height = -leading_;
@@ -122,9 +139,10 @@ QSize TextLabel::sizeInLines(int width) const
     for (QTextLine line = lines_.createLine(); line.isValid(); line = lines_.createLine()) {
         line.setLineWidth(width);
         widest = std::max(widest, line.naturalTextWidth());
-        height = std::ceil(height + leading_) + line.height();
+        line.setPosition({0, std::ceil(height + leading_)});
+        height = line.y() + line.ascent() + line.descent();
     }
-    return {qCeil(widest), qCeil(height)};
+    return {widest, height};
 }
 
 } // namespace corvellane::view

@@ -25,10 +25,11 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void measure();
-    QSize sizeInLines(int width) const;
+    QSizeF sizeInLines(int width) const;
     int balancedWidth(int width) const;
     void balance();
 
