@@ -6,38 +6,48 @@
 namespace corvellane {
 namespace {
 
-/// What each byte becomes; those without a replacement stay as they are.
+/// The bytes that get a backslash before them, and what each becomes behind it.
 class Escapes {
 public:
-    constexpr Escapes& with(char character, std::string_view replacement)
+    constexpr explicit Escapes(std::string_view escaped)
     {
-        replacements_[static_cast<unsigned char>(character)] = replacement;
+        for (const char byte : escaped) {
+            with(byte, byte);
+        }
+    }
+
+    constexpr Escapes& with(char byte, char name)
+    {
+        names_[static_cast<unsigned char>(byte)] = name;
         return *this;
     }
 
     std::string apply(std::string text) const
     {
-        if (std::ranges::all_of(text, [&](char byte) { return replacementOf(byte).empty(); })) {
+        if (std::ranges::none_of(text, [&](char byte) { return nameOf(byte) != 0; })) {
             return text;
         }
         std::string escaped;
         for (const char byte : text) {
-            const std::string_view replacement = replacementOf(byte);
-            escaped += replacement.empty() ? std::string_view(&byte, 1) : replacement;
+            if (const char name = nameOf(byte)) {
+                escaped += {'\\', name};
+            } else {
+                escaped += byte;
+            }
         }
         return escaped;
     }
 
 private:
-    std::string_view replacementOf(char byte) const { return replacements_[static_cast<unsigned char>(byte)]; }
+    char nameOf(char byte) const { return names_[static_cast<unsigned char>(byte)]; }
 
-    std::array<std::string_view, 256> replacements_{};
+    std::array<char, 256> names_{};
 };
 
-constexpr Escapes luaEscapes = Escapes().with('\\', R"(\\)").with('"', R"(\")").with('\n', R"(\n)").with('\r', R"(\r)");
-constexpr Escapes echoEscapes = Escapes().with('\\', R"(\\)");
-constexpr Escapes shellEscapes = Escapes().with('\\', R"(\\)").with('"', R"(\")").with('$', R"(\$)").with('`', R"(\`)");
-constexpr Escapes literalEscapes = Escapes().with('\\', R"(\\)").with('"', R"(\")");
+constexpr Escapes luaEscapes = Escapes("\\\"").with('\n', 'n').with('\r', 'r');
+constexpr Escapes echoEscapes("\\");
+constexpr Escapes shellEscapes("\\\"$`");
+constexpr Escapes literalEscapes("\\\"");
 
 } // namespace
 
