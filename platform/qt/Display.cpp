@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string_view>
 
 namespace corvellane {
@@ -28,29 +29,48 @@ const char* bothInTheirOrder()
     return wayland && !gnome ? "wayland;xcb" : "xcb;wayland";
 }
 
+/// A variable of the environment has this value while it stands. Programs that are started from here get their own.
+class Variable {
+public:
+    Variable(const char* name, const char* value)
+        : name_(name)
+        , before_(qgetenv(name))
+    {
+        qputenv(name_, value);
+    }
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+
+    ~Variable()
+    {
+        if (before_.isNull()) {
+            qunsetenv(name_);
+        } else {
+            qputenv(name_, before_);
+        }
+    }
+
+private:
+    const char* name_;
+    QByteArray before_;
+};
+
 /// While it stands, displays are tried one after the other, and it is told only when none is left.
 class Attempt {
 public:
     Attempt(int count, char** arguments)
-        : chosen_(isChosen(count, arguments))
     {
         program = QFileInfo(QString::fromLocal8Bit(count > 0 ? arguments[0] : "")).fileName();
         reason.clear();
-        if (!chosen_) {
-            qputenv(choice, bothInTheirOrder());
+        if (!isChosen(count, arguments)) {
+            displays_.emplace(choice, bothInTheirOrder());
         }
         others = qInstallMessageHandler(hear);
     }
     Attempt(const Attempt&) = delete;
     Attempt& operator=(const Attempt&) = delete;
 
-    ~Attempt()
-    {
-        qInstallMessageHandler(others);
-        if (!chosen_) {
-            qunsetenv(choice); // is not for programs that are started from here
-        }
-    }
+    ~Attempt() { qInstallMessageHandler(others); }
 
 private:
     static void hear(QtMsgType type, const QMessageLogContext& context, const QString& message)
@@ -72,7 +92,7 @@ private:
     static inline QString program;
     static inline QString reason;
     static inline QtMessageHandler others = nullptr;
-    bool chosen_;
+    std::optional<Variable> displays_;
 };
 
 } // namespace
@@ -80,6 +100,8 @@ private:
 QApplication applicationOnDisplay(int& count, char** arguments)
 {
     const Attempt attempt(count, arguments);
+    // Nothing in the window takes what is typed, so that none has to be found and connected to.
+    const Variable inputMethod("QT_IM_MODULE", "none");
     return {count, arguments};
 }
 
