@@ -3,7 +3,8 @@
 
 usage: first-paint.py [RUNS] INSTALLER-FIRST-PAINT BARE-FIRST-PAINT
 
-Prints the medians of wall time, user + system time and peak memory, and the ratios."""
+Prints the medians of wall time, user + system time and peak memory, and the ratios. An Xvfb needs -noreset: it turns
+away who comes while it begins anew, as it does when the last program has gone."""
 
 import os
 import statistics
