@@ -67,6 +67,12 @@ struct Written {
     }
     std::string operator()(const WriteText& command) const { return " > " + quoted(command.path); }
     std::string operator()(const HandOver& command) const { return "chown -R $USER " + quoted(command.path); }
+    std::string operator()(const Unlink& command) const
+    {
+        const std::string link = quoted(command.link);
+        return "[ \"$(readlink -n " + link + ")\" != " + quoted(command.target) + " ] || rm -f " + link;
+    }
+    std::string operator()(const RemoveFolders& command) const { return "rmdir -p " + quoted(command.path); }
 };
 
 void expectOneMeaning(std::string_view text)

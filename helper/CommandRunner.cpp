@@ -7,6 +7,7 @@
 // program; nothing is read from anywhere else. Everything that runs as root lies in this folder.
 
 #include "helper/Execution.h"
+#include "helper/Turn.h"
 
 #include <grp.h>
 #include <pwd.h>
@@ -118,6 +119,8 @@ int main(int count, char** arguments)
     }
     const Site site = siteFor(*user, count > 1 ? arguments[1] : "");
     clearenv();
+    // Two scripts at once would undo each other's work.
+    waitForTurn("corvellane-command-runner");
     writeOutput(up);
     while (std::fflush(stdout) == 0) {
         const auto command = readRequest(readInput);

@@ -1,5 +1,6 @@
 #include "helper/Execution.h"
 
+#include "helper/MadeFolders.h"
 #include "helper/Program.h"
 
 #include <fcntl.h>
@@ -92,7 +93,18 @@ Reply write(const WriteText& command)
     return rest.empty() ? Reply() : Reply{1, {}, "echo: " + command.path + ": " + std::strerror(error) + "\n"};
 }
 
-/// The words for the tool that does a command; there is none for texts.
+Reply unlinkOne(const Unlink& command)
+{
+    std::string target(command.target.size() + 1, '\0');
+    const ssize_t size = readlink(command.link.c_str(), target.data(), target.size());
+    target.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
+    if (target != command.target || unlink(command.link.c_str()) == 0) {
+        return {};
+    }
+    return {1, {}, "rm: cannot remove '" + command.link + "': " + std::strerror(errno) + "\n"};
+}
+
+/// The words for the tool that does a command; there is none for what needs no tool.
 class Words {
 public:
     explicit Words(const User& user)
@@ -119,7 +131,7 @@ public:
         return {"chown", "-R", std::to_string(user_.id), command.path};
     }
 
-    std::vector<std::string> operator()(const WriteText&) const { return {}; }
+    std::vector<std::string> operator()(const auto&) const { return {}; }
 
 private:
     const User& user_;
@@ -197,9 +209,16 @@ Reply carryOut(const InstallCommand& command, std::string_view text, const Site&
     if (const auto* echo = std::get_if<WriteText>(&command)) {
         return write(*echo);
     }
+    if (const auto* link = std::get_if<Unlink>(&command)) {
+        return unlinkOne(*link);
+    }
+    if (const auto* folders = std::get_if<RemoveFolders>(&command)) {
+        return removeMade(folders->path);
+    }
     if (isDone(command)) {
         return {};
     }
+    const MadeFolders made(command);
     // Names in messages are UTF-8; a tool that had to load all of a language would take a quarter longer to start.
     const auto words = std::visit(Words(site.user), command);
     return runProgram("/bin/" + words.front(), words, {"PATH=/usr/bin:/bin", "LC_CTYPE=C.UTF-8"}, text);

@@ -116,6 +116,15 @@ std::optional<InstallCommand> readText(Reader& reader)
     return path ? std::optional<InstallCommand>(WriteText{echoed(*text), *std::move(path)}) : std::nullopt;
 }
 
+std::optional<InstallCommand> readUnlink(Reader& reader)
+{
+    auto link = reader.takeQuoted();
+    auto target = link && reader.take(")\" != ") ? reader.takeQuoted() : std::nullopt;
+    const auto again = target && reader.take(" ] || rm -f ") ? reader.takeQuoted() : std::nullopt;
+    return again && *again == *link ? std::optional<InstallCommand>(Unlink{*std::move(link), *std::move(target)})
+                                    : std::nullopt;
+}
+
 struct Form {
     std::string_view words;
     std::optional<InstallCommand> (*readRest)(Reader& reader);
@@ -128,6 +137,8 @@ constexpr std::array forms{
     Form{"ln -f -h -s ", &readTwo<Link>},
     Form{"echo ", &readText},
     Form{"chown -R $USER ", &readOne<HandOver>},
+    Form{"[ \"$(readlink -n ", &readUnlink},
+    Form{"rmdir -p ", &readOne<RemoveFolders>},
 };
 
 } // namespace

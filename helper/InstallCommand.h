@@ -5,8 +5,8 @@
 #include <string_view>
 #include <variant>
 
-/// The six commands of an installation, as its script writes them for a shell. A path or text in double quotes has a
-/// backslash before each `\`, `"`, `$` and backtick, and before nothing else.
+/// The six commands of an installation and the two more of a removal, as their scripts write them for a shell. A path
+/// or text in double quotes has a backslash before each `\`, `"`, `$` and backtick, and before nothing else.
 namespace corvellane::runner {
 
 /// `mkdir -p "PATH"`
@@ -43,9 +43,21 @@ struct HandOver {
     std::string path;
 };
 
-using InstallCommand = std::variant<MakeFolder, Copy, Remove, Link, WriteText, HandOver>;
+/// `[ "$(readlink -n "LINK")" != "TARGET" ] || rm -f "LINK"`: the link, only while it points there.
+struct Unlink {
+    std::string link;
+    std::string target;
+};
 
-/// Absent for anything that is not exactly one of the six.
+/// `rmdir -p "PATH"`: the folder, if it is empty and an installation has made it, and then those above it as far as the
+/// same is true of them. One that stays is no error.
+struct RemoveFolders {
+    std::string path;
+};
+
+using InstallCommand = std::variant<MakeFolder, Copy, Remove, Link, WriteText, HandOver, Unlink, RemoveFolders>;
+
+/// Absent for anything that is not exactly one of them.
 std::optional<InstallCommand> parseCommand(std::string_view text);
 
 } // namespace corvellane::runner

@@ -41,6 +41,13 @@ public:
         return isBelow(command.path, folders_.lightroom) ? nullptr : &command.path;
     }
 
+    const std::string* operator()(const Unlink& command) const
+    {
+        return isBelow(command.target, folders_.application) ? unlessWritten(command.link, &isBelow) : &command.target;
+    }
+
+    const std::string* operator()(const RemoveFolders& command) const { return unlessWritten(command.path, &isWithin); }
+
 private:
     const std::string* unlessWritten(const std::string& path, bool (*isThere)(std::string_view, std::string_view)) const
     {
@@ -58,6 +65,7 @@ private:
 struct Written {
     const std::string& operator()(const Copy& copy) const { return copy.folder; }
     const std::string& operator()(const Link& link) const { return link.link; }
+    const std::string& operator()(const Unlink& link) const { return link.link; }
     const std::string& operator()(const auto& other) const { return other.path; }
 };
 

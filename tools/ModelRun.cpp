@@ -140,9 +140,10 @@ public:
         }
         place(command.path,
             {.kind = Kind::file,
-                .mode = newFile,
+                .mode = there != nullptr ? there->mode : newFile,
                 .size = command.text.size(),
                 .owner = ownerAt(command.path),
+                .text = command.text,
                 .element = findings_.element()},
             true);
     }
@@ -156,6 +157,26 @@ public:
         tree_.find(path)->owner = Owner::person;
         for (auto& [inside, entry] : tree_.below(path)) {
             entry.owner = Owner::person;
+        }
+    }
+
+    void operator()(const runner::Unlink& command)
+    {
+        const ModelEntry* there = tree_.find(command.link);
+        if (there != nullptr && there->kind == Kind::link && there->target == command.target) {
+            tree_.remove(command.link);
+        }
+    }
+
+    /// All that the model holds but assumed folders was made.
+    void operator()(const runner::RemoveFolders& command)
+    {
+        for (std::string path = withoutEnd(command.path); !path.empty(); path = folderOf(path)) {
+            const ModelEntry* there = tree_.find(path);
+            if (there != nullptr && (!isFolder(there) || there->isAssumed || !tree_.below(path).empty())) {
+                return;
+            }
+            tree_.remove(path);
         }
     }
 

@@ -34,6 +34,8 @@ struct ModelEntry {
     std::string failure{};
     /// The file or folder of the maker's that it is a copy of; empty for none.
     std::string origin{};
+    /// Of files that a command writes: what it writes.
+    std::string text{};
     /// The maker's element that it was installed for; empty for what was there.
     std::string element{};
     /// A folder that others are expected to have made.

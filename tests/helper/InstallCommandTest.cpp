@@ -15,12 +15,14 @@ std::string parsed(std::string_view text)
         std::string operator()(const Link& command) const { return "link|" + command.target + "|" + command.link; }
         std::string operator()(const WriteText& command) const { return "text|" + command.text + "|" + command.path; }
         std::string operator()(const HandOver& command) const { return "hand over|" + command.path; }
+        std::string operator()(const Unlink& command) const { return "unlink|" + command.link + "|" + command.target; }
+        std::string operator()(const RemoveFolders& command) const { return "folders|" + command.path; }
     };
     const auto command = parseCommand(text);
     return command ? std::visit(Printed(), *command) : "refused";
 }
 
-TEST(InstallCommand, isOneOfSixForms)
+TEST(InstallCommand, isOneOfEightForms)
 {
     EXPECT_EQ(parsed(R"(mkdir -p "/a b/")"), "folder|/a b/");
     EXPECT_EQ(parsed(R"(cp -R -f "/a" "/b/")"), "copy|/a|/b/");
@@ -28,6 +30,8 @@ TEST(InstallCommand, isOneOfSixForms)
     EXPECT_EQ(parsed(R"(ln -f -h -s "/a" "/b")"), "link|/a|/b");
     EXPECT_EQ(parsed(R"(echo "a" > "/b")"), "text|a\n|/b");
     EXPECT_EQ(parsed(R"(chown -R $USER "/a")"), "hand over|/a");
+    EXPECT_EQ(parsed(R"x([ "$(readlink -n "/a b")" != "/c" ] || rm -f "/a b")x"), "unlink|/a b|/c");
+    EXPECT_EQ(parsed(R"(rmdir -p "/a/b/")"), "folders|/a/b/");
     EXPECT_EQ(parsed("rm -R -f \"\\\\ \\\" \\$ \\` ' ; & \n \xFF * ~ # ( ) -x\""),
         "remove|\\ \" $ ` ' ; & \n \xFF * ~ # ( ) -x");
 }
@@ -40,7 +44,11 @@ TEST(InstallCommand, isNothingElse)
             R"(mkdir -m 777 "/a")", R"(cp -R "/a" "/b")", R"(cp -R -f "/a"  "/b")", R"(cp -R -f "/a")", "rm -R -f '/a'",
             R"x(rm -R -f "$(id)")x", "rm -R -f \"`id`\"", R"(rm -R -f "$HOME")", R"(rm -R -f "\a")", R"(rm -R -f "\)",
             R"(echo "a" >> "/b")", R"(echo "a">"/b")", R"(echo "a" > /b)", R"x(echo "$(id)" > "/b")x", R"(echo "a")",
-            R"(chown -R root "/a")", R"(chown -R "$USER" "/a")", R"(ln -s "/a" "/b")", "true\nmkdir -p \"/a\""}) {
+            R"(chown -R root "/a")", R"(chown -R "$USER" "/a")", R"(ln -s "/a" "/b")", "true\nmkdir -p \"/a\"",
+            R"(rmdir "/a")", R"(rm -f "/a")", R"x([ "$(readlink -n "/a")" != "/c" ] || rm -f "/b")x",
+            R"x([ "$(readlink -n "/a")" != "/c" ] || rm -R -f "/a")x",
+            R"x([ "$(readlink -n "/a")" = "/c" ] || rm -f "/a")x",
+            R"x([ "$(readlink -n "/a"; id)" != "/c" ] || rm -f "/a")x"}) {
         EXPECT_EQ(parsed(text), "refused") << text;
     }
 }
@@ -83,6 +91,17 @@ TEST(InstallFolders, holdAllThatIsReadAndWritten)
     EXPECT_FALSE(isAllowed("cp -R -f" + quoted("/etc/shadow") + quoted(application)));
     EXPECT_FALSE(isAllowed("ln -f -h -s" + quoted("/etc") + quoted(link)));
     EXPECT_FALSE(readCommand("mkdir -p" + quoted(lightroom), installFolders("", "home", "")).command);
+    const auto unlink = [&](const std::string& path, const std::string& target) {
+        return isAllowed("[ \"$(readlink -n" + quoted(path) + ")\" !=" + quoted(target) + " ] || rm -f" + quoted(path));
+    };
+    EXPECT_TRUE(unlink(link + "a", application + "a"));
+    EXPECT_TRUE(unlink(lightroom + "Modules/a", application + "a/b"));
+    EXPECT_FALSE(unlink(link + "a", "/etc"));
+    EXPECT_FALSE(unlink("/etc/a", application + "a"));
+    EXPECT_FALSE(unlink(link, application + "a"));
+    EXPECT_TRUE(isAllowed("rmdir -p" + quoted(link)));
+    EXPECT_FALSE(isAllowed("rmdir -p" + quoted("/Library/Application Support/Adobe/")));
+    EXPECT_FALSE(isAllowed("rmdir -p" + quoted("/home/user/")));
 }
 
 } // namespace
