@@ -4,6 +4,8 @@
 
 namespace corvellane {
 
+class Product;
+
 /// The folders that an installation writes to; each ends with "/".
 struct HostPaths {
     /// Receives every element.
@@ -15,5 +17,8 @@ struct HostPaths {
     /// Receives the Lightroom elements' presets and a link to their plug-in.
     std::string lightroom;
 };
+
+/// Those that the system names.
+HostPaths hostPathsOf(const Product& product);
 
 } // namespace corvellane

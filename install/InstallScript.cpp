@@ -4,20 +4,10 @@
 #include "install/ElementKind.h"
 #include "install/ScriptEscapes.h"
 
-#include <initializer_list>
-#include <utility>
+#include <algorithm>
 
 namespace corvellane {
 namespace {
-
-constexpr const char* closing = R"(
-on error errMsg
-return errMsg
-end try
-return "Ok")";
-
-/// What stands around a text in double quotes for the shell, inside a literal of the script.
-constexpr const char* quote = R"(\")";
 
 /// A text in double quotes for Lua, inside such a text.
 std::string luaQuoted(const std::string& text)
@@ -37,10 +27,12 @@ std::string editorPreset(const std::string& identifier, const std::string& title
 /// Writes the script command by command. What a command quotes has been escaped for it before.
 class Composer {
 public:
-    explicit Composer(const HostPaths& hosts)
-        : hosts_(hosts)
+    Composer(ScriptText& script, const HostPaths& hosts, LinkFolders folders)
+        : script_(script)
+        , hosts_(hosts)
         , escaped_{asArgument(hosts.application), asArgument(hosts.video), asArgument(hosts.photo),
               asArgument(hosts.lightroom)}
+        , folders_(folders)
     {
         createFolder(escaped_.application);
     }
@@ -51,8 +43,9 @@ public:
         const std::string name = asArgument(ownName);
         const ElementKind kind = kindOf(path);
         const std::string& host = escaped_.*traitsOf(kind).folder;
-        if (kind != ElementKind::lightroom && std::exchange(createsFolder_, false)) {
+        if (kind != ElementKind::lightroom && createsFolderOf(kind)) {
             createFolder(host);
+            created_.push_back(kind);
         }
         copy(asArgument(path), escaped_.application);
         switch (kind) {
@@ -67,9 +60,13 @@ public:
         }
     }
 
-    std::string finish() { return std::move(script_ += closing); }
-
 private:
+    bool createsFolderOf(ElementKind kind) const
+    {
+        return folders_ == LinkFolders::ofTheFirstKind ? created_.empty()
+                                                       : std::ranges::find(created_, kind) == created_.end();
+    }
+
     void appendLightroomLines(
         const LightroomGeneration& generation, const std::string& unescaped, const std::string& installed)
     {
@@ -84,49 +81,50 @@ private:
         copy(installed + "/" + title + "/", presets);
         createFolder(modules);
         link(plugin, modules);
-        append({"echo ", quote, asEchoedText(unescaped), quote, " > ", quote, plugin, "/Path.txt", quote}, "  ");
-        append({"echo ", quote, editorPreset(generation.presetIdentifier, title, application), quote, " > ", quote,
-            editors, title, ".lrtemplate", quote});
+        script_.append(
+            {"echo ", quote, asEchoedText(unescaped), quote, " > ", quote, plugin, "/Path.txt", quote}, "  ");
+        script_.append({"echo ", quote, editorPreset(generation.presetIdentifier, title, application), quote, " > ",
+            quote, editors, title, ".lrtemplate", quote});
         for (const std::string& folder : {editors, presets, modules}) {
-            append({"chown -R $USER ", quote, folder, quote});
+            script_.append({"chown -R $USER ", quote, folder, quote});
         }
     }
 
-    void createFolder(std::string_view folder) { append({"mkdir -p ", quote, folder, quote}); }
+    void createFolder(std::string_view folder) { script_.append({"mkdir -p ", quote, folder, quote}); }
     void copy(std::string_view from, std::string_view to)
     {
-        append({"cp -R -f ", quote, from, quote, " ", quote, to, quote});
+        script_.append({"cp -R -f ", quote, from, quote, " ", quote, to, quote});
     }
-    void remove(std::string_view bundle) { append({"rm -R -f ", quote, bundle, quote}); }
+    void remove(std::string_view bundle) { script_.append({"rm -R -f ", quote, bundle, quote}); }
     void link(std::string_view to, std::string_view at)
     {
-        append({"ln -f -h -s ", quote, to, quote, " ", quote, at, quote}, "  ");
+        script_.append({"ln -f -h -s ", quote, to, quote, " ", quote, at, quote}, "  ");
     }
 
-    void append(std::initializer_list<std::string_view> command, std::string_view space = " ")
-    {
-        script_ += "do shell script \"";
-        for (const std::string_view part : command) {
-            script_ += part;
-        }
-        script_.append("\"").append(space).append("with administrator privileges\n");
-    }
-
+    ScriptText& script_;
     const HostPaths& hosts_;
     HostPaths escaped_;
-    std::string script_ = "try\n";
-    bool createsFolder_ = true;
+    LinkFolders folders_;
+    /// The kinds whose folders for links have been created.
+    std::vector<ElementKind> created_;
 };
 
 } // namespace
 
 std::string composeInstallScript(const HostPaths& hosts, const std::vector<std::string>& elements)
 {
-    Composer composer(hosts);
+    ScriptText script;
+    appendInstallation(script, hosts, elements, LinkFolders::ofTheFirstKind);
+    return std::move(script).finish();
+}
+
+void appendInstallation(
+    ScriptText& script, const HostPaths& hosts, const std::vector<std::string>& elements, LinkFolders folders)
+{
+    Composer composer(script, hosts, folders);
     for (const std::string& path : elements) {
         composer.appendElement(path);
     }
-    return composer.finish();
 }
 
 } // namespace corvellane

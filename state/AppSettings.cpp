@@ -150,8 +150,7 @@ std::vector<std::string> AppSettings::foldersOrNone(Expected<std::vector<std::st
 
 HostPaths AppSettings::hostPaths() const
 {
-    return {product_.appCorvellane(), product_.appSuppCorvellaneVideo(), product_.appSuppCorvellane(),
-        product_.userAppSuppLR()};
+    return hostPathsOf(product_);
 }
 
 void AppSettings::installSelectedProducts()
