@@ -33,18 +33,18 @@ struct NoFileManager : script::FileManager {
 
 } // namespace
 
-System::System()
+System::System(const UserAccount& person, script::PasswordAsked passwordAsked)
     : application(std::make_shared<NoApplication>())
     , console(std::make_shared<StreamConsole>(stdout))
     , files(std::make_shared<PosixFiles>())
-    , folders(std::make_shared<PosixStandardFolders>())
+    , folders(std::make_shared<PosixStandardFolders>(std::string(), person))
     , pasteboard(std::make_shared<NoPasteboard>())
     , workspace(std::make_shared<NoWorkspace>())
     , fileManager(std::make_shared<NoFileManager>())
     , meter(std::make_shared<WorkMeter>())
     , dispatcher(std::make_shared<QueueDispatcher>())
 {
-    addServicesOfItsOwn();
+    addServicesOfItsOwn(person, passwordAsked);
 }
 
 Platform System::platform()

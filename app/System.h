@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/posix/UserAccount.h"
 #include "platform/posix/WorkMeter.h"
 #include "platform/script/FileManager.h"
 #include "platform/script/Shell.h"
@@ -13,8 +14,10 @@ namespace corvellane {
 /// for.
 struct System {
     /// As a program without a window has them: no menu, no pasteboard, no one to open an address, and a file manager
-    /// that takes no requests.
-    System();
+    /// that takes no requests. What lies in a home lies in that of the person; only for root can that be another than
+    /// the one at the screen.
+    explicit System(
+        const UserAccount& person = realUser(), script::PasswordAsked passwordAsked = script::PasswordAsked::onDesktop);
 
     /// The services that stand here now. They live as long as this or a copy of it.
     Platform platform();
@@ -45,7 +48,7 @@ struct System {
 
 private:
     // One file a system: SystemLinux.cpp, SystemOsascript.cpp.
-    void addServicesOfItsOwn();
+    void addServicesOfItsOwn(const UserAccount& person, script::PasswordAsked passwordAsked);
     std::shared_ptr<ScriptService> makeScripts() const;
 };
 

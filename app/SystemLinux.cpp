@@ -10,17 +10,17 @@
 
 namespace corvellane {
 
-void System::addServicesOfItsOwn()
+void System::addServicesOfItsOwn(const UserAccount& person, script::PasswordAsked passwordAsked)
 {
     const auto bundle = std::make_shared<ExecutableBundle>(runningExecutable());
     resources = bundle;
-    shell = std::make_shared<LinuxShell>(realUser());
+    shell = std::make_shared<LinuxShell>(person);
     const std::string runner = bundle->program("corvellane-command-runner").value_or("");
     const std::string products = bundle->folder("Products").value_or("");
     if (hasRootRights()) {
-        prompt = std::make_shared<RootPrompt>(runner, products);
+        prompt = std::make_shared<RootPrompt>(runner, products, person);
     } else {
-        prompt = std::make_shared<PkexecPrompt>(runner, products);
+        prompt = std::make_shared<PkexecPrompt>(runner, products, passwordAsked);
     }
 }
 

@@ -26,7 +26,7 @@ std::optional<std::string> runningExecutable()
 
 } // namespace
 
-void System::addServicesOfItsOwn()
+void System::addServicesOfItsOwn(const UserAccount&, script::PasswordAsked)
 {
     resources = std::make_shared<ExecutableBundle>(runningExecutable());
 }

@@ -83,9 +83,10 @@ Failure changeable(const std::string& reason)
 
 } // namespace
 
-PkexecPrompt::PkexecPrompt(std::string runner, std::string products, std::string pkexec)
+PkexecPrompt::PkexecPrompt(std::string runner, std::string products, script::PasswordAsked where, std::string pkexec)
     : runner_(std::move(runner))
     , products_(std::move(products))
+    , where_(where)
     , pkexec_(std::move(pkexec))
 {
 }
@@ -121,7 +122,11 @@ Expected<std::shared_ptr<script::Shell>> PkexecPrompt::authorize(const std::vect
     // the sake of others, so it gets none.
     std::error_code error;
     const std::string runner = std::filesystem::canonical(runner_, error);
-    return startRunner({{pkexec_, "--disable-internal-agent", runner, products_}, {}}, &explainRefusal);
+    std::vector<std::string> words{pkexec_, "--disable-internal-agent", runner, products_};
+    if (where_ == script::PasswordAsked::onTerminalToo) {
+        words.erase(words.begin() + 1);
+    }
+    return startRunner({words, {}}, &explainRefusal);
 }
 
 } // namespace corvellane

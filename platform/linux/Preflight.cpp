@@ -169,7 +169,7 @@ std::optional<Failure> whyNotInstallable(const std::vector<std::string>& command
         reason = command->empty() ? std::nullopt : preflight.whyNot(*command);
     }
     reason = reason ? reason : preflight.whyNoRoom();
-    return reason ? std::optional(Failure{*std::move(reason), script::error_number::notPermitted}) : std::nullopt;
+    return reason ? std::optional(Failure{*std::move(reason), script::error_number::eventFailed}) : std::nullopt;
 }
 
 } // namespace corvellane

@@ -1,21 +1,22 @@
 #pragma once
 
-#include "helper/Execution.h"
+#include "platform/posix/UserAccount.h"
 #include "platform/script/Shell.h"
 
 #include <string>
+#include <utility>
 
 namespace corvellane {
 
-/// Asks nobody, because this process is root's: starts the command runner for the person at the screen, who may have
-/// become root by sudo.
+/// Asks nobody, because this process is root's: starts the command runner for a person.
 class RootPrompt : public script::AdministratorPrompt {
 public:
     /// `runner` is the path of the command runner, `products` the folder that its commands copy from, without a "/" at
     /// the end, or empty.
-    RootPrompt(std::string runner, std::string products)
+    RootPrompt(std::string runner, std::string products, UserAccount person)
         : runner_(std::move(runner))
         , products_(std::move(products))
+        , person_(std::move(person))
     {
     }
 
@@ -24,6 +25,7 @@ public:
 private:
     std::string runner_;
     std::string products_;
+    UserAccount person_;
 };
 
 } // namespace corvellane

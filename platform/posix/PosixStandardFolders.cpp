@@ -1,14 +1,12 @@
 #include "platform/posix/PosixStandardFolders.h"
 
-#include "platform/posix/UserAccount.h"
-
 namespace corvellane {
 
 std::vector<std::string> PosixStandardFolders::searchPaths(SearchDirectory directory, SearchDomain domain) const
 {
     std::string base = prefix_;
     if (domain == SearchDomain::user) {
-        base += realUser().home;
+        base += home_;
     }
     if (base.ends_with('/')) {
         base.pop_back();

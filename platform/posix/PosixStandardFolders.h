@@ -1,16 +1,18 @@
 #pragma once
 
 #include "platform/StandardFolders.h"
+#include "platform/posix/UserAccount.h"
 
 namespace corvellane {
 
 /// The folders that the host applications keep on this system: "/Applications", "/Library/Application Support" and
-/// the real user's home followed by "/Library/Application Support".
+/// the person's home followed by "/Library/Application Support".
 class PosixStandardFolders : public StandardFolders {
 public:
     /// `prefix` stands in front of every folder: a scratch folder's path without a trailing "/", or nothing.
-    explicit PosixStandardFolders(std::string prefix = {})
+    explicit PosixStandardFolders(std::string prefix = {}, const UserAccount& person = realUser())
         : prefix_(std::move(prefix))
+        , home_(person.home)
     {
     }
 
@@ -18,6 +20,7 @@ public:
 
 private:
     std::string prefix_;
+    std::string home_;
 };
 
 } // namespace corvellane

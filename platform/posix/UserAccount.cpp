@@ -29,25 +29,38 @@ std::string asWord(const std::string& name, uid_t id)
     return name.empty() || name.find_first_not_of(ordinary) != std::string::npos ? std::to_string(id) : name;
 }
 
+/// What the password database has, asked by getpwuid_r() or getpwnam_r().
+template <typename LookUp>
+std::optional<UserAccount> lookedUp(LookUp lookUp)
+{
+    std::vector<char> buffer(4096);
+    passwd entry{};
+    passwd* found = nullptr;
+    while (lookUp(&entry, buffer.data(), buffer.size(), &found) == ERANGE) {
+        buffer.resize(buffer.size() * 2);
+    }
+    if (found == nullptr) {
+        return std::nullopt;
+    }
+    UserAccount account{asWord(entry.pw_name, entry.pw_uid), entry.pw_dir, entry.pw_uid};
+    while (account.home.size() > 1 && account.home.ends_with('/')) {
+        account.home.pop_back();
+    }
+    return account;
+}
+
 } // namespace
 
 UserAccount realUser()
 {
     const uid_t id = personsId();
-    std::vector<char> buffer(4096);
-    passwd entry{};
-    passwd* found = nullptr;
-    while (getpwuid_r(id, &entry, buffer.data(), buffer.size(), &found) == ERANGE) {
-        buffer.resize(buffer.size() * 2);
-    }
-    if (found == nullptr) {
-        return {std::to_string(id), "/", id};
-    }
-    UserAccount account{asWord(entry.pw_name, id), entry.pw_dir, id};
-    while (account.home.size() > 1 && account.home.ends_with('/')) {
-        account.home.pop_back();
-    }
-    return account;
+    const auto account = lookedUp([id](auto... answer) { return getpwuid_r(id, answer...); });
+    return account.value_or(UserAccount{std::to_string(id), "/", id});
+}
+
+std::optional<UserAccount> userNamed(const std::string& name)
+{
+    return lookedUp([&](auto... answer) { return getpwnam_r(name.c_str(), answer...); });
 }
 
 bool hasRootRights()

@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <optional>
 #include <string>
 
 namespace corvellane {
@@ -19,6 +20,9 @@ struct UserAccount {
 /// Of the environment, SUDO_UID is read, and by root alone. A user without an entry has its number as name and "/" as
 /// home.
 UserAccount realUser();
+
+/// The user of that name in the password database; absent when there is none.
+std::optional<UserAccount> userNamed(const std::string& name);
 
 /// Whether this process may do everything.
 bool hasRootRights();

@@ -14,6 +14,7 @@ constexpr int connectionInvalid = -609;
 constexpr int cannotGetObject = -1728;
 constexpr int cannotConvert = -1700;
 constexpr int notAuthorized = -1743;
+constexpr int eventFailed = -10000;
 constexpr int notPermitted = -10004;
 constexpr int syntax = -2741;
 constexpr int undefinedVariable = -2753;

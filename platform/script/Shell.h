@@ -29,6 +29,14 @@ public:
     virtual Expected<CommandResult> run(const std::string& command) = 0;
 };
 
+/// Where a prompt may ask for a password.
+enum class PasswordAsked {
+    /// In a window of the desktop's own.
+    onDesktop,
+    /// There or, where there is no desktop, on the terminal that the program was started from.
+    onTerminalToo,
+};
+
 /// Asks the person at the screen for administrator rights.
 class AdministratorPrompt {
 public:

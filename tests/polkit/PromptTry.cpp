@@ -20,10 +20,10 @@ int main(int count, char** arguments)
     const char* const pkexec = std::getenv("PKEXEC");
     System system;
     if (hasRootRights()) {
-        system.prompt = std::make_shared<RootPrompt>(arguments[1], products);
+        system.prompt = std::make_shared<RootPrompt>(arguments[1], products, realUser());
     } else {
-        system.prompt
-            = std::make_shared<PkexecPrompt>(arguments[1], products, pkexec == nullptr ? "/usr/bin/pkexec" : pkexec);
+        system.prompt = std::make_shared<PkexecPrompt>(
+            arguments[1], products, script::PasswordAsked::onDesktop, pkexec == nullptr ? "/usr/bin/pkexec" : pkexec);
     }
     std::ifstream file(arguments[2]);
     const std::string source{std::istreambuf_iterator<char>(file), {}};
