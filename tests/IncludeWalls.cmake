@@ -6,7 +6,7 @@
 cmake_minimum_required(VERSION 3.25)
 
 set(folders base platform platform/script platform/posix platform/linux platform/qt platform/osascript products install
-    rtf agreement state view view/qt ui app helper tools pack)
+    rtf agreement state view view/qt ui app helper tools pack cli)
 
 set(may_include_base "")
 set(may_include_platform base)
@@ -27,6 +27,7 @@ set(may_include_app ${folders})
 set(may_include_helper "")
 set(may_include_tools ${folders})
 set(may_include_pack helper tools)
+set(may_include_cli ${folders})
 
 # What kind of header it is, and who may include that kind; the first row that fits holds.
 set(kinds qt linux mac rtf unicode failures options json packing posix)
@@ -43,9 +44,9 @@ set(may_use_unicode products tools)
 set(is_failures "^tl/expected.hpp")
 set(may_use_failures base)
 set(is_options "^CLI/")
-set(may_use_options tools pack)
+set(may_use_options tools pack cli)
 set(is_json "^nlohmann/")
-set(may_use_json tools)
+set(may_use_json tools cli)
 set(is_packing "^archive(_entry)?.h|^toml[+][+]/")
 set(may_use_packing pack)
 set(is_posix "[./]")

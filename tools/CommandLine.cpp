@@ -69,7 +69,7 @@ void addCommonOptions(CLI::App& program, const std::string& more)
     program.footer(more);
 }
 
-std::optional<int> readArguments(CLI::App& program, int count, char** arguments)
+std::optional<int> readArguments(CLI::App& program, int count, char** arguments, const Refuse& refuse)
 {
     try {
         program.parse(count, arguments);
@@ -81,7 +81,7 @@ std::optional<int> readArguments(CLI::App& program, int count, char** arguments)
         std::printf("%s\n", version.what());
         return 0;
     } catch (const CLI::ParseError& error) {
-        return refuseUsage(program, error.what());
+        return refuse(program, error.what());
     }
 }
 

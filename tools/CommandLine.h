@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -21,12 +22,15 @@ std::string productsFolderIn(const std::string& folder);
 /// Gives the program the options --help and --version; the help ends with `more`.
 void addCommonOptions(CLI::App& program, const std::string& more);
 
-/// Reads the arguments as the program was told to. Gives the exit status when it is to end at once: 0 after the usage
-/// or the version on standard output, 2 after one line on standard error that says what is wrong.
-std::optional<int> readArguments(CLI::App& program, int count, char** arguments);
-
-/// Says on standard error, in one line, what is wrong with the command line, and gives the exit status for that.
+/// Says on standard error, in one line, what is wrong with the command line, and gives the exit status for that, 2.
 int refuseUsage(const CLI::App& program, const std::string& reason);
+
+/// Says what is wrong with the command line, and gives the exit status.
+using Refuse = std::function<int(const CLI::App& program, const std::string& reason)>;
+
+/// Reads the arguments as the program was told to. Gives the exit status when it is to end at once: 0 after the usage
+/// or the version on standard output, or what `refuse` gives.
+std::optional<int> readArguments(CLI::App& program, int count, char** arguments, const Refuse& refuse = &refuseUsage);
 
 /// Ends standard output. Gives the exit status: `status`, or 1 after one line on standard error when not everything
 /// could be written.

@@ -4,9 +4,9 @@
 #include "tools/AgreementReport.h"
 #include "tools/CommandLine.h"
 #include "tools/FolderTree.h"
+#include "tools/ProductNames.h"
 #include "tools/Rehearsal.h"
 #include "tools/ReportForms.h"
-#include "tools/UnicodeNames.h"
 
 #include <algorithm>
 #include <array>
@@ -82,16 +82,6 @@ bool writesColours()
     const char* const terminal = std::getenv("TERM");
     return isTerminal(stdout) && (refusal == nullptr || *refusal == '\0') && terminal != nullptr
         && std::string_view(terminal) != "dumb";
-}
-
-/// The product of that name: of exactly that one, or of one that looks the same.
-const std::string* productNamed(const std::vector<std::string>& locations, const std::string& name)
-{
-    const auto exact = std::ranges::find(locations, name, &lastPathComponent);
-    const auto found = exact != locations.end() ? exact : std::ranges::find_if(locations, [&](const auto& location) {
-        return composed(std::string(lastPathComponent(location))) == composed(name);
-    });
-    return found == locations.end() ? nullptr : &*found;
 }
 
 /// Ticks the named products and no others, all of them for no names; gives a name that no product has.

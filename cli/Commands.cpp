@@ -1,0 +1,172 @@
+#include "cli/Commands.h"
+
+#include "base/PathNames.h"
+#include "cli/Removal.h"
+#include "helper/Turn.h"
+#include "install/InstallScript.h"
+#include "tools/PrintableText.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace corvellane {
+namespace {
+
+Answer answerTo(const char* command, const Order& order)
+{
+    Answer answer{.command = command, .changed = false};
+    for (const Person& person : order.persons) {
+        answer.users.push_back(person.account.name);
+    }
+    return answer;
+}
+
+/// Several scripts of root's belong together; each of them waits for the others', whoever has them run.
+void waitForOthers()
+{
+    if (hasRootRights()) {
+        runner::waitForTurn("corvellane-cli");
+    }
+}
+
+void addComparison(Answer& answer, const MadeElement& element)
+{
+    auto [state, differences] = compare(element);
+    answer.elements.push_back({element.path, std::string(nameOf(state)), std::move(differences)});
+}
+
+/// Runs a script for each person, until one fails; an empty one is passed over.
+template <typename Compose>
+void runForEach(Answer& answer, const Order& order, const std::string& word, Compose compose)
+{
+    for (std::size_t index = 0; index < order.persons.size() && answer.status == Status::done; ++index) {
+        const std::string script = compose(index);
+        if (!script.empty()) {
+            System system(order.persons[index].account, script::PasswordAsked::onTerminalToo);
+            Ending ending = runScript(system, script, word);
+            answer.status = ending.status;
+            answer.message = std::move(ending.message);
+            answer.changed = *answer.changed || ending.hasBegun;
+        }
+    }
+}
+
+/// Installs the elements of the order after what is in their way has gone.
+void installAfter(Answer& answer, const Order& order, const Removal& clearance)
+{
+    runForEach(answer, order, "Installing", [&](std::size_t index) {
+        ScriptText script;
+        appendRemoval(script, partFor(clearance, order.persons, index));
+        const auto elements = elementsFor(order, index);
+        appendInstallation(script, order.persons[index].hosts, elements, LinkFolders::ofEachKind);
+        return index == 0 || !elements.empty() ? std::move(script).finish() : "";
+    });
+    if (answer.status != Status::done) {
+        answer.elements.clear();
+    }
+}
+
+Answer installAll(const Order& order)
+{
+    Answer answer = answerTo("install", order);
+    for (const std::string& element : order.elements) {
+        answer.elements.push_back({element, "installed"});
+    }
+    installAfter(answer, order, {});
+    return answer;
+}
+
+/// Says so when an element is still not as shipped.
+void checkAgain(Answer& answer, const Installation& installation, const Order& installed)
+{
+    for (const MadeElement& element : installation.elements) {
+        const bool wasInstalled = std::ranges::find(installed.elements, element.path) != installed.elements.end();
+        const auto comparison = wasInstalled ? compare(element) : ElementComparison();
+        if (comparison.state != ElementState::asShipped && answer.status == Status::done) {
+            const Difference first = comparison.differences.empty() ? Difference{element.copy, "is missing"}
+                                                                    : comparison.differences.front();
+            answer.status = Status::failed;
+            answer.message = quotedPrintable(first.path) + " " + first.text
+                + ", also after it has been installed anew; look at what keeps changing it.";
+        }
+    }
+}
+
+Answer installWhatIsNeeded(const Order& order)
+{
+    Answer answer = answerTo("install", order);
+    const Installation installation = whatIsMade(order);
+    Order needed = order;
+    needed.elements.clear();
+    Removal clearance;
+    for (const MadeElement& element : installation.elements) {
+        const auto comparison = compare(element);
+        const bool isNeeded = comparison.state != ElementState::asShipped;
+        answer.elements.push_back({element.path, isNeeded ? "installed" : "as shipped"});
+        if (isNeeded) {
+            needed.elements.push_back(element.path);
+            std::ranges::move(clearanceFor(element, comparison).entries, std::back_inserter(clearance.entries));
+        }
+    }
+    if (!needed.elements.empty()) {
+        installAfter(answer, needed, clearance);
+        checkAgain(answer, installation, needed);
+    }
+    return answer;
+}
+
+} // namespace
+
+Answer list(const Order& order)
+{
+    Answer answer{.command = "list"};
+    for (const std::string& element : order.elements) {
+        answer.elements.push_back({element, ""});
+    }
+    return answer;
+}
+
+Answer verify(const Order& order)
+{
+    Answer answer = answerTo("verify", order);
+    answer.changed.reset();
+    for (const MadeElement& element : whatIsMade(order).elements) {
+        addComparison(answer, element);
+        if (answer.elements.back().state != nameOf(ElementState::asShipped)) {
+            answer.status = Status::failed;
+            answer.message = "Not everything is as shipped.";
+        }
+    }
+    return answer;
+}
+
+Answer install(const Order& order, bool onlyIfNeeded)
+{
+    waitForOthers();
+    return onlyIfNeeded ? installWhatIsNeeded(order) : installAll(order);
+}
+
+Answer remove(const Order& order)
+{
+    waitForOthers();
+    Answer answer = answerTo("remove", order);
+    const Installation installation = whatIsMade(order);
+    Removal removal = removalOf(installation);
+    for (const MadeElement& element : installation.elements) {
+        const bool isThere = compare(element).state != ElementState::missing;
+        answer.elements.push_back({element.path, isThere ? "removed" : "absent"});
+    }
+    runForEach(answer, order, "Removing", [&](std::size_t index) {
+        const Removal part = partFor(removal, order.persons, index);
+        ScriptText script;
+        appendRemoval(script, part);
+        return part.isEmpty() ? "" : std::move(script).finish();
+    });
+    if (answer.status != Status::done) {
+        answer.elements.clear();
+    }
+    answer.kept = std::move(removal.kept);
+    return answer;
+}
+
+} // namespace corvellane
