@@ -88,6 +88,41 @@ TEST_F(ExecutionTest, copiesAndLinksAsTheScriptsMeanItAlsoTheSecondTime)
     }
 }
 
+/// Those that were there before, however empty, stay.
+TEST_F(ExecutionTest, removesFoldersThatItHasMadeWhenTheyAreEmpty)
+{
+    shell("mkdir V/before");
+    EXPECT_EQ(run(R"(mkdir -p "@V/before/a/b/")").errors, "");
+    EXPECT_EQ(run(R"(mkdir -p "@V/a/b/c/")").errors, "");
+    shell("mkdir V/before/a/theirs V/a/b/c/theirs");
+    EXPECT_EQ(run(R"(rmdir -p "@V/a/b/c/")").errors, "");
+    EXPECT_EQ(run(R"(rmdir -p "@V/before/a/b/")").errors, "");
+    EXPECT_EQ(tree(),
+        (std::vector<std::string>{"folder  V/a", "folder  V/a/b", "folder  V/a/b/c", "folder  V/a/b/c/theirs",
+            "folder  V/before", "folder  V/before/a", "folder  V/before/a/theirs"}));
+    shell("rmdir V/before/a/theirs V/a/b/c/theirs V/a/b/c");
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_EQ(run(R"(rmdir -p "@V/a/b/c/")").errors, "") << "what is gone is passed over";
+        EXPECT_EQ(run(R"(rmdir -p "@V/before/a/b/")").errors, "");
+        EXPECT_EQ(tree(), std::vector<std::string>{"folder  V/before"});
+    }
+    shell("ln -s before V/link");
+    EXPECT_EQ(run(R"(rmdir -p "@V/link/")").errors, "");
+    EXPECT_EQ(tree().size(), 2);
+}
+
+TEST_F(ExecutionTest, removesALinkOnlyWhileItPointsThere)
+{
+    shell("ln -s $PWD/A/x V/ours; ln -s $PWD/A/xy V/longer; ln -s $PWD/A V/shorter; echo x > V/file; mkdir V/folder");
+    for (const std::string name : {"ours", "longer", "shorter", "file", "folder", "gone"}) {
+        EXPECT_EQ(
+            run("[ \"$(readlink -n \"@V/" + name + "\")\" != \"@A/x\" ] || rm -f \"@V/" + name + "\"").errors, "");
+    }
+    EXPECT_EQ(tree(),
+        (std::vector<std::string>{
+            "file    V/file (2 bytes)", "folder  V/folder", "link    V/longer -> @A/xy", "link    V/shorter -> @A"}));
+}
+
 TEST_F(ExecutionTest, saysWhatTheToolsSay)
 {
     const auto expect = [this](const std::string& command, int status, const std::string& words) {
