@@ -38,6 +38,14 @@ private:
     bool isRefused_ = false;
 };
 
+std::string inOneLine(std::string text)
+{
+    for (auto end = text.find('\n'); end != std::string::npos; end = text.find('\n', end)) {
+        text.replace(end, 1, "; ");
+    }
+    return text;
+}
+
 Ending endingOf(const ScriptExecution& execution, const WatchedPrompt& prompt)
 {
     const auto text = resultText(execution);
@@ -52,7 +60,7 @@ Ending endingOf(const ScriptExecution& execution, const WatchedPrompt& prompt)
     case ScriptOutcome::failed:
         break;
     }
-    return {prompt.isRefused() ? Status::notAuthorized : Status::failed, *text, prompt.isGranted()};
+    return {prompt.isRefused() ? Status::notAuthorized : Status::failed, inOneLine(*text), prompt.isGranted()};
 }
 
 /// Shows how far a script has come, until it has ended.

@@ -2,6 +2,7 @@
 
 #include "platform/linux/Preflight.h"
 #include "platform/linux/RunnerShell.h"
+#include "platform/linux/TerminalAgent.h"
 #include "platform/posix/UserAccount.h"
 #include "platform/script/ErrorInformation.h"
 
@@ -36,11 +37,15 @@ bool isSystemBusRunning()
         && connect(connection.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 
+bool isWithoutAgent(int status, const std::string& complaint)
+{
+    return status == notAuthorized && complaint.find("No authentication agent found") != std::string::npos;
+}
+
 /// `complaint` only chooses the words: pkexec gives a refused password, a missing agent and a fault of its own the same
 /// status. Its words are English, because it gets no environment.
 Failure explainRefusal(int status, const std::string& complaint)
 {
-    const auto isSaid = [&complaint](const char* words) { return complaint.find(words) != std::string::npos; };
     if (status == declined) {
         return {"User canceled.", script::error_number::userCanceled};
     }
@@ -48,11 +53,11 @@ Failure explainRefusal(int status, const std::string& complaint)
         return refusal("There is no way to ask for an administrator’s password, because the system’s message bus is "
                        "not running. Restart the computer, or start the installer as root.");
     }
-    if (status == notAuthorized && isSaid("No authentication agent found")) {
+    if (isWithoutAgent(status, complaint)) {
         return refusal("There is no way to ask for an administrator’s password, because no authentication agent is "
                        "running on this desktop. Start one, or start the installer as root.");
     }
-    if (status == notAuthorized && isSaid("Not authorized")) {
+    if (status == notAuthorized && complaint.find("Not authorized") != std::string::npos) {
         return refusal("The administrator user name or password was incorrect.");
     }
     return runnerCannotStart(complaint);
@@ -122,11 +127,18 @@ Expected<std::shared_ptr<script::Shell>> PkexecPrompt::authorize(const std::vect
     // the sake of others, so it gets none.
     std::error_code error;
     const std::string runner = std::filesystem::canonical(runner_, error);
-    std::vector<std::string> words{pkexec_, "--disable-internal-agent", runner, products_};
-    if (where_ == script::PasswordAsked::onTerminalToo) {
-        words.erase(words.begin() + 1);
+    const Invocation invocation{{pkexec_, "--disable-internal-agent", runner, products_}, {}};
+    bool lacksAgent = false;
+    auto shell = startRunner(invocation, [&](int status, const std::string& complaint) {
+        lacksAgent = isWithoutAgent(status, complaint);
+        return explainRefusal(status, complaint);
+    });
+    if (lacksAgent && where_ == script::PasswordAsked::onTerminalToo) {
+        // Known earlier, it would be asked before the desktop's.
+        const TerminalAgent agent;
+        shell = startRunner(invocation, &explainRefusal);
     }
-    return startRunner({words, {}}, &explainRefusal);
+    return shell;
 }
 
 } // namespace corvellane
