@@ -153,8 +153,7 @@ Answer remove(const Order& order)
     const Installation installation = whatIsMade(order);
     Removal removal = removalOf(installation);
     for (const MadeElement& element : installation.elements) {
-        const bool isThere = compare(element).state != ElementState::missing;
-        answer.elements.push_back({element.path, isThere ? "removed" : "absent"});
+        answer.elements.push_back({element.path, isAnyThere(element) ? "removed" : "absent"});
     }
     runForEach(answer, order, "Removing", [&](std::size_t index) {
         const Removal part = partFor(removal, order.persons, index);

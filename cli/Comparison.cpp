@@ -112,6 +112,14 @@ std::optional<std::string> difference(const std::string& path, const Made& made)
     return std::nullopt;
 }
 
+bool isAnyThere(const MadeElement& element)
+{
+    return std::ranges::any_of(element.entries, [](const auto& made) {
+        const auto status = isSharedFolder(made.second.entry) ? EntryStatus() : entryStatus(made.first);
+        return status && status->type != fs::file_type::not_found && status->type != fs::file_type::none;
+    });
+}
+
 ElementComparison compare(const MadeElement& element)
 {
     ElementComparison result;

@@ -41,6 +41,9 @@ struct ElementComparison {
 /// owners and modes. Folders that elements share are looked at for what they are and whose, not for their modes.
 ElementComparison compare(const MadeElement& element);
 
+/// Whether something of what is made for the element alone is there, whatever has become of it.
+bool isAnyThere(const MadeElement& element);
+
 /// Why what stands there is not what is made; absent when it is. A file that cannot be read is not.
 std::optional<std::string> difference(const std::string& path, const Made& made);
 
