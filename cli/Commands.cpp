@@ -4,7 +4,6 @@
 #include "cli/Removal.h"
 #include "helper/Turn.h"
 #include "install/InstallScript.h"
-#include "tools/PrintableText.h"
 
 #include <algorithm>
 #include <utility>
@@ -45,7 +44,9 @@ void runForEach(Answer& answer, const Order& order, const std::string& word, Com
             System system(order.persons[index].account, script::PasswordAsked::onTerminalToo);
             Ending ending = runScript(system, script, word);
             answer.status = ending.status;
-            answer.message = std::move(ending.message);
+            answer.message = ending.message.empty() || order.persons.size() == 1
+                ? std::move(ending.message)
+                : "For the user " + order.persons[index].account.name + ": " + ending.message;
             answer.changed = *answer.changed || ending.hasBegun;
         }
     }
@@ -86,7 +87,7 @@ void checkAgain(Answer& answer, const Installation& installation, const Order& i
             const Difference first = comparison.differences.empty() ? Difference{element.copy, "is missing"}
                                                                     : comparison.differences.front();
             answer.status = Status::failed;
-            answer.message = quotedPrintable(first.path) + " " + first.text
+            answer.message = "“" + first.path + "” " + first.text
                 + ", also after it has been installed anew; look at what keeps changing it.";
         }
     }

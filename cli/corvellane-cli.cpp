@@ -80,6 +80,8 @@ void addCommands(CLI::App& program, Options& options)
     }
 }
 
+constexpr const char* unpackAnew = " Unpack or install the installer anew, as root.";
+
 /// Prints what is said, and gives the exit status.
 int say(const CLI::App& program, const Options& options, const Answer& answer)
 {
@@ -131,9 +133,12 @@ std::optional<Answer> chooseElements(
 {
     const auto found = discoverProducts(*system.resources, *system.files);
     if (!found) {
-        return refusal(command, Status::failed, found.error().message + " Get the installer anew, and whole.");
+        return refusal(command, Status::failed, found.error().message + unpackAnew);
     }
     const ProductSelection all(*found);
+    if (all.empty()) {
+        return refusal(command, Status::failed, std::string("There is no product in this installer.") + unpackAnew);
+    }
     std::vector<std::string> chosen = names.empty() ? *all.locations() : std::vector<std::string>();
     for (const std::string& name : names) {
         const std::string* product = productNamed(*all.locations(), name);
@@ -146,7 +151,7 @@ std::optional<Answer> chooseElements(
         const bool isChosen = std::ranges::find(chosen, product) != chosen.end();
         auto elements = isChosen ? foldersIn(*system.files, product) : Expected<std::vector<std::string>>();
         if (!elements) {
-            return refusal(command, Status::failed, elements.error().message + " Get the installer anew, and whole.");
+            return refusal(command, Status::failed, elements.error().message + unpackAnew);
         }
         std::ranges::move(*elements, std::back_inserter(order.elements));
     }
@@ -176,7 +181,7 @@ std::optional<Answer> whyNotLicensed(const System& system, const Options& option
     }
     if (!system.resources->file("CorvellaneEULA", "rtf")) {
         return refusal("install", Status::failed,
-            "the licence agreement CorvellaneEULA.rtf is missing; get the installer anew, and whole");
+            std::string("The licence agreement CorvellaneEULA.rtf is missing.") + unpackAnew);
     }
     return std::nullopt;
 }
@@ -206,7 +211,7 @@ int showLicense(const CLI::App& program, const Options& options)
     if (!file) {
         return say(program, options,
             refusal("license", Status::failed,
-                "the licence agreement CorvellaneEULA.rtf is missing; get the installer anew, and whole"));
+                std::string("The licence agreement CorvellaneEULA.rtf is missing.") + unpackAnew));
     }
     return reportAgreement(*system.files, *file, AgreementForm::plainText, *system.console);
 }
