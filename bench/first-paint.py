@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Start to first paint: the installer against a bare Qt program, run in turns on the display there is.
 
-usage: first-paint.py [RUNS] INSTALLER-FIRST-PAINT BARE-FIRST-PAINT
+usage: first-paint.py [RUNS] INSTALLER-FIRST-PAINT BARE-FIRST-PAINT (or LABEL-FIRST-PAINT)
 
 Prints the medians of wall time, user + system time and peak memory, and the ratios. An Xvfb needs -noreset: it turns
 away who comes while it begins anew, as it does when the last program has gone."""
