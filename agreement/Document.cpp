@@ -23,7 +23,9 @@ Failure asFailure(const std::string& path, rtf::ReadFailure reason)
 Expected<rtf::AttributedText> readAgreement(const Files& files, const std::string& path)
 {
     return files.read(path, rtf::largestInput).and_then([&](std::string&& bytes) {
-        return rtf::readAway(std::move(bytes)).map_error([&](rtf::ReadFailure reason) { return asFailure(path, reason); });
+        return rtf::readAway(std::move(bytes)).map_error([&](rtf::ReadFailure reason) {
+            return asFailure(path, reason);
+        });
     });
 }
 

@@ -14,8 +14,8 @@ class Console;
 class Files;
 class Resources;
 
-/// Reads the rich-text file at that path; what it takes is at most four times the file's size. A failure's message is one
-/// line with the file's own name in it. Any thread.
+/// Reads the rich-text file at that path; what it takes is at most four times the file's size. A failure's message is
+/// one line with the file's own name in it. Any thread.
 Expected<rtf::AttributedText> readAgreement(const Files& files, const std::string& path);
 
 /// The licence agreement that the installer shows. Main thread; the platform's services outlive it.

@@ -12,8 +12,8 @@
 #include <string_view>
 
 // How many instructions it takes to read a sample, beside those of one memchr scan of it for each of backslash and the
-// braces (scanForControls), each less those of making the sample. cachegrind counts them ("I refs"), so that the figures
-// are the same at every run; memchr is the C library's for the processor that cachegrind shows.
+// braces (scanForControls), each less those of making the sample. cachegrind counts them ("I refs"), so that the
+// figures are the same at every run; memchr is the C library's for the processor that cachegrind shows.
 
 namespace corvellane {
 namespace {
@@ -82,7 +82,8 @@ void report(const Named& sample)
 {
     const Counts ten = measure(sample, 10);
     const Counts hundred = measure(sample, 100);
-    std::printf("%-14s scan %8.2f M, read %8.2f M, %5.2f times; of 100 MB, reading takes %5.2f times as many as of 10\n",
+    std::printf(
+        "%-14s scan %8.2f M, read %8.2f M, %5.2f times; of 100 MB, reading takes %5.2f times as many as of 10\n",
         sample.name.data(), ten.scan / 1e6, ten.read / 1e6, ten.read / ten.scan, hundred.read / ten.read);
 }
 

@@ -23,8 +23,8 @@ constexpr auto isTextByte = [] {
     return isText;
 }();
 
-/// Eight bytes as one number, the first byte lowest. Such numbers are computed with byte by byte, all eight at once; what
-/// is found in them is marked by the highest bit of its byte.
+/// Eight bytes as one number, the first byte lowest. Such numbers are computed with byte by byte, all eight at once;
+/// what is found in them is marked by the highest bit of its byte.
 using EightBytes = std::uint64_t;
 
 constexpr EightBytes eightTimes(std::uint8_t byte)

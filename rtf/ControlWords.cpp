@@ -288,7 +288,9 @@ constexpr std::array<ControlWord, controlWordSlotCount> controlWords = [] {
     for (const Row& row : rows) {
         for (std::size_t begin = 0, end = 0; begin < row.names.size(); begin = end + 1) {
             end = std::min(row.names.find(' ', begin), row.names.size());
-            add({.code = codeOfName(row.names.substr(begin, end - begin)), .action = row.action, .character = row.character});
+            add({.code = codeOfName(row.names.substr(begin, end - begin)),
+                .action = row.action,
+                .character = row.character});
         }
     }
     return filled;

@@ -29,7 +29,8 @@ constexpr std::size_t controlWordSlot(std::uint64_t code)
     return code * 0x9E3779B97F4A7C15U >> 54U;
 }
 
-/// What the reader knows, each word in the slot of its code or in the next free one after it. Free slots have the code 0.
+/// What the reader knows, each word in the slot of its code or in the next free one after it. Free slots have the code
+/// 0.
 extern const std::array<ControlWord, controlWordSlotCount> controlWords;
 
 /// The control word whose name has that code, which is not 0.

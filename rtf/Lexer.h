@@ -52,7 +52,7 @@ class Lexer {
 public:
     explicit Lexer(std::string_view bytes)
         : next_(bytes.data())
-        , end_(bytes.data() + bytes.rfind('}') + 1)
+        , end_(bytes.data() + (bytes.rfind('}') + 1))
     {
     }
 
@@ -60,7 +60,7 @@ public:
     const Token& next();
 
     /// The control words of a run, which begins with the defaults of a paragraph or a row. One after the other repeats
-    /// what it is told: the last runs are known by their bytes.
+    /// what it is told: the last runs are known by their bytes. A name may be gone with the bytes it stood in.
     const std::vector<Token>& run() const { return runs_[run_].words; }
 
     /// What is left to cut, and the same bytes at another place, from where it goes on. Tokens may not be looked at any

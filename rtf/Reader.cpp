@@ -226,28 +226,6 @@ std::string_view Interpreter::withoutFonts(std::string_view names, bool ascii)
     return names;
 }
 
-/// UTF-16 in that order of bytes as UTF-8; unpaired surrogates as U+FFFD.
-std::string fromUtf16(std::string_view bytes, std::size_t highByte)
-{
-    std::string text;
-    text.reserve(bytes.size() / 2 * 3);
-    const auto unitAt = [&](std::size_t place) -> char32_t {
-        const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(bytes[place + index]); };
-        return static_cast<char32_t>(byte(highByte) << 8U | byte(1 - highByte));
-    };
-    for (std::size_t place = 0; place + 1 < bytes.size(); place += 2) {
-        char32_t code = unitAt(place);
-        const bool isHigh = code >= 0xD800 && code <= 0xDBFF && place + 3 < bytes.size();
-        const char32_t low = isHigh ? unitAt(place + 2) : 0;
-        if (low >= 0xDC00 && low <= 0xDFFF) {
-            code = 0x10000 + ((code - 0xD800) << 10U) + (low - 0xDC00);
-            place += 2;
-        }
-        appendUtf8(text, code);
-    }
-    return text;
-}
-
 Expected<AttributedText, ReadFailure> readBytes(
     std::string_view bytes, std::string* own, std::optional<bool> rawIsUnicode = std::nullopt)
 {
@@ -262,23 +240,16 @@ Expected<AttributedText, ReadFailure> readBytes(
     return interpreter.take();
 }
 
-/// Where the first of two bytes is the high one; none for bytes that are not UTF-16.
-std::optional<std::size_t> highByteOf(std::string_view bytes)
-{
-    const bool littleEndian = bytes.starts_with("\xFF\xFE");
-    return littleEndian || bytes.starts_with("\xFE\xFF") ? std::optional<std::size_t>(littleEndian ? 1 : 0) : std::nullopt;
-}
-
 } // namespace
 
 Expected<AttributedText, ReadFailure> read(std::string_view bytes)
 {
-    return highByteOf(bytes) ? readAway(std::string(bytes)) : readBytes(bytes, nullptr);
+    return highByteOfUtf16(bytes) ? readAway(std::string(bytes)) : readBytes(bytes, nullptr);
 }
 
 Expected<AttributedText, ReadFailure> readAway(std::string bytes)
 {
-    const auto highByte = highByteOf(bytes);
+    const auto highByte = highByteOfUtf16(bytes);
     if (highByte) {
         bytes = fromUtf16(std::string_view(bytes).substr(2), *highByte);
     }

@@ -33,9 +33,9 @@ constexpr std::size_t largestInput = std::size_t{256} << 20U;
 /// together 16 million; in the place of others stands their description.
 ///
 /// Time and memory grow with the number of bytes alone, however deep groups are nested. What no file needs that is
-/// written for its text is not kept: formats beyond 4,096 and one for each 1,024 bytes, changes of them beyond 4,096 and
-/// one for each 8, text of more than three times the file's bytes, as pictographs may become. Any thread; needs the code pages of the C library's iconv, and where one is missing
-/// gives U+FFFD for its characters.
+/// written for its text is not kept: formats beyond 4,096 and one for each 1,024 bytes, changes of them beyond 4,096
+/// and one for each 8, text of more than three times the file's bytes, as pictographs may become. Any thread; needs the
+/// code pages of the C library's iconv, and where one is missing gives U+FFFD for its characters.
 Expected<AttributedText, ReadFailure> read(std::string_view bytes);
 
 /// The same of bytes that are not needed any more: where the text grows larger than they are, they are given back while

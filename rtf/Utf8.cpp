@@ -82,4 +82,32 @@ bool isUtf8Text(std::string_view bytes)
     return characters >= fewestCharacters;
 }
 
+std::optional<std::size_t> highByteOfUtf16(std::string_view bytes)
+{
+    const bool littleEndian = bytes.starts_with("\xFF\xFE");
+    return littleEndian || bytes.starts_with("\xFE\xFF") ? std::optional<std::size_t>(littleEndian ? 1 : 0)
+                                                         : std::nullopt;
+}
+
+std::string fromUtf16(std::string_view bytes, std::size_t highByte)
+{
+    std::string text;
+    text.reserve(bytes.size() / 2 * 3);
+    const auto unitAt = [&](std::size_t place) -> char32_t {
+        const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(bytes[place + index]); };
+        return static_cast<char32_t>(byte(highByte) << 8U | byte(1 - highByte));
+    };
+    for (std::size_t place = 0; place + 1 < bytes.size(); place += 2) {
+        char32_t code = unitAt(place);
+        const bool isHigh = code >= 0xD800 && code <= 0xDBFF && place + 3 < bytes.size();
+        const char32_t low = isHigh ? unitAt(place + 2) : 0;
+        if (low >= 0xDC00 && low <= 0xDFFF) {
+            code = 0x10000 + ((code - 0xD800) << 10U) + (low - 0xDC00);
+            place += 2;
+        }
+        appendUtf8(text, code);
+    }
+    return text;
+}
+
 } // namespace corvellane::rtf

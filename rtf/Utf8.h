@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -50,5 +51,11 @@ inline void appendUtf8(std::string& out, char32_t code)
 
 /// Whether what is above 0x7F in the bytes is UTF-8 (RFC 3629), two characters of it at least.
 bool isUtf8Text(std::string_view bytes);
+
+/// Which of the two bytes of a unit of UTF-16 is the high one, by the byte order mark before it; none without a mark.
+std::optional<std::size_t> highByteOfUtf16(std::string_view bytes);
+
+/// UTF-16 in that order of bytes as UTF-8; unpaired surrogates as U+FFFD.
+std::string fromUtf16(std::string_view bytes, std::size_t highByte);
 
 } // namespace corvellane::rtf

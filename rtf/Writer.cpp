@@ -11,7 +11,7 @@ namespace {
 constexpr int unicodePage = 65001;
 constexpr std::uint8_t deepestTable = 16;
 /// No language's text takes more bytes in UTF-8 for each of a code page's; pictographs of a font may.
-constexpr std::size_t mostGrowth = 3;
+constexpr std::size_t languageGrowth = 3;
 constexpr std::size_t freeGrowth = 65536;
 constexpr char32_t objectCharacter = 0xFFFC;
 constexpr Border noteRule{.style = LineStyle::solid, .width = 10, .space = 6, .isSaid = true, .color = {}};
@@ -23,7 +23,7 @@ Writer::Writer(std::string_view bytes, std::optional<bool> rawIsUnicode)
     , bytes_(bytes)
     , rawIsUnicode_(rawIsUnicode)
     , markerRoom_(bytes.size())
-    , mostText_((bytes.size() * mostGrowth) + freeGrowth)
+    , mostText_((bytes.size() * languageGrowth) + freeGrowth)
 {
 }
 

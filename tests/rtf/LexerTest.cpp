@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <vector>
@@ -30,7 +31,8 @@ std::string tokens(const std::string& rtf)
     Lexer lexer(group);
     std::string all;
     for (const Token* token = &lexer.next(); token->kind != Token::Kind::end; token = &lexer.next()) {
-        all.append("|").append(printed(*token));
+        const auto words = token->kind == Token::Kind::run ? lexer.run() : std::vector{*token};
+        std::ranges::for_each(words, [&](const Token& each) { all.append("|").append(printed(each)); });
     }
     all.resize(all.ends_with("|}") ? all.size() - 2 : all.size());
     return all.substr(all.empty() ? 0 : 1);
@@ -83,6 +85,29 @@ TEST(Lexer, cutsRtfIntoTokens)
         many += "\\'41";
     }
     EXPECT_EQ(tokens(many), "hex " + std::string(256, 'A') + "|hex " + std::string(44, 'A'));
+}
+
+TEST(Lexer, cutsARunThatItKnowsAsTheFirstTime)
+{
+    const std::vector<std::string> ends = {"", " ", "  ", "0", "0 ", "-", "-1", "-x", "\n", "\n1", "\n-1", "e", "\\i",
+        "\\i ", "{", "\xE9", "\\'e9", "\\~", "\\bin2 \\i", "\\pard", "\\cellx5", "\\tx5\\tx", "\t"};
+    for (const std::string begin : {"\\pard", "\\trowd\\b", "\\pard\\b\n\\i0\r\n\\b"}) {
+        for (const std::string& first : ends) {
+            for (const std::string& second : ends) {
+                const std::string before = tokens(begin + first);
+                EXPECT_EQ(tokens(begin + first + "{" + begin + second), before + "|{|" + tokens(begin + second));
+            }
+        }
+    }
+    std::string differing;
+    std::string cut;
+    for (std::size_t number = 0; number < 40; ++number) {
+        differing += "\\pard" + std::string(number, '\n') + "\\tx" + std::to_string(number) + "{";
+        cut += "|\\pard|\\tx=" + std::to_string(number) + "|{";
+    }
+    EXPECT_EQ("|" + tokens(differing + differing), cut + cut);
+    EXPECT_EQ(tokens("\\pard" + std::string(1000, '\n') + "\\" + std::string(9999, 'b')),
+        "\\pard|\\" + std::string(9999, 'b'));
 }
 
 TEST(Lexer, tellsATrailByteFromAControl)

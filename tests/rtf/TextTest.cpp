@@ -144,6 +144,47 @@ TEST(RtfText, takesNoRawByteForAnotherInTheNamesOfFonts)
     EXPECT_EQ(family("\x83\x7D"), "マ");
 }
 
+/// `part` again and again in RTF of at least two million bytes.
+std::string longFile(const std::string& begin, const std::string& part)
+{
+    std::string rtf = "{\\rtf1" + begin;
+    while (rtf.size() < 2'000'000) {
+        rtf += part;
+    }
+    return rtf + "}";
+}
+
+TEST(RtfText, readsTheSameWhileItGivesBackWhatIsRead)
+{
+    std::string utf16 = "\xFF\xFE";
+    for (const char byte : longFile(" ", "a")) {
+        utf16.append({byte, '\0'});
+    }
+    const std::string run = "\\pard\\tx720\\qc \xE1";
+    for (const std::string& rtf : {longFile("\\ansicpg932 ", "\xB1\x82\xA0"), longFile(" ", "\xE2\x82\xAC"),
+             longFile("\\ansicpg874 ", std::string(700, '\xA1') + run), utf16}) {
+        const auto text = readAway(rtf);
+        EXPECT_GT(text.value().text.size(), 1'000'000U);
+        EXPECT_EQ(text, read(rtf));
+    }
+}
+
+TEST(RtfText, keepsNoMoreThanTextNeeds)
+{
+    const std::string pictographs = longFile("{\\fonttbl{\\f0 Wingdings;}}\\f0 ", "0");
+    const std::size_t length = read(pictographs).value().text.size();
+    EXPECT_GT(length, pictographs.size() * 3);
+    EXPECT_LT(length, pictographs.size() * 3 + 1'000'000);
+
+    const std::string changing = longFile("", "{\\qr\\b\\\n}\\\n");
+    const AttributedText text = read(changing).value();
+    EXPECT_EQ(text.text, std::string(text.text.size(), '\n'));
+    EXPECT_EQ(text.text.size(), 2 * ((changing.size() - 7) / 11));
+    EXPECT_LT(text.runs.size(), changing.size() / 7);
+    EXPECT_LT(text.formatStretches.size(), changing.size() / 7);
+    EXPECT_EQ(text.paragraphs().size(), text.text.size());
+}
+
 TEST(RtfText, readsDeeplyNestedGroupsWithinASecond)
 {
     constexpr std::size_t depth = 1'000'000;
