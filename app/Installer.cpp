@@ -1,6 +1,7 @@
 #include "app/Installer.h"
 
 #include "app/AppDelegate.h"
+#include "app/DesktopName.h"
 #include "app/WaitingWindow.h"
 #include "app/WindowIcon.h"
 #include "platform/Resources.h"
@@ -30,6 +31,7 @@ Installer::Installer(DesktopSystem system, const std::string& translations)
     , translations_(translations, QLocale::system().uiLanguages())
     , scene_(system_.platform())
 {
+    nameForDesktop(*system_.resources, *system_.files);
     AppDelegate::applicationDidFinishLaunching(*system_.application);
     showIcon(window());
     showWaits(*system_.qtDispatcher, window());

@@ -5,7 +5,6 @@
 int main(int count, char** arguments)
 {
     corvellane::setUpProcess();
-    QGuiApplication::setDesktopFileName("com.corvellane.PluginInstaller");
     const QApplication platform = corvellane::applicationOnDisplay(count, arguments);
     corvellane::view::ViewHost::prepareApplication();
     return corvellane::Installer().run();

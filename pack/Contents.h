@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <string>
 
@@ -16,6 +15,9 @@ struct Item {
     std::string from;
     bool executable = false;
 };
+
+/// The bytes of a file or of a text; nothing else has any. Throws std::filesystem::filesystem_error.
+std::uintmax_t sizeOf(const Item& item);
 
 /// What a package holds by its paths, which are relative and in the order in which they are packed. Everybody can read
 /// all of it, and it belongs to root alone, whatever the modes and owners of the files here.
@@ -38,18 +40,5 @@ private:
 
     std::map<std::string, Item> items_;
 };
-
-/// Packs the contents at `file` as a tar archive, compressed with zstd by all processors; `below` stands in front of
-/// every path. All times are `epoch`, in seconds since 1970: the same contents give the same bytes. `packed` is told
-/// the bytes that have been packed so far. Throws std::runtime_error.
-void writeArchive(const std::string& file, const Contents& contents, const std::string& below, std::int64_t epoch,
-    const std::function<void(std::uintmax_t)>& packed);
-
-/// A Debian package (deb(5)) of archives that were written before: "control.tar.zst" and "data.tar.zst". Throws.
-void writeDebianPackage(
-    const std::string& file, const std::string& control, const std::string& data, std::int64_t epoch);
-
-/// The text as a gzip file without name and time in it.
-std::string gzipped(const std::string& text);
 
 } // namespace corvellane::pack

@@ -1,11 +1,10 @@
 #include "pack/Installer.h"
 
+#include "pack/Reading.h"
+#include "pack/Starter.h"
 #include "pack/Templates.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <stdexcept>
 
 namespace corvellane::pack {
 namespace {
@@ -13,12 +12,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr auto identifierOfSamples = "com.corvellane.PluginInstaller";
-
-std::string lineOf(const std::string& file)
-{
-    std::string text = textOf(file);
-    return text.substr(0, text.find('\n'));
-}
 
 std::string base64(const std::string& bytes)
 {
@@ -47,11 +40,14 @@ std::string logoOf(const std::string& maker)
         + base64(textOf(maker + "/Logo.png")) + "\"/></svg>\n";
 }
 
-void addResources(Contents& contents, const std::string& path, const std::string& maker)
+void addResources(Contents& contents, const std::string& path, const Ingredients& ingredients)
 {
+    const std::string& maker = ingredients.maker;
     contents.addTree(path + "/Products", maker + "/Products");
     contents.addFile(path + "/CorvellaneEULA.rtf", maker + "/CorvellaneEULA.rtf");
     contents.addText(path + "/Logo.svg", logoOf(maker));
+    // What the wizard's window is called by, so that the desktop finds its entry and its icon.
+    contents.addText(path + "/Identifier.txt", ingredients.description.identifier + "\n");
 }
 
 /// The folders for links to elements, as the host applications would make them.
@@ -62,37 +58,27 @@ void addHostFolders(Contents& contents)
     }
 }
 
-std::string changelogOf(const Ingredients& ingredients)
+/// Beside the file to click.
+std::string readMeOf(const Ingredients& ingredients)
 {
     const Description& description = ingredients.description;
-    std::string notes = description.notes;
-    for (std::size_t end = notes.find('\n'); end != std::string::npos; end = notes.find('\n', end + 1)) {
-        notes.insert(end + 1, "    ");
-    }
-    return description.packageName() + " (" + description.version + ") stable; urgency=medium\n\n  * " + notes
-        + "\n\n -- " + description.contact + "  " + longDateOf(ingredients.epoch) + "\n";
+    const std::string folder = "/opt/" + description.packageName();
+    return description.name + " " + description.version + "\n\nOpen “" + starterName
+        + "” to install the plug-ins, or run it in a terminal. It asks once for an administrator's\npassword, copies"
+          " this folder to "
+        + folder
+        + ", where only the administrator can change\nit, and opens the installer from there. Where the administrator"
+          " has unpacked this folder, it opens\nthe installer at once.\n\n    ./"
+        + starterName + " --check     tells whether this folder is as it was made\n    ./" + starterName
+        + " --remove    removes " + folder + "; plug-ins that were installed stay\n\nWhat is new: "
+        + indented(description.notes, "  ") + "\n\n" + description.homepage + "\n" + description.contact + "\n";
 }
 
 } // namespace
 
-std::string textOf(const std::string& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    std::string text{std::istreambuf_iterator<char>(stream), {}};
-    if (!stream) {
-        throw std::runtime_error("“" + file + "” cannot be read");
-    }
-    return text;
-}
-
 std::string machineOf(const std::string& kit)
 {
     return lineOf(kit + "/architecture");
-}
-
-std::string debianMachineOf(const std::string& kit)
-{
-    return lineOf(kit + "/debian/architecture");
 }
 
 std::vector<std::string> whatIsMissing(const std::string& maker)
@@ -116,19 +102,18 @@ Contents bundleOf(const Ingredients& ingredients)
     for (const fs::directory_entry& entry : fs::directory_iterator(ingredients.kit + "/bundle")) {
         contents.addTree(entry.path().filename().native(), entry.path().native());
     }
-    addResources(contents, "Resources", ingredients.maker);
+    addResources(contents, "Resources", ingredients);
+    contents.addText("ReadMe.txt", readMeOf(ingredients));
     return contents;
 }
 
-Contents debianFilesOf(const Ingredients& ingredients)
+Contents systemFilesOf(const Ingredients& ingredients)
 {
     const Description& description = ingredients.description;
-    const std::string package = description.packageName();
-    const std::string programs = "usr/lib/" + package;
-    const std::string documents = "usr/share/doc/" + package;
+    const std::string programs = "usr/lib/" + description.packageName();
     Contents contents;
     contents.addTree(programs, ingredients.kit + "/system");
-    addResources(contents, programs + "/Resources", ingredients.maker);
+    addResources(contents, programs + "/Resources", ingredients);
     addHostFolders(contents);
     const auto addDesktopText = [&](const std::string& folder, const std::string& ending, Quoting quoting) {
         const std::string sample = textOf(ingredients.kit + "/desktop/" + identifierOfSamples + ending);
@@ -140,49 +125,29 @@ Contents debianFilesOf(const Ingredients& ingredients)
     addDesktopText("polkit-1/actions", ".policy", Quoting::xml);
     contents.addFile("usr/share/icons/hicolor/scalable/apps/" + description.identifier + ".svg",
         ingredients.kit + "/desktop/" + identifierOfSamples + ".svg");
-    contents.addFile(documents + "/copyright", ingredients.kit + "/copyright");
-    contents.addText(documents + "/changelog.gz", gzipped(changelogOf(ingredients)));
-    contents.addText("usr/share/lintian/overrides/" + package,
-        "# The plug-ins' hosts look for them in these folders.\n" + package
-            + ": non-standard-toplevel-dir [Library/]\n");
     return contents;
 }
 
-Contents debianControlOf(const Ingredients& ingredients, const Contents& files)
+std::string summaryOf(const Description& description)
 {
-    const Description& description = ingredients.description;
-    Contents contents;
-    contents.addText("control",
-        "Package: " + description.packageName() + "\nVersion: " + description.version + "\nArchitecture: "
-            + debianMachineOf(ingredients.kit) + "\nMaintainer: " + description.contact + "\nInstalled-Size: "
-            + std::to_string(files.size() / 1024 + 1) + "\nDepends: " + textOf(ingredients.kit + "/debian/depends")
-            + "\nRecommends: fonts-liberation, polkit-1-auth-agent, qt6-wayland\nSection: graphics\nPriority: optional"
-            + "\nHomepage: " + description.homepage + "\nDescription: wizard that installs plug-ins of "
-            + description.publisher + "\n " + description.name
-            + " shows the licence agreement, lets people choose\n the products, asks once for an administrator's"
-              " password and shows the full log\n when something goes wrong.\n");
-    return contents;
+    return "wizard that installs plug-ins of " + description.publisher;
 }
 
-std::string starterOf(const Ingredients& ingredients, const std::string& checksum,
-    const std::function<std::string(const std::string&)>& checksumOf)
+std::string inWords(const Description& description)
 {
-    const Description& description = ingredients.description;
-    std::string starter = textOf(ingredients.kit + "/starter");
-    const auto put = [&starter](const std::string& place, const std::string& text) {
-        starter.replace(starter.find(place), place.size(), text);
-    };
-    put("@TITLE@", description.name + " " + description.version);
-    put("@NAME@", quoted(description.name, Quoting::shell));
-    put("@PACKAGE@", quoted(description.packageName(), Quoting::shell));
-    put("@VERSION@", quoted(description.version, Quoting::shell));
-    put("@ARCHIVE@", checksum);
-    // As many digits as the place has, so that the length stays; the checksum stands where it is not counted.
-    const std::string ownChecksum(64, ' ');
-    const std::string length = std::to_string(starter.size() + ownChecksum.size());
-    put("length=0000000", "length=" + length + std::string(7 - length.size(), ' '));
-    put("starter=''", "starter='" + checksumOf(starter) + "'");
-    return starter;
+    return description.name
+        + " shows the licence agreement, lets people choose\nthe products, asks once for an administrator's password "
+          "and"
+          " shows the full log\nwhen something goes wrong.\n";
+}
+
+std::string indented(std::string text, const std::string& indent)
+{
+    for (std::size_t end = text.find('\n'); end != std::string::npos && end + 1 < text.size();
+        end = text.find('\n', end + 1)) {
+        text.insert(end + 1, indent);
+    }
+    return text;
 }
 
 } // namespace corvellane::pack

@@ -4,7 +4,6 @@
 #include "pack/Description.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -24,23 +23,22 @@ struct Ingredients {
 /// The files that the maker's folder lacks, in words; empty when it has everything.
 std::vector<std::string> whatIsMissing(const std::string& maker);
 
-/// The whole text of a file. Throws std::runtime_error.
-std::string textOf(const std::string& file);
-
 /// A folder to unpack anywhere, with the libraries it needs.
 Contents bundleOf(const Ingredients& ingredients);
 
-/// What the Debian package installs, and what it says of itself.
-Contents debianFilesOf(const Ingredients& ingredients);
-Contents debianControlOf(const Ingredients& ingredients, const Contents& files);
+/// What a package installs on a system that has the libraries, whatever the kind of package.
+Contents systemFilesOf(const Ingredients& ingredients);
 
-/// The program in front of the archive of a ".run" file; `checksum` is the archive's SHA-256 in hexadecimal. Its own
-/// checksum is given by `checksumOf`, the SHA-256 of a text.
-std::string starterOf(const Ingredients& ingredients, const std::string& checksum,
-    const std::function<std::string(const std::string&)>& checksumOf);
+/// What the installer is, in a few words.
+std::string summaryOf(const Description& description);
 
-/// The machine that the programs run on, as its kernel and as Debian calls it.
+/// What it does, in lines that end with a line feed.
+std::string inWords(const Description& description);
+
+/// The text with `indent` in front of every line but the first.
+std::string indented(std::string text, const std::string& indent);
+
+/// The machine that the programs run on, as its kernel calls it.
 std::string machineOf(const std::string& kit);
-std::string debianMachineOf(const std::string& kit);
 
 } // namespace corvellane::pack

@@ -74,6 +74,11 @@ std::string dateOf(std::int64_t epoch)
     return formatted(epoch, "%Y-%m-%d");
 }
 
+std::string rpmDateOf(std::int64_t epoch)
+{
+    return formatted(epoch, "%a %b %d %Y");
+}
+
 std::string longDateOf(std::int64_t epoch)
 {
     return formatted(epoch, "%a, %d %b %Y %H:%M:%S +0000");

@@ -17,8 +17,9 @@ std::string quoted(const std::string& text, Quoting quoting);
 /// homepage and version, and the place of its programs. The date is that of `epoch`, in seconds since 1970.
 std::string retold(const std::string& sample, const Description& description, std::int64_t epoch, Quoting quoting);
 
-/// "2026-11-24", and "Tue, 24 Nov 2026 02:33:07 +0000"; in UTC.
+/// "2026-11-24", "Tue Nov 24 2026", and "Tue, 24 Nov 2026 02:33:07 +0000"; in UTC.
 std::string dateOf(std::int64_t epoch);
+std::string rpmDateOf(std::int64_t epoch);
 std::string longDateOf(std::int64_t epoch);
 
 } // namespace corvellane::pack

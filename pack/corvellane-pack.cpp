@@ -3,15 +3,14 @@
 // then nothing has been made.
 
 #include "helper/Program.h"
-#include "pack/Installer.h"
+#include "pack/Maker.h"
+#include "pack/Reading.h"
 #include "tools/CommandLine.h"
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <stdexcept>
 
 namespace corvellane::pack {
@@ -38,209 +37,14 @@ void addOptions(CLI::App& program, Options& options)
     program.add_option("--output", options.output, "Where the installers go")->required()->transform(asPath(program));
     program.add_option("--version", options.version, "Instead of the version in installer.toml")
         ->transform(asValue(program));
-    program.add_option("--format", options.formats, "What to make: deb, run, tar.zst, with commas between them")
+    program.add_option("--format", options.formats, "What to make: deb, rpm, run, tar.zst, with commas between them")
         ->delimiter(',')
-        ->check(CLI::IsMember({"deb", "run", "tar.zst"}));
+        ->check(CLI::IsMember({"deb", "rpm", "run", "tar.zst"}));
     program.add_option("--sign", options.key, "Sign the list of checksums with this key of gpg's")
         ->transform(asValue(program));
     program.add_flag("--strict", options.strict, "Let a warning of the rehearsal be an error");
     program.footer("Example:\n  corvellane-pack examples/installer --output made\n  apt install ./made/*.deb");
 }
-
-// Other programs
-
-std::string pathOf(const std::string& program)
-{
-    const char* const path = std::getenv("PATH");
-    std::string folders = path != nullptr ? path : "/usr/bin:/bin";
-    for (std::size_t begin = 0; begin <= folders.size();) {
-        const std::size_t end = std::min(folders.find(':', begin), folders.size());
-        const std::string candidate = folders.substr(begin, end - begin) + "/" + program;
-        if (fs::is_regular_file(candidate)) {
-            return candidate;
-        }
-        begin = end + 1;
-    }
-    throw std::runtime_error("the program " + program + " is missing; install it");
-}
-
-runner::Reply run(std::vector<std::string> words)
-{
-    const std::string path = words.front().starts_with('/') ? words.front() : pathOf(words.front());
-    const char* const home = std::getenv("HOME");
-    return runner::runProgram(path, words,
-        {"PATH=/usr/bin:/bin", "LC_ALL=C.UTF-8", std::string("HOME=") + (home != nullptr ? home : "/")}, words.front());
-}
-
-std::string outputOf(const std::vector<std::string>& words)
-{
-    const runner::Reply reply = run(words);
-    if (reply.status != 0) {
-        throw std::runtime_error(words.front() + ": " + reply.errors);
-    }
-    return reply.output;
-}
-
-std::string checksumOfFile(const std::string& file)
-{
-    constexpr std::size_t digits = 64;
-    return outputOf({"sha256sum", "-z", file}).substr(0, digits);
-}
-
-// Steps
-
-/// Folders go with all that is in them at the end.
-class Workshop {
-public:
-    explicit Workshop(const std::string& output)
-    {
-        fs::create_directories(output);
-        path_ = output + "/.making";
-        fs::remove_all(path_);
-        fs::create_directory(path_);
-    }
-    Workshop(const Workshop&) = delete;
-    Workshop& operator=(const Workshop&) = delete;
-    ~Workshop()
-    {
-        std::error_code error;
-        fs::remove_all(path_, error);
-    }
-
-    std::string operator/(const std::string& name) const { return path_ + "/" + name; }
-
-private:
-    std::string path_;
-};
-
-/// How far it is, on a terminal, when it takes longer than a second.
-class Progress {
-public:
-    Progress(std::string what, std::uintmax_t all)
-        : what_(std::move(what))
-        , all_(std::max<std::uintmax_t>(all, 1))
-    {
-    }
-    Progress(const Progress&) = delete;
-    Progress& operator=(const Progress&) = delete;
-    ~Progress()
-    {
-        if (percent_ >= 0) {
-            std::fputs("\r\33[K", stderr);
-        }
-    }
-
-    void operator()(std::uintmax_t done)
-    {
-        const int percent = static_cast<int>(done * 100 / all_);
-        const bool isDue = std::chrono::steady_clock::now() - begin_ > std::chrono::seconds(1);
-        if (isDue && percent != percent_ && fs::is_character_file("/proc/self/fd/2")) {
-            percent_ = percent;
-            std::fprintf(stderr, "\r%s: %d %%", what_.c_str(), percent);
-        }
-    }
-
-private:
-    std::string what_;
-    std::uintmax_t all_;
-    int percent_ = -1;
-    std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
-};
-
-void pack(const std::string& file, const Contents& contents, const std::string& below, std::int64_t epoch)
-{
-    Progress progress(fs::path(file).filename().native(), contents.size());
-    writeArchive(file, contents, below, epoch, [&](std::uintmax_t done) { progress(done); });
-}
-
-/// The names of what was made in the workshop.
-class Maker {
-public:
-    Maker(const Ingredients& ingredients, const Workshop& workshop)
-        : ingredients_(ingredients)
-        , workshop_(workshop)
-        , base_(ingredients.description.packageName() + "-" + ingredients.description.version + "-"
-              + machineOf(ingredients.kit))
-    {
-    }
-
-    void make(const std::vector<std::string>& formats)
-    {
-        const auto wants = [&](const char* format) { return std::ranges::count(formats, format) > 0; };
-        if (wants("deb")) {
-            makeDebianPackage();
-        }
-        if (wants("run") || wants("tar.zst")) {
-            makeArchives(wants("run"), wants("tar.zst"));
-        }
-    }
-
-    /// With the list of their checksums, and its signature where there is a key.
-    void finish(const std::string& key)
-    {
-        std::string sums;
-        std::ranges::sort(made_);
-        for (const std::string& name : made_) {
-            sums += checksumOfFile(workshop_ / name) + "  " + name + "\n";
-        }
-        std::ofstream(workshop_ / "SHA256SUMS") << sums;
-        made_.emplace_back("SHA256SUMS");
-        if (!key.empty()) {
-            outputOf(
-                {"gpg", "--batch", "--yes", "--armor", "--local-user", key, "--detach-sign", workshop_ / "SHA256SUMS"});
-            made_.emplace_back("SHA256SUMS.asc");
-        }
-    }
-
-    const std::vector<std::string>& made() const { return made_; }
-
-private:
-    void makeDebianPackage()
-    {
-        const Description& description = ingredients_.description;
-        const Contents files = debianFilesOf(ingredients_);
-        const std::string data = workshop_ / "data.tar.zst";
-        const std::string control = workshop_ / "control.tar.zst";
-        pack(data, files, "./", ingredients_.epoch);
-        pack(control, debianControlOf(ingredients_, files), "./", ingredients_.epoch);
-        made_.push_back(
-            description.packageName() + "_" + description.version + "_" + debianMachineOf(ingredients_.kit) + ".deb");
-        writeDebianPackage(workshop_ / made_.back(), control, data, ingredients_.epoch);
-    }
-
-    void makeArchives(bool starts, bool unpacks)
-    {
-        const std::string archive = workshop_ / (base_ + ".tar.zst");
-        pack(archive, bundleOf(ingredients_), base_ + "/", ingredients_.epoch);
-        if (starts) {
-            makeStarter(archive);
-        }
-        if (unpacks) {
-            made_.push_back(base_ + ".tar.zst");
-        }
-    }
-
-    void makeStarter(const std::string& archive)
-    {
-        const std::string scratch = workshop_ / "starter";
-        const auto checksumOf = [&](const std::string& text) {
-            std::ofstream(scratch, std::ios::binary) << text;
-            return checksumOfFile(scratch);
-        };
-        made_.push_back(base_ + ".run");
-        const std::string file = workshop_ / made_.back();
-        std::ofstream(file, std::ios::binary) << starterOf(ingredients_, checksumOfFile(archive), checksumOf)
-                                              << std::ifstream(archive, std::ios::binary).rdbuf();
-        fs::permissions(file,
-            fs::perms::owner_all | fs::perms::group_read | fs::perms::group_exec | fs::perms::others_read
-                | fs::perms::others_exec);
-    }
-
-    const Ingredients& ingredients_;
-    const Workshop& workshop_;
-    std::string base_;
-    std::vector<std::string> made_;
-};
 
 // What is asked for
 
@@ -302,7 +106,7 @@ bool isRehearsed(const Options& options)
     if (options.strict) {
         words.emplace_back("--strict");
     }
-    const runner::Reply reply = run(words);
+    const runner::Reply reply = runner::runProgram(words.front(), words, {"LC_ALL=C.UTF-8"}, words.front());
     if (reply.status != 0) {
         std::fputs((reply.output + reply.errors).c_str(), stderr);
         tell({"nothing is made: the rehearsal found errors in the folder"});
@@ -320,14 +124,8 @@ int make(const Options& options)
     if (!isRehearsed(options)) {
         return notMade;
     }
-    pathOf("zstd");
-    const Workshop workshop(options.output);
-    Maker maker(ingredients, workshop);
-    maker.make(options.formats);
-    maker.finish(options.key);
-    for (const std::string& name : maker.made()) {
-        fs::rename(workshop / name, options.output + "/" + name);
-        std::printf("%s/%s\n", options.output.c_str(), name.c_str());
+    for (const std::string& file : makeInstallers(ingredients, options.formats, options.output, options.key)) {
+        std::printf("%s\n", file.c_str());
     }
     return 0;
 }

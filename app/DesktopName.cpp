@@ -1,0 +1,30 @@
+#include "app/DesktopName.h"
+
+#include "platform/Files.h"
+#include "platform/Resources.h"
+
+#include <QGuiApplication>
+
+namespace corvellane {
+namespace {
+
+QString identifier(const Resources& resources, const Files& files)
+{
+    constexpr std::size_t longest = 1024;
+    const auto path = resources.file("Identifier", "txt");
+    const auto text = path ? files.read(*path, longest) : Expected<std::string>("");
+    const QString name = QString::fromStdString(text.value_or("")).trimmed();
+    return name.isEmpty() ? QStringLiteral("com.corvellane.PluginInstaller") : name;
+}
+
+} // namespace
+
+void nameForDesktop(const Resources& resources, const Files& files)
+{
+    const QString name = identifier(resources, files);
+    QGuiApplication::setDesktopFileName(name);
+    // On X11, windows of one class belong together.
+    QGuiApplication::setApplicationName(name);
+}
+
+} // namespace corvellane

@@ -1,0 +1,258 @@
+#include "pack/Maker.h"
+
+#include "pack/Checksum.h"
+#include "pack/DebianPackage.h"
+#include "pack/Output.h"
+#include "pack/Programs.h"
+#include "pack/Progress.h"
+#include "pack/Reading.h"
+#include "pack/RpmPackage.h"
+#include "pack/Starter.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <future>
+#include <map>
+#include <utility>
+
+namespace corvellane::pack {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A folder that goes with all that is in it at the end.
+class Workshop {
+public:
+    explicit Workshop(const std::string& output)
+        : path_(output + "/.making")
+    {
+        fs::create_directories(output);
+        fs::remove_all(path_);
+        fs::create_directory(path_);
+    }
+    Workshop(const Workshop&) = delete;
+    Workshop& operator=(const Workshop&) = delete;
+    ~Workshop()
+    {
+        std::error_code error;
+        fs::remove_all(path_, error);
+    }
+
+    std::string operator/(const std::string& name) const { return path_ + "/" + name; }
+
+private:
+    std::string path_;
+};
+
+bool isIn(const Formats& formats, const char* format)
+{
+    return std::ranges::count(formats, format) > 0;
+}
+
+/// What the formats that are asked for hold.
+struct Holdings {
+    Contents bundle;
+    Contents debian;
+    Contents rpm;
+};
+
+Holdings holdingsOf(const Ingredients& ingredients, const Formats& formats)
+{
+    const bool isBundled = isIn(formats, "run") || isIn(formats, "tar.zst");
+    return {isBundled ? bundleOf(ingredients) : Contents(),
+        isIn(formats, "deb") ? debianFilesOf(ingredients) : Contents(),
+        isIn(formats, "rpm") ? rpmFilesOf(ingredients) : Contents()};
+}
+
+/// Makes one file after the other in the workshop.
+class Maker {
+public:
+    Maker(const Ingredients& ingredients, const Formats& formats, const Holdings& holdings, const Workshop& workshop)
+        : ingredients_(ingredients)
+        , formats_(formats)
+        , holdings_(holdings)
+        , workshop_(workshop)
+        , progress_(holdings.bundle.size() + holdings.debian.size() + holdings.rpm.size())
+    {
+    }
+
+    /// Gives the names of all that was made.
+    std::vector<std::string> make(const std::string& key)
+    {
+        if (isIn(formats_, "deb")) {
+            makeDebianPackage();
+        }
+        if (isIn(formats_, "rpm")) {
+            makeRpm();
+        }
+        if (isIn(formats_, "run")) {
+            makeRunFile();
+        } else if (isIn(formats_, "tar.zst")) {
+            makeArchiveFile();
+        }
+        return listed(key);
+    }
+
+private:
+    /// The names of what was made, with the list of their checksums and its signature where there is a key.
+    std::vector<std::string> listed(const std::string& key)
+    {
+        progress_.begin("SHA256SUMS");
+        std::vector<std::string> names;
+        std::string sums;
+        for (auto& [name, checksum] : made_) {
+            sums += checksum.get() + "  " + name + "\n";
+            names.push_back(name);
+        }
+        writeText(workshop_ / "SHA256SUMS", sums);
+        names.emplace_back("SHA256SUMS");
+        if (!key.empty()) {
+            outputOf({pathOf("gpg", "gpg"), "--batch", "--yes", "--armor", "--local-user", key, "--detach-sign",
+                workshop_ / "SHA256SUMS"});
+            names.emplace_back("SHA256SUMS.asc");
+        }
+        return names;
+    }
+
+    Bytes counted()
+    {
+        return [this](std::string_view bytes) { progress_.add(bytes.size()); };
+    }
+
+    /// Its checksum is worked out while the next file is made.
+    void add(const std::string& name)
+    {
+        made_.emplace(name, std::async([file = workshop_ / name] { return checksumOfFile(file); }));
+    }
+
+    void makeDebianPackage()
+    {
+        const std::string name = debianNameOf(ingredients_);
+        progress_.begin(name);
+        Output output(workshop_ / name);
+        writeDebianPackage(output, ingredients_, holdings_.debian, counted());
+        output.close();
+        add(name);
+    }
+
+    void makeRpm()
+    {
+        const std::string name = rpmNameOf(ingredients_);
+        progress_.begin(name);
+        const std::string folder = workshop_ / "rpm";
+        fs::create_directory(folder);
+        auto package
+            = std::async(std::launch::async, [&] { return makeRpmPackage(ingredients_, holdings_.rpm, folder); });
+        while (package.wait_for(std::chrono::milliseconds(100)) != std::future_status::ready) {
+            progress_.show();
+        }
+        fs::rename(package.get(), workshop_ / name);
+        progress_.add(holdings_.rpm.size());
+        add(name);
+    }
+
+    std::string nameOfArchive() const
+    {
+        return ingredients_.description.packageName() + "-" + ingredients_.description.version + "-"
+            + machineOf(ingredients_.kit);
+    }
+
+    /// The archive of the ".tar.zst" file behind the program that unpacks it.
+    void makeRunFile()
+    {
+        const std::string name = nameOfArchive() + ".run";
+        progress_.begin(name);
+        Output output(workshop_ / name);
+        const std::string starter = starterOf(ingredients_, Payload::archive, std::string(64, '0'));
+        output.write(starter);
+        const std::string checksum = writeBundle(output);
+        output.overwrite(0, starterOf(ingredients_, Payload::archive, checksum));
+        output.close();
+        fs::permissions(workshop_ / name, static_cast<fs::perms>(0755));
+        add(name);
+        if (isIn(formats_, "tar.zst")) {
+            Output archive(workshop_ / (nameOfArchive() + ".tar.zst"));
+            readFile(
+                workshop_ / name, [&](std::string_view bytes) { archive.write(bytes); },
+                static_cast<std::streamoff>(starter.size()));
+            archive.close();
+            addChecked(nameOfArchive() + ".tar.zst", checksum);
+        }
+    }
+
+    void makeArchiveFile()
+    {
+        const std::string name = nameOfArchive() + ".tar.zst";
+        progress_.begin(name);
+        Output output(workshop_ / name);
+        const std::string checksum = writeBundle(output);
+        output.close();
+        addChecked(name, checksum);
+    }
+
+    void addChecked(const std::string& name, const std::string& checksum)
+    {
+        made_.emplace(name, std::async(std::launch::deferred, [checksum] { return checksum; }));
+    }
+
+    /// With the starter, which carries the sum of all else. Gives the archive's checksum.
+    std::string writeBundle(Output& output)
+    {
+        ChecksumBeside ofArchive;
+        const auto take = [&](std::string_view bytes) {
+            ofArchive.add(bytes);
+            output.write(bytes);
+        };
+        Archive archive(take, ingredients_.epoch);
+        FolderSum sum;
+        for (const auto& [path, item] : holdings_.bundle.items()) {
+            Checksum ofFile;
+            archive.add(nameOfArchive() + "/" + path, item, [&](std::string_view bytes) {
+                ofFile.add(bytes);
+                progress_.add(bytes.size());
+            });
+            sum.add(path, item, ofFile.take());
+        }
+        const std::string starter = starterOf(ingredients_, Payload::folder, sum.hexadecimal());
+        archive.add(nameOfArchive() + "/" + starterName, {Item::Kind::text, starter, true}, counted());
+        archive.close();
+        return ofArchive.take();
+    }
+
+    const Ingredients& ingredients_;
+    const Formats& formats_;
+    const Holdings& holdings_;
+    const Workshop& workshop_;
+    Progress progress_;
+    /// Their names and checksums.
+    std::map<std::string, std::future<std::string>> made_;
+};
+
+/// Before anything is made.
+void findTools(const Formats& formats, const std::string& key)
+{
+    if (isIn(formats, "rpm")) {
+        pathOf("rpmbuild", "rpm");
+    }
+    if (!key.empty()) {
+        pathOf("gpg", "gpg");
+    }
+}
+
+} // namespace
+
+std::vector<std::string> makeInstallers(
+    const Ingredients& ingredients, const Formats& formats, const std::string& output, const std::string& key)
+{
+    findTools(formats, key);
+    const Holdings holdings = holdingsOf(ingredients, formats);
+    const Workshop workshop(output);
+    std::vector<std::string> made = Maker(ingredients, formats, holdings, workshop).make(key);
+    for (std::string& name : made) {
+        fs::rename(workshop / name, output + "/" + name);
+        name = (output + "/").append(name);
+    }
+    return made;
+}
+
+} // namespace corvellane::pack

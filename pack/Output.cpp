@@ -1,0 +1,50 @@
+#include "pack/Output.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace corvellane::pack {
+
+Output::Output(std::string file)
+    : file_(std::move(file))
+    , stream_(file_, std::ios::binary | std::ios::trunc)
+{
+    mustBeWell();
+}
+
+void Output::write(std::string_view bytes)
+{
+    stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    size_ += bytes.size();
+    mustBeWell();
+}
+
+void Output::overwrite(std::uintmax_t at, std::string_view bytes)
+{
+    stream_.seekp(static_cast<std::streamoff>(at));
+    stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    stream_.seekp(0, std::ios::end);
+    mustBeWell();
+}
+
+void Output::close()
+{
+    stream_.close();
+    mustBeWell();
+}
+
+void Output::mustBeWell() const
+{
+    if (!stream_) {
+        throw std::runtime_error("“" + file_ + "” cannot be written");
+    }
+}
+
+void writeText(const std::string& file, const std::string& text)
+{
+    Output output(file);
+    output.write(text);
+    output.close();
+}
+
+} // namespace corvellane::pack

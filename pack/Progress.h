@@ -1,0 +1,32 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+
+namespace corvellane::pack {
+
+/// How far it is: a line on standard error, where that is a terminal and it takes longer than a second. The line is
+/// gone at the end.
+class Progress {
+public:
+    /// In bytes, of everything.
+    explicit Progress(std::uintmax_t all);
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+    ~Progress();
+
+    void begin(const std::string& what);
+    void add(std::uintmax_t bytes);
+    /// Shows it, where it is time to; for what has no bytes to tell of.
+    void show();
+
+private:
+    std::uintmax_t all_;
+    std::uintmax_t done_ = 0;
+    std::string what_;
+    std::string shown_;
+    std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
+};
+
+} // namespace corvellane::pack

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace corvellane::pack {
+
+/// Gives the bytes of a file one after the other, from `begin` on. Throws std::runtime_error where it cannot be read.
+void readFile(const std::string& file, const std::function<void(std::string_view)>& take, std::streamoff begin = 0);
+
+/// The whole text of a file. Throws std::runtime_error.
+std::string textOf(const std::string& file);
+
+/// Its first line, without the line feed. Throws std::runtime_error.
+std::string lineOf(const std::string& file);
+
+} // namespace corvellane::pack
