@@ -1,7 +1,5 @@
 #include "pack/Archive.h"
 
-#include "pack/Reading.h"
-
 #include <archive.h>
 #include <archive_entry.h>
 
@@ -75,19 +73,19 @@ Archive::Archive(Bytes take, std::int64_t epoch)
     must(archive_.get(), archive_write_open(archive_.get(), &take_, nullptr, give, nullptr));
 }
 
-void Archive::add(const std::string& path, const Item& item, const Bytes& seen)
+void Archive::add(const std::string& path, const Item& item, const Blocks& seen)
 {
     // It warns of names that are no text here, and packs them as they are.
     must(archive_.get(), archive_write_header(archive_.get(), entryOf(path, item, epoch_).get()) >= ARCHIVE_WARN);
-    const auto write = [&](std::string_view bytes) {
-        const la_ssize_t written = archive_write_data(archive_.get(), bytes.data(), bytes.size());
-        must(archive_.get(), written == static_cast<la_ssize_t>(bytes.size()));
+    const auto write = [&](const Block& bytes) {
+        const la_ssize_t written = archive_write_data(archive_.get(), bytes->data(), bytes->size());
+        must(archive_.get(), written == static_cast<la_ssize_t>(bytes->size()));
         seen(bytes);
     };
     if (item.kind == Item::Kind::file) {
         readFile(item.from, write);
     } else if (item.kind == Item::Kind::text) {
-        write(item.from);
+        write(std::make_shared<std::string>(item.from));
     }
     must(archive_.get(), archive_write_finish_entry(archive_.get()));
 }
@@ -98,7 +96,7 @@ void Archive::close()
 }
 
 void writeArchive(
-    const Bytes& take, const Contents& contents, const std::string& below, std::int64_t epoch, const Bytes& seen)
+    const Bytes& take, const Contents& contents, const std::string& below, std::int64_t epoch, const Blocks& seen)
 {
     Archive archive(take, epoch);
     for (const auto& [path, item] : contents.items()) {

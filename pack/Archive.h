@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pack/Contents.h"
+#include "pack/Reading.h"
 
 #include <cstdint>
 #include <functional>
@@ -14,6 +15,7 @@ namespace corvellane::pack {
 
 /// Takes bytes that come one after the other.
 using Bytes = std::function<void(std::string_view)>;
+using Blocks = std::function<void(const Block&)>;
 
 /// A tar archive, compressed with zstd by all processors. Everything in it is root's and readable by everybody, and has
 /// the same time: the same items give the same bytes. Everything throws std::runtime_error where that fails.
@@ -26,7 +28,7 @@ public:
     ~Archive() = default;
 
     /// `seen` is given the bytes of a file as they are packed.
-    void add(const std::string& path, const Item& item, const Bytes& seen);
+    void add(const std::string& path, const Item& item, const Blocks& seen);
     void close();
 
 private:
@@ -37,7 +39,7 @@ private:
 
 /// An archive of all contents; `below` stands in front of every path.
 void writeArchive(
-    const Bytes& take, const Contents& contents, const std::string& below, std::int64_t epoch, const Bytes& seen);
+    const Bytes& take, const Contents& contents, const std::string& below, std::int64_t epoch, const Blocks& seen);
 
 /// The text as a gzip file without name and time in it.
 std::string gzipped(const std::string& text);

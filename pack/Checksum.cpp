@@ -1,7 +1,5 @@
 #include "pack/Checksum.h"
 
-#include "pack/Reading.h"
-
 #include <array>
 #include <cstdint>
 #include <utility>
@@ -30,30 +28,20 @@ std::string Checksum::take()
     return digits;
 }
 
-void ChecksumBeside::add(std::string_view bytes)
+void ChecksumBeside::add(Block bytes)
 {
-    constexpr std::size_t enough = std::size_t{2} << 20U;
-    coming_ += bytes;
-    if (coming_.size() >= enough) {
-        startWork();
-    }
+    room_.acquire();
+    worker_.submit([this, bytes = std::move(bytes)] {
+        checksum_.add(*bytes);
+        room_.release();
+    });
 }
 
-std::string ChecksumBeside::take()
+std::future<std::string> ChecksumBeside::take()
 {
-    startWork();
-    work_.get();
-    return checksum_.take();
-}
-
-void ChecksumBeside::startWork()
-{
-    if (work_.valid()) {
-        work_.get();
-    }
-    std::swap(coming_, inWork_);
-    coming_.clear();
-    work_ = std::async([this] { checksum_.add(inWork_); });
+    const auto sum = std::make_shared<std::promise<std::string>>();
+    worker_.submit([this, sum] { sum->set_value(checksum_.take()); });
+    return sum->get_future();
 }
 
 std::string checksumOf(std::string_view text)
@@ -66,7 +54,7 @@ std::string checksumOf(std::string_view text)
 std::string checksumOfFile(const std::string& file)
 {
     Checksum checksum;
-    readFile(file, [&](std::string_view bytes) { checksum.add(bytes); });
+    readFile(file, [&](const Block& bytes) { checksum.add(*bytes); });
     return checksum.take();
 }
 

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "base/WorkerThread.h"
+#include "pack/Reading.h"
+
 #include <nettle/sha2.h>
 
 #include <future>
+#include <semaphore>
 #include <string>
 #include <string_view>
 
@@ -24,17 +28,18 @@ private:
 /// The same, worked out by another thread while more bytes come.
 class ChecksumBeside {
 public:
-    void add(std::string_view bytes);
-    std::string take();
+    void add(Block bytes);
+    /// Returns at once; of all that was added since the last call of this.
+    std::future<std::string> take();
 
 private:
-    void startWork();
+    /// So much of what comes is kept waiting.
+    static constexpr std::ptrdiff_t mostBlocks = 64;
 
     Checksum checksum_;
-    std::string coming_;
-    std::string inWork_;
-    // Goes first: its end is waited for.
-    std::future<void> work_;
+    std::counting_semaphore<mostBlocks> room_{mostBlocks};
+    // Goes first: what it still does needs the others.
+    WorkerThread worker_;
 };
 
 std::string checksumOf(std::string_view text);

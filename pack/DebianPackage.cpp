@@ -79,14 +79,14 @@ Contents debianControlOf(const Ingredients& ingredients, const Contents& files)
     return contents;
 }
 
-void writeDebianPackage(Output& output, const Ingredients& ingredients, const Contents& files, const Bytes& seen)
+void writeDebianPackage(Output& output, const Ingredients& ingredients, const Contents& files, const Blocks& seen)
 {
     const std::int64_t epoch = ingredients.epoch;
     const Bytes take = [&](std::string_view bytes) { output.write(bytes); };
     output.write("!<arch>\n");
     addMember(output, "debian-binary", epoch, [&] { output.write("2.0\n"); });
     addMember(output, "control.tar.zst", epoch, [&] {
-        writeArchive(take, debianControlOf(ingredients, files), "./", epoch, [](std::string_view /*bytes*/) { });
+        writeArchive(take, debianControlOf(ingredients, files), "./", epoch, [](const Block& /*bytes*/) { });
     });
     addMember(output, "data.tar.zst", epoch, [&] { writeArchive(take, files, "./", epoch, seen); });
 }

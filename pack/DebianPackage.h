@@ -16,6 +16,6 @@ Contents debianFilesOf(const Ingredients& ingredients);
 Contents debianControlOf(const Ingredients& ingredients, const Contents& files);
 
 /// Writes the package (deb(5)); `seen` is given the bytes of its files as they are packed. Throws.
-void writeDebianPackage(Output& output, const Ingredients& ingredients, const Contents& files, const Bytes& seen);
+void writeDebianPackage(Output& output, const Ingredients& ingredients, const Contents& files, const Blocks& seen);
 
 } // namespace corvellane::pack

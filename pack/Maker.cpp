@@ -13,6 +13,8 @@
 #include <filesystem>
 #include <future>
 #include <map>
+#include <memory>
+#include <optional>
 #include <utility>
 
 namespace corvellane::pack {
@@ -42,6 +44,31 @@ public:
 
 private:
     std::string path_;
+};
+
+/// A file whose checksum is known when it has been written.
+class SummedOutput {
+public:
+    explicit SummedOutput(const std::string& file)
+        : output_(file)
+    {
+    }
+
+    void write(const Block& bytes)
+    {
+        sum_.add(bytes);
+        output_.write(*bytes);
+    }
+
+    std::future<std::string> close()
+    {
+        output_.close();
+        return sum_.take();
+    }
+
+private:
+    Output output_;
+    ChecksumBeside sum_;
 };
 
 bool isIn(const Formats& formats, const char* format)
@@ -85,10 +112,8 @@ public:
         if (isIn(formats_, "rpm")) {
             makeRpm();
         }
-        if (isIn(formats_, "run")) {
-            makeRunFile();
-        } else if (isIn(formats_, "tar.zst")) {
-            makeArchiveFile();
+        if (isIn(formats_, "run") || isIn(formats_, "tar.zst")) {
+            makeBundle();
         }
         return listed(key);
     }
@@ -114,9 +139,9 @@ private:
         return names;
     }
 
-    Bytes counted()
+    Blocks counted()
     {
-        return [this](std::string_view bytes) { progress_.add(bytes.size()); };
+        return [this](const Block& bytes) { progress_.add(bytes->size()); };
     }
 
     /// Its checksum is worked out while the next file is made.
@@ -157,66 +182,64 @@ private:
             + machineOf(ingredients_.kit);
     }
 
-    /// The archive of the ".tar.zst" file behind the program that unpacks it.
-    void makeRunFile()
+    /// The folder as an archive: in the ".tar.zst" file alone, in the ".run" file between the program that unpacks it
+    /// and its checksum.
+    void makeBundle()
     {
-        const std::string name = nameOfArchive() + ".run";
+        const std::string name = nameOfArchive();
         progress_.begin(name);
-        Output output(workshop_ / name);
-        const std::string starter = starterOf(ingredients_, Payload::archive, std::string(64, '0'));
-        output.write(starter);
-        const std::string checksum = writeBundle(output);
-        output.overwrite(0, starterOf(ingredients_, Payload::archive, checksum));
-        output.close();
-        fs::permissions(workshop_ / name, static_cast<fs::perms>(0755));
-        add(name);
+        std::optional<Output> archive;
+        std::optional<SummedOutput> run;
         if (isIn(formats_, "tar.zst")) {
-            Output archive(workshop_ / (nameOfArchive() + ".tar.zst"));
-            readFile(
-                workshop_ / name, [&](std::string_view bytes) { archive.write(bytes); },
-                static_cast<std::streamoff>(starter.size()));
-            archive.close();
-            addChecked(nameOfArchive() + ".tar.zst", checksum);
+            archive.emplace(workshop_ / (name + ".tar.zst"));
+        }
+        if (isIn(formats_, "run")) {
+            run.emplace(workshop_ / (name + ".run"));
+            run->write(std::make_shared<std::string>(starterOf(ingredients_, Payload::archive, "")));
+        }
+        const std::string checksum = writeBundle([&](const Block& bytes) {
+            if (archive) {
+                archive->write(*bytes);
+            }
+            if (run) {
+                run->write(bytes);
+            }
+        });
+        if (archive) {
+            archive->close();
+            made_.emplace(name + ".tar.zst", std::async(std::launch::deferred, [checksum] { return checksum; }));
+        }
+        if (run) {
+            run->write(std::make_shared<std::string>(checksum));
+            made_.emplace(name + ".run", run->close());
+            fs::permissions(workshop_ / (name + ".run"), static_cast<fs::perms>(0755));
         }
     }
 
-    void makeArchiveFile()
-    {
-        const std::string name = nameOfArchive() + ".tar.zst";
-        progress_.begin(name);
-        Output output(workshop_ / name);
-        const std::string checksum = writeBundle(output);
-        output.close();
-        addChecked(name, checksum);
-    }
-
-    void addChecked(const std::string& name, const std::string& checksum)
-    {
-        made_.emplace(name, std::async(std::launch::deferred, [checksum] { return checksum; }));
-    }
-
     /// With the starter, which carries the sum of all else. Gives the archive's checksum.
-    std::string writeBundle(Output& output)
+    std::string writeBundle(const Blocks& take)
     {
         ChecksumBeside ofArchive;
-        const auto take = [&](std::string_view bytes) {
-            ofArchive.add(bytes);
-            output.write(bytes);
-        };
-        Archive archive(take, ingredients_.epoch);
+        ChecksumBeside ofFiles;
+        Archive archive(
+            [&](std::string_view bytes) {
+                const auto block = std::make_shared<std::string>(bytes);
+                ofArchive.add(block);
+                take(block);
+            },
+            ingredients_.epoch);
         FolderSum sum;
         for (const auto& [path, item] : holdings_.bundle.items()) {
-            Checksum ofFile;
-            archive.add(nameOfArchive() + "/" + path, item, [&](std::string_view bytes) {
-                ofFile.add(bytes);
-                progress_.add(bytes.size());
+            archive.add(nameOfArchive() + "/" + path, item, [&](const Block& bytes) {
+                ofFiles.add(bytes);
+                progress_.add(bytes->size());
             });
-            sum.add(path, item, ofFile.take());
+            sum.add(path, item, ofFiles.take());
         }
         const std::string starter = starterOf(ingredients_, Payload::folder, sum.hexadecimal());
         archive.add(nameOfArchive() + "/" + starterName, {Item::Kind::text, starter, true}, counted());
         archive.close();
-        return ofArchive.take();
+        return ofArchive.take().get();
     }
 
     const Ingredients& ingredients_;

@@ -7,7 +7,8 @@
 namespace corvellane::pack {
 
 Progress::Progress(std::uintmax_t all)
-    : all_(std::max<std::uintmax_t>(all, 1))
+    : isShown_(std::filesystem::is_character_file("/proc/self/fd/2"))
+    , all_(std::max<std::uintmax_t>(all, 1))
 {
 }
 
@@ -32,11 +33,11 @@ void Progress::add(std::uintmax_t bytes)
 
 void Progress::show()
 {
-    if (std::chrono::steady_clock::now() - begin_ < std::chrono::seconds(1)) {
+    if (!isShown_ || std::chrono::steady_clock::now() - begin_ < std::chrono::seconds(1)) {
         return;
     }
     const std::string line = std::to_string(std::min<std::uintmax_t>(done_ * 100 / all_, 100)) + " %  " + what_;
-    if (line != shown_ && std::filesystem::is_character_file("/proc/self/fd/2")) {
+    if (line != shown_) {
         std::fprintf(stderr, "\r\33[K%s", line.c_str());
         shown_ = line;
     }

@@ -22,6 +22,7 @@ public:
     void show();
 
 private:
+    bool isShown_;
     std::uintmax_t all_;
     std::uintmax_t done_ = 0;
     std::string what_;

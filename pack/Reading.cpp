@@ -2,18 +2,19 @@
 
 #include <fstream>
 #include <stdexcept>
-#include <vector>
 
 namespace corvellane::pack {
 
-void readFile(const std::string& file, const std::function<void(std::string_view)>& take, std::streamoff begin)
+void readFile(const std::string& file, const std::function<void(Block)>& take, std::streamoff begin)
 {
+    constexpr std::size_t most = std::size_t{1} << 18U;
     std::ifstream stream(file, std::ios::binary);
     stream.seekg(begin);
-    std::vector<char> block(std::size_t{1} << 18U);
     while (stream) {
-        stream.read(block.data(), static_cast<std::streamsize>(block.size()));
-        take({block.data(), static_cast<std::size_t>(stream.gcount())});
+        const auto block = std::make_shared<std::string>(most, '\0');
+        stream.read(block->data(), static_cast<std::streamsize>(most));
+        block->resize(static_cast<std::size_t>(stream.gcount()));
+        take(block);
     }
     if (!stream.eof()) {
         throw std::runtime_error("“" + file + "” cannot be read");
@@ -23,7 +24,7 @@ void readFile(const std::string& file, const std::function<void(std::string_view
 std::string textOf(const std::string& file)
 {
     std::string text;
-    readFile(file, [&](std::string_view bytes) { text += bytes; });
+    readFile(file, [&](const Block& bytes) { text += *bytes; });
     return text;
 }
 

@@ -6,6 +6,7 @@
 #include "pack/Templates.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace corvellane::pack {
 namespace {
@@ -26,7 +27,7 @@ std::string entryOf(const std::string& path, const Item& item)
 
 } // namespace
 
-std::string starterOf(const Ingredients& ingredients, Payload payload, const std::string& checksum)
+std::string starterOf(const Ingredients& ingredients, Payload payload, const std::string& folderSum)
 {
     const Description& description = ingredients.description;
     std::string starter = textOf(ingredients.kit + "/starter");
@@ -38,32 +39,31 @@ std::string starterOf(const Ingredients& ingredients, Payload payload, const std
     put("@PACKAGE@", quoted(description.packageName(), Quoting::shell));
     put("@VERSION@", quoted(description.version, Quoting::shell));
     put("@PAYLOAD@", payload == Payload::archive ? "archive" : "folder");
-    put("@CHECKSUM@", checksum);
-    // As many digits as the place has, so that the length stays; the checksum stands where it is not counted.
-    const std::string length = std::to_string(starter.size() + checksum.size());
+    put("@CHECKSUM@", folderSum);
+    // As many digits as the place has, so that the length stays; its own checksum is still to come.
+    const std::string length = std::to_string(starter.size() + 64);
     put("length=0000000", "length=" + length + std::string(7 - length.size(), ' '));
     put("starter=''", "starter='" + checksumOf(starter) + "'");
     return starter;
 }
 
-void FolderSum::add(const std::string& path, const Item& item, const std::string& checksum)
+void FolderSum::add(const std::string& path, const Item& item, std::future<std::string> checksum)
 {
     entries_.push_back(entryOf(path, item));
     if (item.kind == Item::Kind::file || item.kind == Item::Kind::text) {
-        checksums_.emplace("./" + path, checksum);
+        checksums_.emplace("./" + path, std::move(checksum));
     }
 }
 
-std::string FolderSum::hexadecimal() const
+std::string FolderSum::hexadecimal()
 {
-    std::vector<std::string> entries = entries_;
-    std::ranges::sort(entries);
+    std::ranges::sort(entries_);
     Checksum sum;
-    for (const std::string& entry : entries) {
+    for (const std::string& entry : entries_) {
         sum.add(entry + '\0');
     }
-    for (const auto& [path, checksum] : checksums_) {
-        sum.add(checksum + "  " + path + '\0');
+    for (auto& [path, checksum] : checksums_) {
+        sum.add(checksum.get() + "  " + path + '\0');
     }
     return sum.take();
 }

@@ -61,10 +61,8 @@ std::string retold(const std::string& sample, const Description& description, st
                 "id=\"" + description.identifier.substr(0, description.identifier.rfind('.')) + '"'},
             {"The authors of the Corvellane Plugin Installer", inside(description.publisher)},
             {"Corvellane Plugin Installer", inside(description.name)},
-            {"https://corvellane.example/", inside(description.homepage)},
-            {"@PROJECT_VERSION@", description.version},
-            {"@DATE@", dateOf(epoch)},
-            {"/usr/lib/corvellane-installer", programs},
+            {"https://corvellane.example/", inside(description.homepage)}, {"@PROJECT_VERSION@", description.version},
+            {"@DATE@", dateOf(epoch)}, {"/usr/lib/corvellane-installer", programs},
             {"Exec=corvellane-installer", "Exec=" + programs + "/bin/corvellane-installer"},
             {"Corvellane", inside(description.publisher)}});
 }

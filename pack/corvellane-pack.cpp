@@ -61,7 +61,8 @@ std::string ownFile(const std::vector<std::string>& places)
             return fs::canonical(ownFolder() + place).native();
         }
     }
-    throw std::runtime_error("“" + ownFolder() + places.back() + "” is missing: it is made by the target “kit” of a build");
+    throw std::runtime_error(
+        "“" + ownFolder() + places.back() + "” is missing: it is made by the target “kit” of a build");
 }
 
 std::string kitFolder()
