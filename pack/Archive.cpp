@@ -3,8 +3,10 @@
 #include <archive.h>
 #include <archive_entry.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <stdexcept>
+#include <thread>
 #include <utility>
 
 namespace corvellane::pack {
@@ -67,8 +69,9 @@ Archive::Archive(Bytes take, std::int64_t epoch)
 {
     must(archive_.get(), archive_write_set_format_gnutar(archive_.get()));
     must(archive_.get(), archive_write_add_filter_zstd(archive_.get()));
-    // One thread too is one beside this: the bytes are the same on every machine.
-    must(archive_.get(), archive_write_set_filter_option(archive_.get(), "zstd", "threads", "0"));
+    // However many there are beside this one, the bytes are the same; without any they would differ.
+    const std::string threads = std::to_string(std::max(1U, std::thread::hardware_concurrency()));
+    must(archive_.get(), archive_write_set_filter_option(archive_.get(), "zstd", "threads", threads.c_str()));
     must(archive_.get(), archive_write_set_bytes_per_block(archive_.get(), 0));
     must(archive_.get(), archive_write_open(archive_.get(), &take_, nullptr, give, nullptr));
 }
@@ -78,14 +81,14 @@ void Archive::add(const std::string& path, const Item& item, const Blocks& seen)
     // It warns of names that are no text here, and packs them as they are.
     must(archive_.get(), archive_write_header(archive_.get(), entryOf(path, item, epoch_).get()) >= ARCHIVE_WARN);
     const auto write = [&](const Block& bytes) {
-        const la_ssize_t written = archive_write_data(archive_.get(), bytes->data(), bytes->size());
-        must(archive_.get(), written == static_cast<la_ssize_t>(bytes->size()));
+        const la_ssize_t written = archive_write_data(archive_.get(), bytes.view().data(), bytes.view().size());
+        must(archive_.get(), written == static_cast<la_ssize_t>(bytes.view().size()));
         seen(bytes);
     };
     if (item.kind == Item::Kind::file) {
         readFile(item.from, write);
     } else if (item.kind == Item::Kind::text) {
-        write(std::make_shared<std::string>(item.from));
+        write(Block(item.from));
     }
     must(archive_.get(), archive_write_finish_entry(archive_.get()));
 }

@@ -30,17 +30,13 @@ std::string Checksum::take()
 
 void ChecksumBeside::add(Block bytes)
 {
-    room_.acquire();
-    worker_.submit([this, bytes = std::move(bytes)] {
-        checksum_.add(*bytes);
-        room_.release();
-    });
+    lane_.add([this, bytes = std::move(bytes)] { checksum_.add(bytes.view()); });
 }
 
 std::future<std::string> ChecksumBeside::take()
 {
     const auto sum = std::make_shared<std::promise<std::string>>();
-    worker_.submit([this, sum] { sum->set_value(checksum_.take()); });
+    lane_.add([this, sum] { sum->set_value(checksum_.take()); });
     return sum->get_future();
 }
 
@@ -54,7 +50,7 @@ std::string checksumOf(std::string_view text)
 std::string checksumOfFile(const std::string& file)
 {
     Checksum checksum;
-    readFile(file, [&](const Block& bytes) { checksum.add(*bytes); });
+    readFile(file, [&](const Block& bytes) { checksum.add(bytes.view()); });
     return checksum.take();
 }
 

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "base/WorkerThread.h"
+#include "pack/Lane.h"
 #include "pack/Reading.h"
 
 #include <nettle/sha2.h>
 
 #include <future>
-#include <semaphore>
 #include <string>
 #include <string_view>
 
@@ -33,13 +32,8 @@ public:
     std::future<std::string> take();
 
 private:
-    /// So much of what comes is kept waiting.
-    static constexpr std::ptrdiff_t mostBlocks = 64;
-
     Checksum checksum_;
-    std::counting_semaphore<mostBlocks> room_{mostBlocks};
-    // Goes first: what it still does needs the others.
-    WorkerThread worker_;
+    Lane lane_;
 };
 
 std::string checksumOf(std::string_view text);

@@ -85,9 +85,8 @@ void writeDebianPackage(Output& output, const Ingredients& ingredients, const Co
     const Bytes take = [&](std::string_view bytes) { output.write(bytes); };
     output.write("!<arch>\n");
     addMember(output, "debian-binary", epoch, [&] { output.write("2.0\n"); });
-    addMember(output, "control.tar.zst", epoch, [&] {
-        writeArchive(take, debianControlOf(ingredients, files), "./", epoch, [](const Block& /*bytes*/) { });
-    });
+    addMember(output, "control.tar.zst", epoch,
+        [&] { writeArchive(take, debianControlOf(ingredients, files), "./", epoch, [](const Block& /*bytes*/) { }); });
     addMember(output, "data.tar.zst", epoch, [&] { writeArchive(take, files, "./", epoch, seen); });
 }
 

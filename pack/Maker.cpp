@@ -57,7 +57,7 @@ public:
     void write(const Block& bytes)
     {
         sum_.add(bytes);
-        output_.write(*bytes);
+        output_.write(bytes);
     }
 
     std::future<std::string> close()
@@ -141,7 +141,7 @@ private:
 
     Blocks counted()
     {
-        return [this](const Block& bytes) { progress_.add(bytes->size()); };
+        return [this](const Block& bytes) { progress_.add(bytes.view().size()); };
     }
 
     /// Its checksum is worked out while the next file is made.
@@ -195,11 +195,11 @@ private:
         }
         if (isIn(formats_, "run")) {
             run.emplace(workshop_ / (name + ".run"));
-            run->write(std::make_shared<std::string>(starterOf(ingredients_, Payload::archive, "")));
+            run->write(Block(starterOf(ingredients_, Payload::archive, "")));
         }
         const std::string checksum = writeBundle([&](const Block& bytes) {
             if (archive) {
-                archive->write(*bytes);
+                archive->write(bytes);
             }
             if (run) {
                 run->write(bytes);
@@ -210,7 +210,7 @@ private:
             made_.emplace(name + ".tar.zst", std::async(std::launch::deferred, [checksum] { return checksum; }));
         }
         if (run) {
-            run->write(std::make_shared<std::string>(checksum));
+            run->write(Block(checksum));
             made_.emplace(name + ".run", run->close());
             fs::permissions(workshop_ / (name + ".run"), static_cast<fs::perms>(0755));
         }
@@ -223,7 +223,7 @@ private:
         ChecksumBeside ofFiles;
         Archive archive(
             [&](std::string_view bytes) {
-                const auto block = std::make_shared<std::string>(bytes);
+                const auto block = Block(bytes);
                 ofArchive.add(block);
                 take(block);
             },
@@ -232,7 +232,7 @@ private:
         for (const auto& [path, item] : holdings_.bundle.items()) {
             archive.add(nameOfArchive() + "/" + path, item, [&](const Block& bytes) {
                 ofFiles.add(bytes);
-                progress_.add(bytes->size());
+                progress_.add(bytes.view().size());
             });
             sum.add(path, item, ofFiles.take());
         }

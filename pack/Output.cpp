@@ -12,15 +12,23 @@ Output::Output(std::string file)
     mustBeWell();
 }
 
+void Output::write(Block bytes)
+{
+    size_ += bytes.view().size();
+    lane_.add([this, bytes = std::move(bytes)] {
+        stream_.write(bytes.view().data(), static_cast<std::streamsize>(bytes.view().size()));
+        mustBeWell();
+    });
+}
+
 void Output::write(std::string_view bytes)
 {
-    stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    size_ += bytes.size();
-    mustBeWell();
+    write(Block(bytes));
 }
 
 void Output::overwrite(std::uintmax_t at, std::string_view bytes)
 {
+    lane_.wait();
     stream_.seekp(static_cast<std::streamoff>(at));
     stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     stream_.seekp(0, std::ios::end);
@@ -29,6 +37,7 @@ void Output::overwrite(std::uintmax_t at, std::string_view bytes)
 
 void Output::close()
 {
+    lane_.wait();
     stream_.close();
     mustBeWell();
 }

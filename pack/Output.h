@@ -1,5 +1,8 @@
 #pragma once
 
+#include "pack/Lane.h"
+#include "pack/Reading.h"
+
 #include <cstdint>
 #include <fstream>
 #include <string>
@@ -7,11 +10,13 @@
 
 namespace corvellane::pack {
 
-/// A file that is written from its beginning to its end. Everything throws std::runtime_error where that fails.
+/// A file that is written from its beginning to its end, by another thread while more of it comes. What fails is thrown
+/// as std::runtime_error by `overwrite` or `close`.
 class Output {
 public:
     explicit Output(std::string file);
 
+    void write(Block bytes);
     void write(std::string_view bytes);
     std::uintmax_t size() const { return size_; }
     /// Puts bytes in the place of as many that were written before.
@@ -25,6 +30,7 @@ private:
     std::string file_;
     std::ofstream stream_;
     std::uintmax_t size_ = 0;
+    Lane lane_;
 };
 
 /// A file with this text.

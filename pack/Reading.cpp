@@ -1,20 +1,38 @@
 #include "pack/Reading.h"
 
+#include <algorithm>
 #include <fstream>
 #include <stdexcept>
 
 namespace corvellane::pack {
 
-void readFile(const std::string& file, const std::function<void(Block)>& take, std::streamoff begin)
+// Its bytes are what is read or copied next: nothing is there before.
+Block::Block(std::size_t size)
+    : bytes_(std::make_shared_for_overwrite<char[]>(size))
+    , size_(size)
+{
+}
+
+Block::Block(std::string_view bytes)
+    : Block(bytes.size())
+{
+    std::ranges::copy(bytes, bytes_.get());
+}
+
+Block nextBlock(std::istream& stream)
 {
     constexpr std::size_t most = std::size_t{1} << 18U;
+    Block block(most);
+    stream.read(block.bytes_.get(), static_cast<std::streamsize>(most));
+    block.size_ = static_cast<std::size_t>(stream.gcount());
+    return block;
+}
+
+void readFile(const std::string& file, const std::function<void(const Block&)>& take)
+{
     std::ifstream stream(file, std::ios::binary);
-    stream.seekg(begin);
     while (stream) {
-        const auto block = std::make_shared<std::string>(most, '\0');
-        stream.read(block->data(), static_cast<std::streamsize>(most));
-        block->resize(static_cast<std::size_t>(stream.gcount()));
-        take(block);
+        take(nextBlock(stream));
     }
     if (!stream.eof()) {
         throw std::runtime_error("“" + file + "” cannot be read");
@@ -24,7 +42,7 @@ void readFile(const std::string& file, const std::function<void(Block)>& take, s
 std::string textOf(const std::string& file)
 {
     std::string text;
-    readFile(file, [&](const Block& bytes) { text += *bytes; });
+    readFile(file, [&](const Block& bytes) { text += bytes.view(); });
     return text;
 }
 

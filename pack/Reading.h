@@ -1,17 +1,31 @@
 #pragma once
 
 #include <functional>
-#include <ios>
+#include <iosfwd>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace corvellane::pack {
 
 /// Some of the bytes of a file or of a text, which several threads may look at.
-using Block = std::shared_ptr<const std::string>;
+class Block {
+public:
+    explicit Block(std::string_view bytes);
 
-/// Gives the bytes of a file one after the other, from `begin` on. Throws std::runtime_error where it cannot be read.
-void readFile(const std::string& file, const std::function<void(Block)>& take, std::streamoff begin = 0);
+    /// As long as this or a copy of it lives.
+    std::string_view view() const { return {bytes_.get(), size_}; }
+
+private:
+    friend Block nextBlock(std::istream& stream);
+    explicit Block(std::size_t size);
+
+    std::shared_ptr<char[]> bytes_;
+    std::size_t size_;
+};
+
+/// Gives the bytes of a file one after the other. Throws std::runtime_error where it cannot be read.
+void readFile(const std::string& file, const std::function<void(const Block&)>& take);
 
 /// The whole text of a file. Throws std::runtime_error.
 std::string textOf(const std::string& file);
