@@ -108,8 +108,8 @@ void TextLabel::paintEvent(QPaintEvent*)
     QPainter painter(this);
     const QRectF room = contentsRect();
     const double above = (room.height() - sizeInLines(contentsRect().width()).height()) / 2;
-    const bool isCentred = alignment().testFlag(Qt::AlignHCenter);
-    const double part = isCentred ? 0.5 : text().isRightToLeft() ? 1 : 0;
+    const double atBeginning = text().isRightToLeft() ? 1 : 0;
+    const double part = alignment().testFlag(Qt::AlignHCenter) ? 0.5 : atBeginning;
     for (int index = 0; index < lines_.lineCount(); ++index) {
         const QTextLine line = lines_.lineAt(index);
         const double before = (room.width() - line.horizontalAdvance()) * part;
