@@ -29,9 +29,6 @@ endif()
 
 # Hardened by compiler and linker, whatever the compiler's own defaults are. The sanitizers have checks of their own.
 include(CheckCXXCompilerFlag)
-include(CheckPIESupported)
-check_pie_supported()
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 if(NOT CORVELLANE_SANITIZE)
     target_compile_options(corvellane-options INTERFACE
         -fstack-protector-strong $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
@@ -40,8 +37,10 @@ if(NOT CORVELLANE_SANITIZE)
         target_compile_options(corvellane-options INTERFACE -fcf-protection)
     endif()
     if(LINUX)
+        # Loaded anywhere, and without copies of Qt's own data, which Qt would not know: also where the linker compiles.
+        target_compile_options(corvellane-options INTERFACE -fPIC)
         target_link_options(corvellane-options INTERFACE
-            LINKER:-z,relro LINKER:-z,now $<$<BOOL:${hasControlFlowProtection}>:LINKER:-z,shstk>)
+            -fPIC -pie LINKER:-z,relro LINKER:-z,now $<$<BOOL:${hasControlFlowProtection}>:LINKER:-z,shstk>)
     endif()
 endif()
 
