@@ -1,6 +1,7 @@
 #include "bench/RtfSamples.h"
 #include "rtf/Reader.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdio>
@@ -31,20 +32,22 @@ constexpr std::array samples{Named{"agreement", agreementSample}, Named{"multiBy
 /// What a process of its own is to do with a sample.
 constexpr std::array works{"make", "scan", "read"};
 
+std::size_t resultOf(std::string_view work, const std::string& bytes)
+{
+    if (work == "scan") {
+        return scanForControls(bytes);
+    }
+    return work == "read" ? rtf::read(bytes).value().text.size() : bytes.size();
+}
+
 int carryOut(std::string_view work, std::string_view name, std::size_t megabytes)
 {
-    for (const Named& sample : samples) {
-        if (sample.name != name) {
-            continue;
-        }
-        const std::string bytes = sample.make(megabytes * megabyte);
-        const std::size_t result = work == "scan" ? scanForControls(bytes)
-            : work == "read"                      ? rtf::read(bytes).value().text.size()
-                                                  : bytes.size();
-        std::printf("%zu\n", result);
-        return EXIT_SUCCESS;
+    const auto* const sample = std::ranges::find(samples, name, &Named::name);
+    if (sample == samples.end()) {
+        return EXIT_FAILURE;
     }
-    return EXIT_FAILURE;
+    std::printf("%zu\n", resultOf(work, sample->make(megabytes * megabyte)));
+    return EXIT_SUCCESS;
 }
 
 /// -1 where they cannot be counted.
@@ -84,7 +87,7 @@ void report(const Named& sample)
     const Counts hundred = measure(sample, 100);
     std::printf(
         "%-14s scan %8.2f M, read %8.2f M, %5.2f times; of 100 MB, reading takes %5.2f times as many as of 10\n",
-        sample.name.data(), ten.scan / 1e6, ten.read / 1e6, ten.read / ten.scan, hundred.read / ten.read);
+        std::string(sample.name).c_str(), ten.scan / 1e6, ten.read / 1e6, ten.read / ten.scan, hundred.read / ten.read);
 }
 
 } // namespace

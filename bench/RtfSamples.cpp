@@ -143,7 +143,7 @@ std::string rawKatakana(std::size_t size)
 
 std::string rawPictographs(std::size_t size)
 {
-    return repeated("{\\rtf1{\\fonttbl{\\f0\\fnil\\fcharset2 Wingdings;}}\\f0 ", "012345678", size);
+    return repeated(R"({\rtf1{\fonttbl{\f0\fnil\fcharset2 Wingdings;}}\f0 )", "012345678", size);
 }
 
 std::size_t scanForControls(std::string_view bytes)

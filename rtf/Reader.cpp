@@ -187,7 +187,7 @@ void Interpreter::onTextOutsideBody(std::string_view bytes, bool ascii)
         }
     } else if (to == Destination::picture) {
         writer_.pictures.addDigits(bytes);
-    } else {
+    } else if (writer_.hasRoomOutsideBody()) {
         writer_.putText(to == Destination::fontTable ? withoutFonts(bytes, ascii) : bytes, ascii);
         takeTrailByte();
     }

@@ -302,14 +302,14 @@ std::string* Writer::sinkOutsideBody()
 void Writer::beginParagraph()
 {
     atParagraphBegin_ = false;
-    if (paragraph_.list == 0 || numberIsWritten) {
+    if (paragraph_.list == 0 || numberIsWritten || markerRoom_ == 0) {
         return;
     }
     const ListMarker marker = lists.nextMarker(paragraph_);
-    if (marker.text.empty() || marker.text.size() > markerRoom_) {
+    markerRoom_ -= std::min(marker.text.size(), markerRoom_);
+    if (marker.text.empty() || markerRoom_ == 0) {
         return;
     }
-    markerRoom_ -= marker.text.size();
     const CharacterState text = character_;
     if (marker.font >= 0) {
         changeCharacter().font = marker.font;

@@ -67,6 +67,9 @@ public:
     bool rawIsUnicode();
     /// There is more text than those bytes.
     bool textIsLongerThan(std::size_t bytes) const { return builder_.text().size() > bytes; }
+    /// What is written outside the body may be longer: a name, an instruction or a description in a file that is
+    /// written for its text is not as long as that.
+    bool hasRoomOutsideBody();
     /// What comes next continues no multi-byte character.
     void breakBytes() { decoder_.breakBytes(); }
 
@@ -157,7 +160,7 @@ private:
     /// The same of the text around a note.
     bool wasAtParagraphBegin_ = true;
     bool numberWasWritten_ = false;
-    /// How many bytes of list markers the text may get yet.
+    /// How many bytes of list markers the text may get yet; at 0 no more are made.
     std::size_t markerRoom_;
     /// How long the text may get by bytes of code pages.
     std::size_t mostText_;
@@ -183,6 +186,13 @@ inline void Writer::putText(std::string_view bytes, bool ascii)
     } else {
         putOtherText(bytes, ascii);
     }
+}
+
+inline bool Writer::hasRoomOutsideBody()
+{
+    constexpr std::size_t most = 65536;
+    const std::string* const out = sink();
+    return out == nullptr || out->size() < most;
 }
 
 inline GroupState& Writer::changeGroup()
