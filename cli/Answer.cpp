@@ -66,6 +66,7 @@ Json elementJson(const ElementAnswer& element)
 std::vector<std::string> answerLines(const Answer& answer)
 {
     std::vector<std::string> lines;
+    lines.reserve(answer.elements.size() + answer.kept.size());
     for (const ElementAnswer& element : answer.elements) {
         lines.push_back(lineOf(element));
     }

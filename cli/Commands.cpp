@@ -47,7 +47,7 @@ void runForEach(Answer& answer, const Order& order, const std::string& word, Com
             answer.message = ending.message.empty() || order.persons.size() == 1
                 ? std::move(ending.message)
                 : "For the user " + order.persons[index].account.name + ": " + ending.message;
-            answer.changed = *answer.changed || ending.hasBegun;
+            answer.changed = answer.changed.value_or(false) || ending.hasBegun;
         }
     }
 }

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
+#include <ranges>
 #include <set>
 
 namespace corvellane {
@@ -113,8 +114,9 @@ private:
                                                                              : std::nullopt;
         if (reason) {
             removal_.kept.push_back({path, *std::move(reason)});
+            return false;
         }
-        return !reason;
+        return true;
     }
 
     Removal& removal_;
@@ -139,15 +141,15 @@ void collectFolders(Removal& removal, const std::set<std::string>& sharedFolders
 {
     std::set<std::string> gone(removal.entries.begin(), removal.entries.end());
     std::ranges::transform(removal.links, std::inserter(gone, gone.end()), &LinkToElement::path);
-    for (auto folder = sharedFolders.rbegin(); folder != sharedFolders.rend(); ++folder) {
-        const std::string there = runner::nearestThere(*folder);
+    for (const std::string& folder : std::ranges::reverse_view(sharedFolders)) {
+        const std::string there = runner::nearestThere(folder);
         if (!runner::isMarkedMade(there) || !isEmptied(there, gone) || !gone.insert(there).second) {
             continue;
         }
         const bool isTakenAlong = std::ranges::any_of(
-            removal.folders, [&](const std::string& below) { return below.starts_with(*folder + "/"); });
+            removal.folders, [&](const std::string& below) { return below.starts_with(folder + "/"); });
         if (!isTakenAlong) {
-            removal.folders.push_back(*folder + "/");
+            removal.folders.push_back(folder + "/");
         }
     }
 }

@@ -201,7 +201,10 @@ Answer carryOut(const std::string& command, const Options& options)
     if (command == "install") {
         return install(order, options.onlyIfNeeded);
     }
-    return command == "verify" ? verify(order) : command == "remove" ? remove(order) : list(order);
+    if (command == "verify") {
+        return verify(order);
+    }
+    return command == "remove" ? remove(order) : list(order);
 }
 
 int showLicense(const CLI::App& program, const Options& options)

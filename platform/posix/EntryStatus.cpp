@@ -7,8 +7,7 @@
 
 #include <cerrno>
 #include <cstring>
-#include <memory>
-#include <optional>
+#include <vector>
 
 namespace corvellane {
 namespace {
@@ -42,7 +41,7 @@ class BlockReader {
 public:
     explicit BlockReader(const std::string& path)
         : file_(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY))
-        , block_(new char[blockSize])
+        , block_(blockSize)
         , error_(file_.isOpen() ? 0 : errno)
     {
     }
@@ -54,19 +53,19 @@ public:
     {
         std::size_t filled = 0;
         while (error_ == 0 && filled < blockSize) {
-            const ssize_t count = read(file_.get(), block_.get() + filled, blockSize - filled);
+            const ssize_t count = read(file_.get(), block_.data() + filled, blockSize - filled);
             if (count == 0) {
                 break;
             }
             error_ = count < 0 && errno != EINTR ? errno : 0;
             filled += count < 0 ? 0 : static_cast<std::size_t>(count);
         }
-        return {block_.get(), error_ == 0 ? filled : 0};
+        return {block_.data(), error_ == 0 ? filled : 0};
     }
 
 private:
     FileDescriptor file_;
-    std::unique_ptr<char[]> block_;
+    std::vector<char> block_;
     int error_;
 };
 
