@@ -18,10 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr auto readable
-    = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read | fs::perms::others_read;
-constexpr auto readableAndExecutable
-    = readable | fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
+constexpr auto fileMode = static_cast<fs::perms>(0644);
+constexpr auto folderMode = static_cast<fs::perms>(0755);
 
 /// In a text of rpmbuild's, "%" begins a macro.
 std::string literal(const std::string& text)
@@ -63,7 +61,7 @@ void stage(const Item& item, const fs::path& path, std::int64_t epoch)
         fs::copy_file(item.from, path);
     }
     const bool isSearched = item.kind == Item::Kind::folder || item.executable;
-    fs::permissions(path, isSearched ? readableAndExecutable : readable);
+    fs::permissions(path, isSearched ? folderMode : fileMode);
     fs::last_write_time(path, std::chrono::file_clock::from_sys(std::chrono::sys_seconds(std::chrono::seconds(epoch))));
 }
 
