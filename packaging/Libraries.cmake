@@ -53,8 +53,9 @@ function(install_without_data data)
         .size ${symbol}, . - ${symbol}
     ")
     execute_process(
-        COMMAND ${compiler} -shared -nostdlib -Wl,-soname,${soname} -o ${bundle}/lib/${name} ${bundle}/data.s
+        COMMAND ${compiler} -shared -s -nostdlib -Wl,-soname,${soname} -o ${bundle}/lib/${name} ${bundle}/data.s
         COMMAND_ERROR_IS_FATAL ANY)
+    file(CHMOD ${bundle}/lib/${name} PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
     file(REMOVE ${bundle}/data.s)
     file(CREATE_LINK ${name} ${bundle}/lib/${soname} SYMBOLIC)
 endfunction()
