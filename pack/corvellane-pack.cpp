@@ -7,11 +7,14 @@
 #include "pack/Reading.h"
 #include "tools/CommandLine.h"
 
+#include <charconv>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
+#include <string_view>
+#include <system_error>
 
 namespace corvellane::pack {
 namespace {
@@ -19,6 +22,28 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int notMade = 1;
+
+constexpr const char* moreHelp
+    = R"(FOLDER holds Products, CorvellaneEULA.rtf, Logo.svg or Logo.png, and installer.toml, which
+says who makes the installer and which version it is. It is rehearsed first; where the
+rehearsal finds errors, nothing is made. DIR has a list of checksums beside the installers.
+
+Formats, all but rpm unless told otherwise:
+  deb      for Debian and its like; uses the machine's own Qt
+  rpm      the same for Fedora and openSUSE; needs the program rpmbuild
+  run      for anybody: one file to download and start; brings Qt along
+  tar.zst  for anybody: a folder to unpack, with a file to click on top
+
+Examples:
+  corvellane-pack my-installer --output made
+  corvellane-pack my-installer --output made --version 1.2 --format deb,rpm --strict
+  SOURCE_DATE_EPOCH=1700000000 corvellane-pack my-installer --output made
+
+With the same SOURCE_DATE_EPOCH, in seconds since 1970, the same folder gives the same bytes.
+--version with nothing else prints the version of this program.
+
+Exit status: 0 when all that was asked for is there; 1 when something of the folder's or the
+machine's is in the way; 2 for wrong usage.)";
 
 struct Options {
     std::string folder;
@@ -31,19 +56,28 @@ struct Options {
 
 void addOptions(CLI::App& program, Options& options)
 {
-    program.add_option("FOLDER", options.folder, "Products, CorvellaneEULA.rtf, Logo.svg or Logo.png, installer.toml")
+    program.set_help_flag("--help", "Print this and end");
+    program.footer(moreHelp);
+    program.add_option("FOLDER", options.folder, "The maker's folder")
         ->required()
-        ->transform(asPath(program));
-    program.add_option("--output", options.output, "Where the installers go")->required()->transform(asPath(program));
+        ->transform(asPath(program))
+        ->check(CLI::ExistingDirectory.description(""))
+        ->type_name(" ");
+    program.add_option("--output", options.output, "Where the installers go; it is made")
+        ->required()
+        ->transform(asPath(program))
+        ->type_name("DIR");
     program.add_option("--version", options.version, "Instead of the version in installer.toml")
-        ->transform(asValue(program));
-    program.add_option("--format", options.formats, "What to make: deb, rpm, run, tar.zst, with commas between them")
+        ->transform(asValue(program))
+        ->type_name("V");
+    program.add_option("--format", options.formats, "What to make, with commas between")
         ->delimiter(',')
-        ->check(CLI::IsMember({"deb", "rpm", "run", "tar.zst"}));
+        ->check(CLI::IsMember({"deb", "rpm", "run", "tar.zst"}).description(""))
+        ->type_name("LIST");
     program.add_option("--sign", options.key, "Sign the list of checksums with this key of gpg's")
-        ->transform(asValue(program));
+        ->transform(asValue(program))
+        ->type_name("KEY");
     program.add_flag("--strict", options.strict, "Let a warning of the rehearsal be an error");
-    program.footer("Example:\n  corvellane-pack examples/installer --output made\n  apt install ./made/*.deb");
 }
 
 // What is asked for
@@ -73,9 +107,17 @@ std::string kitFolder()
 std::int64_t epoch()
 {
     const char* const given = std::getenv("SOURCE_DATE_EPOCH");
-    return given != nullptr
-        ? std::strtoll(given, nullptr, 10)
-        : std::chrono::duration_cast<std::chrono::seconds>(std::chrono::system_clock::now().time_since_epoch()).count();
+    if (given == nullptr) {
+        return std::chrono::duration_cast<std::chrono::seconds>(std::chrono::system_clock::now().time_since_epoch())
+            .count();
+    }
+    const std::string_view digits = given;
+    std::int64_t seconds = 0;
+    const auto read = std::from_chars(digits.begin(), digits.end(), seconds);
+    if (read.ec != std::errc() || read.ptr != digits.end() || seconds < 0) {
+        throw std::runtime_error("SOURCE_DATE_EPOCH must be a number of seconds since 1970");
+    }
+    return seconds;
 }
 
 void tell(const std::vector<std::string>& problems)
@@ -138,13 +180,17 @@ int main(int count, char** arguments)
 {
     using namespace corvellane;
     CLI::App program("Makes installers of a folder with products.", "corvellane-pack");
+    if (count == 2 && std::string_view(arguments[1]) == "--version") {
+        addCommonOptions(program, "");
+        return endOutput(program, readArguments(program, count, arguments).value_or(0));
+    }
     pack::Options options;
     pack::addOptions(program, options);
     if (const auto ending = readArguments(program, count, arguments)) {
-        return *ending;
+        return endOutput(program, *ending);
     }
     try {
-        return pack::make(options);
+        return endOutput(program, pack::make(options));
     } catch (const std::exception& error) {
         std::fprintf(stderr, "corvellane-pack: %s\n", error.what());
         return pack::notMade;
