@@ -22,6 +22,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr auto everybodysProgram = fs::perms::owner_all | fs::perms::group_read | fs::perms::group_exec
+    | fs::perms::others_read | fs::perms::others_exec;
+
 /// A folder that goes with all that is in it at the end.
 class Workshop {
 public:
@@ -197,7 +200,7 @@ private:
             run.emplace(workshop_ / (name + ".run"));
             run->write(Block(starterOf(ingredients_, Payload::archive, "")));
         }
-        const std::string checksum = writeBundle([&](const Block& bytes) {
+        std::string checksum = writeBundle([&](const Block& bytes) {
             if (archive) {
                 archive->write(bytes);
             }
@@ -207,12 +210,13 @@ private:
         });
         if (archive) {
             archive->close();
-            made_.emplace(name + ".tar.zst", std::async(std::launch::deferred, [checksum] { return checksum; }));
+            made_.emplace(name + ".tar.zst",
+                std::async(std::launch::deferred, [checksum]() mutable { return std::move(checksum); }));
         }
         if (run) {
             run->write(Block(checksum));
             made_.emplace(name + ".run", run->close());
-            fs::permissions(workshop_ / (name + ".run"), static_cast<fs::perms>(0755));
+            fs::permissions(workshop_ / (name + ".run"), everybodysProgram);
         }
     }
 
@@ -272,8 +276,9 @@ std::vector<std::string> makeInstallers(
     const Workshop workshop(output);
     std::vector<std::string> made = Maker(ingredients, formats, holdings, workshop).make(key);
     for (std::string& name : made) {
-        fs::rename(workshop / name, output + "/" + name);
-        name = (output + "/").append(name);
+        std::string path = (fs::path(output) / name).native();
+        fs::rename(workshop / name, path);
+        name = std::move(path);
     }
     return made;
 }

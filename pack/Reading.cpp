@@ -8,7 +8,7 @@ namespace corvellane::pack {
 
 // Its bytes are what is read or copied next: nothing is there before.
 Block::Block(std::size_t size)
-    : bytes_(std::make_shared_for_overwrite<char[]>(size))
+    : bytes_(std::make_shared_for_overwrite<char[]>(size)) // NOLINT(modernize-avoid-c-arrays): of any size
     , size_(size)
 {
 }

@@ -20,7 +20,7 @@ private:
     friend Block nextBlock(std::istream& stream);
     explicit Block(std::size_t size);
 
-    std::shared_ptr<char[]> bytes_;
+    std::shared_ptr<char[]> bytes_; // NOLINT(modernize-avoid-c-arrays): of any size
     std::size_t size_;
 };
 

@@ -9,6 +9,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <ranges>
 #include <set>
 #include <stdexcept>
 #include <vector>
@@ -74,8 +75,8 @@ void stage(const Contents& files, const fs::path& root, std::int64_t epoch)
             fs::create_directory(root / path);
         }
     }
-    for (auto entry = files.items().rbegin(); entry != files.items().rend(); ++entry) {
-        stage(entry->second, root / entry->first, epoch);
+    for (const auto& [path, item] : std::views::reverse(files.items())) {
+        stage(item, root / path, epoch);
     }
 }
 
