@@ -38,7 +38,8 @@ if(NOT CORVELLANE_SANITIZE)
     endif()
     if(LINUX)
         # Loaded anywhere, and without copies of Qt's own data, which Qt would not know: also where the linker compiles.
-        target_compile_options(corvellane-options INTERFACE -fPIC)
+        # None of its functions is replaced by another library's: they may be built into their callers.
+        target_compile_options(corvellane-options INTERFACE -fPIC -fno-semantic-interposition)
         target_link_options(corvellane-options INTERFACE
             -fPIC -pie LINKER:-z,relro LINKER:-z,now $<$<BOOL:${hasControlFlowProtection}>:LINKER:-z,shstk>)
     endif()

@@ -34,16 +34,17 @@ constexpr EightBytes eightTimes(std::uint8_t byte)
 
 constexpr EightBytes highBits = eightTimes(0x80);
 
+/// The bytes of which there are fewer than eight; zeros behind the end.
+EightBytes lastBytes(const char* from, const char* end);
+
 /// The bytes from there on; zeros behind the end.
 inline EightBytes eightBytes(const char* from, const char* end)
 {
-    EightBytes bytes;
-    if (end - from >= std::ptrdiff_t{sizeof bytes}) {
-        std::memcpy(&bytes, from, sizeof bytes);
-    } else {
-        bytes = 0;
-        std::memcpy(&bytes, from, static_cast<std::size_t>(end - from));
+    if (end - from < std::ptrdiff_t{sizeof(EightBytes)}) {
+        return lastBytes(from, end);
     }
+    EightBytes bytes = 0;
+    std::memcpy(&bytes, from, sizeof bytes);
     return std::endian::native == std::endian::little ? bytes : __builtin_bswap64(bytes);
 }
 

@@ -12,8 +12,6 @@ namespace {
 /// In words, and in bytes what it is known by.
 constexpr std::size_t longestRun = 64;
 constexpr std::size_t longestRunBytes = 4096;
-/// Of longer text several tokens are made, between which what is read can be given back.
-constexpr std::ptrdiff_t longestText = 1 << 17;
 
 constexpr std::array<std::int8_t, 256> hexDigits = [] {
     std::array<std::int8_t, 256> values{};
@@ -53,13 +51,16 @@ bool startsControl(const char* next, const char* end)
     return isKnownWord(next, end);
 }
 
-/// Kept out of what most text goes through.
-[[gnu::noinline]] std::size_t lengthOfRaw(const char* begin, const char* end)
-{
-    return textLength<TextBytes::all>({begin, end});
-}
-
 } // namespace
+
+EightBytes lastBytes(const char* from, const char* end)
+{
+    EightBytes bytes = 0;
+    for (const char* next = end; next != from;) {
+        bytes = bytes << 8U | static_cast<unsigned char>(*--next);
+    }
+    return bytes;
+}
 
 LeadingLetters leadingLettersOfMany(EightBytes first, const char* next, const char* end)
 {
@@ -75,15 +76,9 @@ LeadingLetters leadingLettersOfMany(EightBytes first, const char* next, const ch
     }
 }
 
-/// Stands on a byte that is text.
-void Lexer::lexText()
+std::size_t Lexer::rawLength(const char* begin, const char* end)
 {
-    const char* const end = end_ - next_ > longestText ? next_ + longestText : end_;
-    const std::size_t length = textLength<TextBytes::ascii>({next_, end});
-    token_.kind = Token::Kind::text;
-    token_.ascii = static_cast<unsigned char>(next_[length]) < 0x80;
-    token_.text = {next_, token_.ascii ? length : length + lengthOfRaw(next_ + length, end)};
-    next_ += token_.text.size();
+    return textLength<TextBytes::all>({begin, end});
 }
 
 /// False when what stood there means nothing.

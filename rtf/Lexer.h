@@ -102,6 +102,7 @@ private:
     const char* lexParameter(const char* next);
     const char* lexNegative(const char* next);
     void skipNoText();
+    static std::size_t rawLength(const char* begin, const char* end);
     bool lexBytes();
     void lexData();
 
@@ -137,6 +138,18 @@ inline const Token& Lexer::next()
     }
     token_.kind = Token::Kind::end;
     return token_;
+}
+
+/// Stands on a byte that is text. Of long text several tokens are made, between which what is read can be given back.
+inline void Lexer::lexText()
+{
+    constexpr std::ptrdiff_t longest = 1 << 17;
+    const char* const end = end_ - next_ > longest ? next_ + longest : end_;
+    const std::size_t length = textLength<TextBytes::ascii>({next_, end});
+    token_.kind = Token::Kind::text;
+    token_.ascii = static_cast<unsigned char>(next_[length]) < 0x80;
+    token_.text = {next_, token_.ascii ? length : length + rawLength(next_ + length, end)};
+    next_ += token_.text.size();
 }
 
 /// False when what stood there means nothing.
