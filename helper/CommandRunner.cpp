@@ -1,6 +1,6 @@
-// corvellane-command-runner [PRODUCTS]: carries out the commands of an installation with administrator rights. The
-// installer starts it once for a script, by pkexec or, when root runs it, directly, and ends it by closing its standard
-// input. PRODUCTS is the folder that products are copied from.
+// corvellane-command-runner install [PRODUCTS] | remove: carries out the commands of an installation, or of a removal,
+// with administrator rights. The installer starts it once for a script, by pkexec or, when root runs it, directly, and
+// ends it by closing its standard input. PRODUCTS is the folder that products are copied from.
 //
 // What the two say to each other stands in RunnerMessages.h, what a command can be in InstallCommand.h, where it may
 // read and write in InstallFolders.h, and how it is done in Execution.h. A request that breaks the rules ends the
@@ -97,14 +97,14 @@ std::vector<gid_t> groupsOf(const passwd& user)
     return groups;
 }
 
-Site siteFor(const passwd& user, const std::string& products)
+Site siteFor(const passwd& user, Task task, const std::string& products)
 {
     std::string home = user.pw_dir;
     while (home.size() > 1 && home.ends_with('/')) {
         home.pop_back();
     }
     return {installFolders("", home, products), {user.pw_uid, user.pw_gid, groupsOf(user), home},
-        std::getenv("PKEXEC_UID") == nullptr ? Owner::anybody : Owner::rootAlone};
+        std::getenv("PKEXEC_UID") == nullptr ? Owner::anybody : Owner::rootAlone, task};
 }
 
 } // namespace
@@ -113,11 +113,12 @@ int main(int count, char** arguments)
 {
     standAlone();
     const passwd* user = askingUser();
-    if (user == nullptr) {
-        std::fputs("corvellane-command-runner: started by nobody known; it is started by pkexec only\n", stderr);
+    const auto task = taskWith(count > 1 ? arguments[1] : "");
+    if (user == nullptr || !task) {
+        std::fputs("corvellane-command-runner: the installer starts it, for a user of this machine\n", stderr);
         return 2;
     }
-    const Site site = siteFor(*user, count > 1 ? arguments[1] : "");
+    const Site site = siteFor(*user, *task, count > 2 ? arguments[2] : "");
     clearenv();
     // Two scripts at once would undo each other's work.
     waitForTurn("corvellane-command-runner");

@@ -1,6 +1,7 @@
 #include "helper/Execution.h"
 
 #include "helper/MadeFolders.h"
+#include "helper/PlainFiles.h"
 #include "helper/Program.h"
 
 #include <fcntl.h>
@@ -77,11 +78,17 @@ const char* describe(int error)
     return error == ENOENT || error == ENOTDIR ? "Directory nonexistent" : std::strerror(error);
 }
 
+Reply refuse(const std::string& reason)
+{
+    return {refused, {}, reason + "\n"};
+}
+
 Reply write(const WriteText& command)
 {
-    const int file = open(command.path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    const int file = openAnew(command.path);
     if (file < 0) {
-        return {2, {}, "echo: cannot create " + command.path + ": " + describe(errno) + "\n"};
+        return errno == ENXIO ? refuse(isNoFile(command.path))
+                              : Reply{2, {}, "echo: cannot create " + command.path + ": " + describe(errno) + "\n"};
     }
     std::string_view rest = command.text;
     ssize_t count = 0;
@@ -146,11 +153,6 @@ bool isDone(const InstallCommand& command)
     }
     const auto* gone = std::get_if<Remove>(&command);
     return gone != nullptr && lstat(gone->path.c_str(), &status) != 0 && errno == ENOENT;
-}
-
-Reply refuse(const std::string& reason)
-{
-    return {refused, {}, reason + "\n"};
 }
 
 /// Where a command makes its change: "/a/b/" is the folder itself, "/a/b" lies in it.
@@ -218,6 +220,11 @@ Reply carryOut(const InstallCommand& command, std::string_view text, const Site&
     if (isDone(command)) {
         return {};
     }
+    // Root's folders hold what root has put there; a home, anything.
+    const auto* copy = isUsers(command, site.folders) ? std::get_if<Copy>(&command) : nullptr;
+    if (const auto reason = copy == nullptr ? std::nullopt : whyNotCopiedOver(*copy)) {
+        return refuse(*reason);
+    }
     const MadeFolders made(command);
     // Names in messages are UTF-8; a tool that had to load all of a language would take a quarter longer to start.
     const auto words = std::visit(Words(site.user), command);
@@ -231,6 +238,9 @@ Reply carryOut(std::string_view text, const Site& site)
     const Reading reading = readCommand(text, site.folders);
     if (!reading.command) {
         return refuse(reading.refusal);
+    }
+    if (!belongsTo(*reading.command, site.task)) {
+        return refuse("“" + std::string(text) + "” is not a command of a removal.");
     }
     const auto itself = [&] { return carryOut(*reading.command, text, site); };
     const bool isForAnother = isUsers(*reading.command, site.folders) && site.user.id != 0 && geteuid() == 0;

@@ -3,6 +3,7 @@
 #include "helper/InstallFolders.h"
 #include "helper/RootsAlone.h"
 #include "helper/RunnerMessages.h"
+#include "helper/Task.h"
 
 #include <sys/types.h>
 
@@ -27,6 +28,8 @@ struct Site {
     User user;
     /// Where root's own commands read and write; with the rights of root, nothing that others could lead elsewhere.
     Owner owner = Owner::anybody;
+    /// What may be done there.
+    Task task = Task::installation;
 };
 
 /// Whether the command is done as the user, because what it writes lies in the user's home.

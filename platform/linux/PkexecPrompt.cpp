@@ -10,8 +10,10 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string_view>
 
 namespace corvellane {
@@ -127,7 +129,8 @@ Expected<std::shared_ptr<script::Shell>> PkexecPrompt::authorize(const std::vect
     // the sake of others, so it gets none.
     std::error_code error;
     const std::string runner = std::filesystem::canonical(runner_, error);
-    const Invocation invocation{{pkexec_, "--disable-internal-agent", runner, products_}, {}};
+    Invocation invocation{{pkexec_, "--disable-internal-agent"}, {}};
+    std::ranges::move(runnerWords(runner, products_, commands), std::back_inserter(invocation.words));
     bool lacksAgent = false;
     auto shell = startRunner(invocation, [&](int status, const std::string& complaint) {
         lacksAgent = isWithoutAgent(status, complaint);

@@ -11,9 +11,10 @@ namespace corvellane {
 /// Asks through polkit: pkexec starts the command runner once, and all commands of a script go through it. No password
 /// passes through this process. What would keep the commands from being carried out is said before anybody is asked.
 ///
-/// Blocks for as long as the person takes. A declined window is `script::error_number::userCanceled`; anything else
-/// that keeps the runner from starting is `script::error_number::notPermitted`, and what would keep the commands from
-/// being carried out `script::error_number::eventFailed`, with a message that tells a person what to do.
+/// Blocks for as long as the person takes. A declined window is `script::error_number::userCanceled`; where there are
+/// no rights to be had it is `script::error_number::notPermitted`; a runner that cannot be started, and what would keep
+/// the commands from being carried out, is `script::error_number::eventFailed`, with a message that tells a person what
+/// to do.
 class PkexecPrompt : public script::AdministratorPrompt {
 public:
     /// `runner` is the path of the command runner, `products` the folder that its commands copy from, without a "/" at

@@ -11,7 +11,7 @@ Expected<std::shared_ptr<script::Shell>> RootPrompt::authorize(const std::vector
     if (const auto reason = whyNotInstallable(commands, site)) {
         return Unexpected(*reason);
     }
-    return startRunner({{runner_, products_}, {"SUDO_UID=" + std::to_string(person_.id)}},
+    return startRunner({runnerWords(runner_, products_, commands), {"SUDO_UID=" + std::to_string(person_.id)}},
         [](int, const std::string& complaint) { return runnerCannotStart(complaint); });
 }
 

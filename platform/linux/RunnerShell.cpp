@@ -1,6 +1,7 @@
 #include "platform/linux/RunnerShell.h"
 
 #include "helper/RunnerMessages.h"
+#include "helper/Task.h"
 #include "platform/linux/IsolatedChild.h"
 #include "platform/script/ErrorInformation.h"
 
@@ -79,6 +80,17 @@ Expected<script::CommandResult> RunnerShell::run(const std::string& command)
     return script::CommandResult{reply->status, std::move(reply->output), std::move(reply->errors)};
 }
 
+std::vector<std::string> runnerWords(
+    const std::string& runner, const std::string& products, const std::vector<std::string>& commands)
+{
+    const runner::Task task = runner::taskOf(commands);
+    std::vector<std::string> words{runner, std::string(wordFor(task))};
+    if (task == runner::Task::installation) {
+        words.push_back(products);
+    }
+    return words;
+}
+
 Expected<std::shared_ptr<script::Shell>> startRunner(const Invocation& invocation, const ExplainEnd& explain)
 {
     Channel channel = makeChannel();
@@ -108,7 +120,7 @@ Failure runnerCannotStart(std::string reason)
     reason.erase(reason.find_last_not_of(" \n") + 1);
     return {"The program that runs commands with administrator rights could not be started."
             + (reason.empty() ? reason : " " + reason),
-        script::error_number::notPermitted};
+        script::error_number::eventFailed};
 }
 
 } // namespace corvellane

@@ -6,6 +6,8 @@
 
 #include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include <sys/types.h>
 
@@ -34,6 +36,10 @@ private:
 /// Says what it means that the program by which a runner is started has ended instead, with this exit status and these
 /// words on its standard error.
 using ExplainEnd = std::function<Failure(int status, const std::string& complaint)>;
+
+/// The words that start a runner for these commands. A removal copies nothing, so it is not told of the products.
+std::vector<std::string> runnerWords(
+    const std::string& runner, const std::string& products, const std::vector<std::string>& commands);
 
 /// Starts a runner and waits until it is up.
 Expected<std::shared_ptr<script::Shell>> startRunner(const Invocation& invocation, const ExplainEnd& explain);

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>الاستيثاق مطلوب لتثبيت ملحقات Corvellane المحددة لجميع مستخدمي هذا الحاسوب</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>إزالة الملحقات</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>الاستيثاق مطلوب لإزالة ملحقات Corvellane المحددة لجميع مستخدمي هذا الحاسوب</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Необходимо е удостоверяване, за да се инсталират избраните приставки на Corvellane за всички потребители на този компютър</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Премахване на приставки</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Необходимо е удостоверяване, за да се премахнат избраните приставки на Corvellane за всички потребители на този компютър</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>K instalaci vybraných zásuvných modulů Corvellane pro všechny uživatele tohoto počítače je vyžadováno ověření</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Odebrat zásuvné moduly</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>K odebrání vybraných zásuvných modulů Corvellane pro všechny uživatele tohoto počítače je vyžadováno ověření</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Der kræves godkendelse for at installere de valgte Corvellane-udvidelsesmoduler for alle brugere af denne computer</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Fjern udvidelsesmoduler</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Der kræves godkendelse for at fjerne de valgte Corvellane-udvidelsesmoduler for alle brugere af denne computer</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Zum Installieren der ausgewählten Corvellane-Plug-ins für alle Benutzer dieses Rechners ist eine Legitimierung nötig</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Plug-ins entfernen</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Zum Entfernen der ausgewählten Corvellane-Plug-ins für alle Benutzer dieses Rechners ist eine Legitimierung nötig</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Απαιτείται πιστοποίηση για την εγκατάσταση των επιλεγμένων προσθέτων της Corvellane για όλους τους χρήστες αυτού του υπολογιστή</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Αφαίρεση προσθέτων</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Απαιτείται πιστοποίηση για την αφαίρεση των επιλεγμένων προσθέτων της Corvellane για όλους τους χρήστες αυτού του υπολογιστή</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

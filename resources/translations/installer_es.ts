@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Se requiere autenticación para instalar los complementos de Corvellane seleccionados para todos los usuarios de este equipo</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Quitar complementos</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Se requiere autenticación para quitar los complementos de Corvellane seleccionados para todos los usuarios de este equipo</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

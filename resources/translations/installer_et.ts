@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Valitud Corvellane’i pluginate paigaldamiseks kõigile selle arvuti kasutajatele on vajalik autentimine</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Pluginate eemaldamine</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Valitud Corvellane’i pluginate eemaldamiseks kõigilt selle arvuti kasutajatelt on vajalik autentimine</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

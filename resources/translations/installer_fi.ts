@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Valittujen Corvellane-liitännäisten asentaminen tämän tietokoneen kaikille käyttäjille vaatii tunnistautumisen</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Poista liitännäisiä</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Valittujen Corvellane-liitännäisten poistaminen tämän tietokoneen kaikilta käyttäjiltä vaatii tunnistautumisen</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

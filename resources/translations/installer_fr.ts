@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Une authentification est requise pour installer les modules Corvellane sélectionnés pour tous les utilisateurs de cet ordinateur</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Supprimer des modules</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Une authentification est requise pour supprimer les modules Corvellane sélectionnés pour tous les utilisateurs de cet ordinateur</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Tá fíordheimhniú de dhíth chun na breiseáin Corvellane roghnaithe a shuiteáil do gach úsáideoir ar an ríomhaire seo</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Bain breiseáin</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Tá fíordheimhniú de dhíth chun na breiseáin Corvellane roghnaithe a bhaint do gach úsáideoir ar an ríomhaire seo</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

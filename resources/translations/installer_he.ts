@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>נדרש אימות כדי להתקין את תוספי Corvellane הנבחרים לכל המשתמשים במחשב זה</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>הסרת תוספים</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>נדרש אימות כדי להסיר את תוספי Corvellane הנבחרים לכל המשתמשים במחשב זה</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

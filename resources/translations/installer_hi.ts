@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>इस कंप्यूटर के सभी उपयोगकर्ताओं के लिए चुने गए Corvellane प्लग-इन इंस्टॉल करने हेतु प्रमाणीकरण आवश्यक है</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>प्लग-इन हटाएँ</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>इस कंप्यूटर के सभी उपयोगकर्ताओं के लिए चुने गए Corvellane प्लग-इन हटाने हेतु प्रमाणीकरण आवश्यक है</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

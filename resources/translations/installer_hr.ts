@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Potrebna je ovjera za instalaciju odabranih Corvellane priključaka za sve korisnike ovog računala</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Uklanjanje priključaka</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Potrebna je ovjera za uklanjanje odabranih Corvellane priključaka za sve korisnike ovog računala</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

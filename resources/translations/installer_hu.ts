@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Hitelesítés szükséges a kiválasztott Corvellane bővítmények telepítéséhez a számítógép összes felhasználója számára</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Bővítmények eltávolítása</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Hitelesítés szükséges a kiválasztott Corvellane bővítmények eltávolításához a számítógép összes felhasználója számára</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

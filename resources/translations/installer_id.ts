@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Diperlukan autentikasi untuk memasang pengaya Corvellane yang dipilih bagi semua pengguna komputer ini</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Hapus pengaya</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Diperlukan autentikasi untuk menghapus pengaya Corvellane yang dipilih bagi semua pengguna komputer ini</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

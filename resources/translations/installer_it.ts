@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>È richiesta l’autenticazione per installare i plug-in Corvellane selezionati per tutti gli utenti di questo computer</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Rimuovi plug-in</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>È richiesta l’autenticazione per rimuovere i plug-in Corvellane selezionati per tutti gli utenti di questo computer</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>選択した Corvellane プラグインをこのコンピューターのすべてのユーザー用にインストールするには認証が必要です</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>プラグインの削除</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>選択した Corvellane プラグインをこのコンピューターのすべてのユーザーから削除するには認証が必要です</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>이 컴퓨터의 모든 사용자를 위해 선택한 Corvellane 플러그인을 설치하려면 인증이 필요합니다</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>플러그인 제거</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>이 컴퓨터의 모든 사용자에게서 선택한 Corvellane 플러그인을 제거하려면 인증이 필요합니다</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Norint įdiegti pasirinktus „Corvellane“ papildinius visiems šio kompiuterio naudotojams, reikia patvirtinti tapatybę</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Pašalinti papildinius</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Norint pašalinti pasirinktus „Corvellane“ papildinius visiems šio kompiuterio naudotojams, reikia patvirtinti tapatybę</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Lai uzinstalētu izvēlētos Corvellane spraudņus visiem šī datora lietotājiem, nepieciešama autentificēšanās</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Noņemt spraudņus</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Lai noņemtu izvēlētos Corvellane spraudņus visiem šī datora lietotājiem, nepieciešama autentificēšanās</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

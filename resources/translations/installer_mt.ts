@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Hija meħtieġa awtentikazzjoni biex jiġu installati l-plug-ins ta’ Corvellane magħżula għall-utenti kollha ta’ dan il-kompjuter</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Neħħi l-plug-ins</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Hija meħtieġa awtentikazzjoni biex jitneħħew il-plug-ins ta’ Corvellane magħżula għall-utenti kollha ta’ dan il-kompjuter</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

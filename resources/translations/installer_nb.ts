@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Autentisering kreves for å installere de valgte Corvellane-programtilleggene for alle brukere av denne datamaskinen</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Fjern programtillegg</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Autentisering kreves for å fjerne de valgte Corvellane-programtilleggene for alle brukere av denne datamaskinen</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

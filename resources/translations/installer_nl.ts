@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Authenticatie is vereist om de geselecteerde Corvellane-plug-ins voor alle gebruikers van deze computer te installeren</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Plug-ins verwijderen</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Authenticatie is vereist om de geselecteerde Corvellane-plug-ins voor alle gebruikers van deze computer te verwijderen</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Wymagane jest uwierzytelnienie, aby zainstalować wybrane wtyczki Corvellane dla wszystkich użytkowników tego komputera</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Usuwanie wtyczek</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Wymagane jest uwierzytelnienie, aby usunąć wybrane wtyczki Corvellane dla wszystkich użytkowników tego komputera</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>É necessária autenticação para instalar os plug-ins da Corvellane selecionados para todos os utilizadores deste computador</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Remover plug-ins</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>É necessária autenticação para remover os plug-ins da Corvellane selecionados para todos os utilizadores deste computador</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Este necesară autentificarea pentru a instala modulele Corvellane selectate pentru toți utilizatorii acestui calculator</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Eliminarea modulelor</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Este necesară autentificarea pentru a elimina modulele Corvellane selectate pentru toți utilizatorii acestui calculator</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

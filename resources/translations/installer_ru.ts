@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Для установки выбранных модулей Corvellane для всех пользователей этого компьютера требуется аутентификация</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Удаление модулей</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Для удаления выбранных модулей Corvellane для всех пользователей этого компьютера требуется аутентификация</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Na inštaláciu vybraných zásuvných modulov Corvellane pre všetkých používateľov tohto počítača je potrebné overenie</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Odstrániť zásuvné moduly</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Na odstránenie vybraných zásuvných modulov Corvellane pre všetkých používateľov tohto počítača je potrebné overenie</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

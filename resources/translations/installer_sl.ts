@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Za namestitev izbranih vstavkov Corvellane za vse uporabnike tega računalnika je potrebna overitev</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Odstranitev vstavkov</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Za odstranitev izbranih vstavkov Corvellane za vse uporabnike tega računalnika je potrebna overitev</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Autentisering krävs för att installera de valda Corvellane-insticksmodulerna för alla användare av den här datorn</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Ta bort insticksmoduler</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Autentisering krävs för att ta bort de valda Corvellane-insticksmodulerna för alla användare av den här datorn</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

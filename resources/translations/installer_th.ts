@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>ต้องยืนยันตัวตนเพื่อติดตั้งปลั๊กอิน Corvellane ที่เลือกสำหรับผู้ใช้ทุกคนของคอมพิวเตอร์นี้</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>ลบปลั๊กอิน</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>ต้องยืนยันตัวตนเพื่อลบปลั๊กอิน Corvellane ที่เลือกสำหรับผู้ใช้ทุกคนของคอมพิวเตอร์นี้</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

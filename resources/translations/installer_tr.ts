@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Seçilen Corvellane eklentilerini bu bilgisayarın tüm kullanıcıları için kurmak kimlik doğrulaması gerektirir</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Eklentileri kaldır</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Seçilen Corvellane eklentilerini bu bilgisayarın tüm kullanıcıları için kaldırmak kimlik doğrulaması gerektirir</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Для встановлення вибраних модулів Corvellane для всіх користувачів цього комп’ютера потрібна автентифікація</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Вилучення модулів</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Для вилучення вибраних модулів Corvellane для всіх користувачів цього комп’ютера потрібна автентифікація</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>Cần xác thực để cài đặt các phần bổ trợ Corvellane đã chọn cho mọi người dùng của máy tính này</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>Gỡ bỏ phần bổ trợ</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>Cần xác thực để gỡ bỏ các phần bổ trợ Corvellane đã chọn cho mọi người dùng của máy tính này</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>要为此计算机的所有用户安装所选的 Corvellane 插件，需要进行身份验证</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>移除插件</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>要为此计算机的所有用户移除所选的 Corvellane 插件，需要进行身份验证</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

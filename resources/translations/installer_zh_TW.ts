@@ -133,6 +133,14 @@
         <source>Authentication is required to install the selected Corvellane plug-ins for all users of this computer</source>
         <translation>要為這部電腦的所有使用者安裝所選的 Corvellane 外掛程式，需要進行身分驗證</translation>
     </message>
+    <message>
+        <source>Remove plug-ins</source>
+        <translation>移除外掛程式</translation>
+    </message>
+    <message>
+        <source>Authentication is required to remove the selected Corvellane plug-ins for all users of this computer</source>
+        <translation>要為這部電腦的所有使用者移除所選的 Corvellane 外掛程式，需要進行身分驗證</translation>
+    </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -139,6 +140,38 @@ TEST_F(ExecutionTest, saysWhatTheToolsSay)
     site.user.home = base + "gone";
     expect(R"(mkdir -p "@home/L/a")", 126, "There is no home folder “" + base + "gone” to install into.");
     expect("id", 126, "“id” is not a command of an installation.");
+}
+
+/// What a person has put into the place of a file holds up nobody; links to files are followed, as a shell follows
+/// them.
+TEST_F(ExecutionTest, waitsForNothingThatStandsInAFilesPlace)
+{
+    shell("mkdir -p A/x/sub; echo x > A/x/sub/preset; cd home/L; mkdir -p f/sub p/sub l/sub; mkfifo f/sub/preset pipe; "
+          "ln -s ../../pipe p/sub/preset; ln -s pipe linked; ln -s /dev/null device; echo old > l/file; "
+          "ln -s ../file l/sub/preset; [ $(id -u) != 0 ] || chown -h -R 65534:65534 .");
+    const std::vector<std::pair<std::string, std::string>> rows{
+        {R"(echo "a" > "@home/L/pipe")", "pipe"},
+        {R"(echo "a" > "@home/L/linked")", "linked"},
+        {R"(echo "a" > "@home/L/device")", "device"},
+        {R"(cp -R -f "@A/x/" "@home/L/f/")", "f/sub/preset"},
+        {R"(cp -R -f "@A/x/" "@home/L/p/")", "p/sub/preset"},
+        {R"(cp -R -f "@A/x/sub" "@home/L/f/")", "f/sub/preset"},
+    };
+    const auto expectRefusals = [&] {
+        for (const auto& [command, path] : rows) {
+            EXPECT_THAT(run(command).errors, HasSubstr("home/L/" + path + "” is a pipe, a device or a socket"));
+        }
+    };
+    expectRefusals();
+    const int reader = open((base + "home/L/pipe").c_str(), O_RDONLY | O_NONBLOCK);
+    expectRefusals();
+    char nothing = 0;
+    EXPECT_EQ(read(reader, &nothing, 1), 0) << "also while somebody reads";
+    close(reader);
+    EXPECT_EQ(run(R"(cp -R -f "@A/x/" "@home/L/l/")").errors, "");
+    EXPECT_EQ(run(R"(echo "longer" > "@home/L/l/sub/preset")").errors, "");
+    EXPECT_EQ(run(R"(echo "new" > "@home/L/l/sub/preset")").errors, "");
+    shell("test \"$(cat home/L/l/file)\" = new && test -L home/L/l/sub/preset");
 }
 
 TEST_F(ExecutionTest, doesAsTheUserWhatLiesInTheHome)

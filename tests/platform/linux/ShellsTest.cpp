@@ -80,7 +80,8 @@ protected:
         socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data());
         const FileDescriptor theirs(ends[1]);
         const FileDescriptor nothing(open("/dev/null", O_RDWR | O_CLOEXEC));
-        runner = *startChild({{COMMAND_RUNNER}, {"PKEXEC_UID=" + user}}, {theirs.get(), theirs.get(), nothing.get()});
+        runner = *startChild(
+            {{COMMAND_RUNNER, task}, {"PKEXEC_UID=" + user}}, {theirs.get(), theirs.get(), nothing.get()});
         return FileDescriptor(ends[0]);
     }
 
@@ -118,6 +119,7 @@ protected:
         return bytes;
     }
 
+    std::string task = "install";
     pid_t runner = -1;
     const std::string up{runner::up};
 };
@@ -131,6 +133,25 @@ TEST_F(RunnerTest, refusesWhatIsNoCommandOfAnInstallation)
     for (const std::string path : {"/etc/passwd", "/Applications/Corvellane/../x"}) {
         EXPECT_EQ(answerTo(request("rm -R -f \"" + path + "\"")).first,
             up + refusal("“" + path + "” does not lie in a folder of an installation."));
+    }
+}
+
+TEST_F(RunnerTest, onlyTakesAwayForWhoHasAgreedToARemoval)
+{
+    const std::string element = "\"/Applications/Corvellane/gone\"";
+    const std::string removing = request("rm -R -f " + element)
+        + request("[ \"$(readlink -n " + element + ")\" != " + element + " ] || rm -f " + element);
+    task = "remove";
+    const std::string done = answerTo(removing).first;
+    for (const std::string& command : {"mkdir -p " + element, "cp -R -f " + element + " \"/Applications/Corvellane/\"",
+             "ln -f -h -s " + element + " " + element, "echo \"x\" > " + element}) {
+        EXPECT_EQ(answerTo(request(command)).first, up + refusal("“" + command + "” is not a command of a removal."));
+    }
+    task = "install";
+    EXPECT_EQ(answerTo(removing).first, done) << "an installation removes what it replaces";
+    for (const std::string other : {"", "list", "/opt/products"}) {
+        task = other;
+        EXPECT_EQ(answerTo(removing), std::pair(std::string(), 2)) << other;
     }
 }
 
