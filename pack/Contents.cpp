@@ -60,6 +60,11 @@ void Contents::addText(const std::string& path, const std::string& text, bool ex
     add(path, {Item::Kind::text, text, executable});
 }
 
+void Contents::addLink(const std::string& path, const std::string& target)
+{
+    add(path, {Item::Kind::link, target, false});
+}
+
 void Contents::addFolder(const std::string& path)
 {
     add(path, {Item::Kind::folder, {}, false});

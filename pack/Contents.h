@@ -29,6 +29,7 @@ public:
     void addTree(const std::string& path, const std::string& folder);
     void addFile(const std::string& path, const std::string& file);
     void addText(const std::string& path, const std::string& text, bool executable = false);
+    void addLink(const std::string& path, const std::string& target);
     void addFolder(const std::string& path);
 
     const std::map<std::string, Item>& items() const { return items_; }

@@ -65,22 +65,6 @@ Contents debianFilesOf(const Ingredients& ingredients)
     return contents;
 }
 
-namespace {
-
-/// What dpkg runs before it removes the package: the plug-ins go by the package's own program, as long as it is there.
-std::string wordsBeforeRemoval(const std::string& package)
-{
-    return "#!/bin/sh\nset -e\n"
-           "if [ \"$1\" = remove ] && [ -n \"$(ls -A /Applications/Corvellane 2>/dev/null)\" ]; then\n"
-           "    echo \""
-        + package
-        + ": the plug-ins that it has installed stay. Who wants them gone as well installs the\"\n"
-          "    echo \"package again, runs \\\"sudo /usr/lib/"
-        + package + "/bin/corvellane-cli remove\\\", and then removes it.\"\nfi\n";
-}
-
-} // namespace
-
 Contents debianControlOf(const Ingredients& ingredients, const Contents& files)
 {
     const Description& description = ingredients.description;
@@ -92,7 +76,8 @@ Contents debianControlOf(const Ingredients& ingredients, const Contents& files)
             + "\nRecommends: fonts-liberation, polkit-1-auth-agent, qt6-wayland\nSection: graphics\nPriority: optional"
             + "\nHomepage: " + description.homepage + "\nDescription: " + summaryOf(description) + "\n "
             + indented(inWords(description), " "));
-    contents.addText("prerm", wordsBeforeRemoval(description.packageName()), true);
+    contents.addText(
+        "prerm", "#!/bin/sh\nset -e\n[ \"$1\" = remove ] || exit 0\n" + wordsBeforeRemoval(description), true);
     return contents;
 }
 

@@ -1,5 +1,6 @@
 #include "pack/Installer.h"
 
+#include "pack/Archive.h"
 #include "pack/Reading.h"
 #include "pack/Starter.h"
 #include "pack/Templates.h"
@@ -123,6 +124,11 @@ Contents systemFilesOf(const Ingredients& ingredients)
     addDesktopText("applications", ".desktop", Quoting::none);
     addDesktopText("metainfo", ".metainfo.xml", Quoting::xml);
     addDesktopText("polkit-1/actions", ".policy", Quoting::xml);
+    contents.addLink(
+        "usr/bin/" + commandOf(description), "../lib/" + description.packageName() + "/bin/corvellane-cli");
+    const std::string manual = textOf(ingredients.kit + "/desktop/corvellane-cli.1");
+    contents.addText("usr/share/man/man1/" + commandOf(description) + ".1.gz",
+        gzipped(retold(manual, description, ingredients.epoch, Quoting::none)));
     contents.addFile("usr/share/icons/hicolor/scalable/apps/" + description.identifier + ".svg",
         ingredients.kit + "/desktop/" + identifierOfSamples + ".svg");
     return contents;

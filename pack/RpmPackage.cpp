@@ -37,7 +37,8 @@ std::string filesLinesOf(const Contents& files, const std::string& package)
 {
     std::set<std::string> lines{"\"/usr/lib/" + package + "\"", "\"/Library\""};
     for (const auto& [path, item] : files.items()) {
-        if (path.starts_with("usr/share/") && item.kind != Item::Kind::folder) {
+        const bool isAmongOthers = path.starts_with("usr/share/") || path.starts_with("usr/bin/");
+        if (isAmongOthers && item.kind != Item::Kind::folder) {
             lines.insert((path.starts_with("usr/share/licenses/") ? "%license " : "") + ("\"/" + path) + "\"");
         }
     }
@@ -142,9 +143,11 @@ std::string rpmSpecOf(const Ingredients& ingredients, const Contents& files)
         + "\nRequires: (qt6-qtbase-gui or libQt6Gui6)\nRequires: /usr/bin/pkexec\nRequires: hicolor-icon-theme\n"
           "Recommends: (qt6-qtwayland or qt6-wayland)\nRecommends: (liberation-sans-fonts or liberation-fonts)\n"
           "\n%description\n"
-        + literal(inWords(description)) + "\n%files\n%defattr(-,root,root,-)\n" + filesLinesOf(files, package)
-        + "\n%changelog\n* " + rpmDateOf(ingredients.epoch) + " " + literal(description.contact) + " - "
-        + description.version + "-1\n- " + literal(indented(description.notes, "  ")) + "\n";
+        + literal(inWords(description)) + "\n%preun\n[ \"$1\" = 0 ] || exit 0\n"
+        + literal(wordsBeforeRemoval(description)) + "\n%files\n%defattr(-,root,root,-)\n"
+        + filesLinesOf(files, package) + "\n%changelog\n* " + rpmDateOf(ingredients.epoch) + " "
+        + literal(description.contact) + " - " + description.version + "-1\n- "
+        + literal(indented(description.notes, "  ")) + "\n";
 }
 
 std::string makeRpmPackage(const Ingredients& ingredients, const Contents& files, const std::string& folder)

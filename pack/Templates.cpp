@@ -35,6 +35,13 @@ std::string formatted(std::int64_t epoch, const char* format)
     return {text.data(), std::strftime(text.data(), text.size(), format, std::gmtime(&time))};
 }
 
+std::string inUpperCase(std::string name)
+{
+    std::ranges::transform(name, name.begin(),
+        [](char letter) { return 'a' <= letter && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter; });
+    return name;
+}
+
 } // namespace
 
 std::string quoted(const std::string& text, Quoting quoting)
@@ -62,9 +69,25 @@ std::string retold(const std::string& sample, const Description& description, st
             {"The authors of the Corvellane Plugin Installer", inside(description.publisher)},
             {"Corvellane Plugin Installer", inside(description.name)},
             {"https://corvellane.example/", inside(description.homepage)}, {"@PROJECT_VERSION@", description.version},
-            {"@DATE@", dateOf(epoch)}, {"/usr/lib/corvellane-installer", programs},
+            {"@DATE@", dateOf(epoch)}, {R"(corvellane\-cli)", description.packageName() + R"(\-cli)"},
+            {"CORVELLANE-CLI", inUpperCase(commandOf(description))}, {"/usr/lib/corvellane-installer", programs},
             {"Exec=corvellane-installer", "Exec=" + programs + "/bin/corvellane-installer"},
             {"Corvellane", inside(description.publisher)}});
+}
+
+std::string commandOf(const Description& description)
+{
+    return description.packageName() + "-cli";
+}
+
+std::string wordsBeforeRemoval(const Description& description)
+{
+    return "if [ -n \"$(ls -A /Applications/Corvellane 2>/dev/null)\" ]; then\n    echo \"" + description.packageName()
+        + ": the plug-ins that it has installed stay. Who wants them gone as well installs the\"\n"
+          "    echo \"package again, runs \\\"sudo "
+        + commandOf(description)
+        + " remove\\\", for other users with\"\n"
+          "    echo \"\\\"--for-user NAME\\\", and then removes it.\"\nfi\n";
 }
 
 std::string dateOf(std::int64_t epoch)

@@ -17,6 +17,12 @@ std::string quoted(const std::string& text, Quoting quoting);
 /// homepage and version, and the place of its programs. The date is that of `epoch`, in seconds since 1970.
 std::string retold(const std::string& sample, const Description& description, std::int64_t epoch, Quoting quoting);
 
+/// The name on the path that the package gives the program for whoever cannot click.
+std::string commandOf(const Description& description);
+
+/// Lines of a shell's that tell, while there are plug-ins, how they are removed as well: that needs the package.
+std::string wordsBeforeRemoval(const Description& description);
+
 /// "2026-11-24", "Tue Nov 24 2026", and "Tue, 24 Nov 2026 02:33:07 +0000"; in UTC.
 std::string dateOf(std::int64_t epoch);
 std::string rpmDateOf(std::int64_t epoch);

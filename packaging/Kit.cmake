@@ -19,7 +19,7 @@ endforeach()
 foreach(ending desktop metainfo.xml policy)
     file(COPY ${BUILD}/packaging/com.corvellane.PluginInstaller.${ending} DESTINATION ${KIT}/desktop)
 endforeach()
-file(COPY ${SOURCE}/packaging/com.corvellane.PluginInstaller.svg DESTINATION ${KIT}/desktop)
+file(COPY ${SOURCE}/packaging/com.corvellane.PluginInstaller.svg ${SOURCE}/packaging/man/corvellane-cli.1 DESTINATION ${KIT}/desktop)
 file(COPY ${SOURCE}/packaging/copyright ${SOURCE}/packaging/starter DESTINATION ${KIT})
 
 # What the programs need of a Debian system.
