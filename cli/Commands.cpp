@@ -1,6 +1,7 @@
 #include "cli/Commands.h"
 
 #include "base/PathNames.h"
+#include "cli/Advice.h"
 #include "cli/Removal.h"
 #include "helper/Turn.h"
 #include "install/InstallScript.h"
@@ -28,10 +29,18 @@ void waitForOthers()
     }
 }
 
-void addComparison(Answer& answer, const MadeElement& element)
+/// Has an answer filled in from what carrying the order out makes; nothing can be said without knowing that.
+template <typename Fill>
+Answer answerFrom(const char* command, const Order& order, Fill fill)
 {
-    auto [state, differences] = compare(element);
-    answer.elements.push_back({element.path, std::string(nameOf(state)), std::move(differences)});
+    Answer answer = answerTo(command, order);
+    if (const auto installation = whatIsMade(order)) {
+        fill(answer, *installation);
+    } else {
+        answer.status = Status::failed;
+        answer.message = withAdvice(installation.error().message);
+    }
+    return answer;
 }
 
 /// Runs a script for each person, until one fails; an empty one is passed over.
@@ -93,10 +102,8 @@ void checkAgain(Answer& answer, const Installation& installation, const Order& i
     }
 }
 
-Answer installWhatIsNeeded(const Order& order)
+void installWhatIsNeeded(Answer& answer, const Order& order, const Installation& installation)
 {
-    Answer answer = answerTo("install", order);
-    const Installation installation = whatIsMade(order);
     Order needed = order;
     needed.elements.clear();
     Removal clearance;
@@ -113,7 +120,24 @@ Answer installWhatIsNeeded(const Order& order)
         installAfter(answer, needed, clearance);
         checkAgain(answer, installation, needed);
     }
-    return answer;
+}
+
+void removeAll(Answer& answer, const Order& order, const Installation& installation)
+{
+    Removal removal = removalOf(installation);
+    for (const MadeElement& element : installation.elements) {
+        answer.elements.push_back({element.path, isAnyThere(element) ? "removed" : "absent"});
+    }
+    runForEach(answer, order, "Removing", [&](std::size_t index) {
+        const Removal part = partFor(removal, order.persons, index);
+        ScriptText script;
+        appendRemoval(script, part);
+        return part.isEmpty() ? "" : std::move(script).finish();
+    });
+    if (answer.status != Status::done) {
+        answer.elements.clear();
+    }
+    answer.kept = std::move(removal.kept);
 }
 
 } // namespace
@@ -129,44 +153,35 @@ Answer list(const Order& order)
 
 Answer verify(const Order& order)
 {
-    Answer answer = answerTo("verify", order);
-    answer.changed.reset();
-    for (const MadeElement& element : whatIsMade(order).elements) {
-        addComparison(answer, element);
-        if (answer.elements.back().state != nameOf(ElementState::asShipped)) {
-            answer.status = Status::failed;
-            answer.message = "Not everything is as shipped.";
+    Answer answer = answerFrom("verify", order, [](Answer& filled, const Installation& installation) {
+        for (const MadeElement& element : installation.elements) {
+            auto [state, differences] = compare(element);
+            if (state != ElementState::asShipped) {
+                filled.status = Status::failed;
+                filled.message = "Not everything is as shipped.";
+            }
+            filled.elements.push_back({element.path, std::string(nameOf(state)), std::move(differences)});
         }
-    }
+    });
+    answer.changed.reset();
     return answer;
 }
 
 Answer install(const Order& order, bool onlyIfNeeded)
 {
     waitForOthers();
-    return onlyIfNeeded ? installWhatIsNeeded(order) : installAll(order);
+    if (!onlyIfNeeded) {
+        return installAll(order);
+    }
+    return answerFrom(
+        "install", order, [&](Answer& answer, const Installation& made) { installWhatIsNeeded(answer, order, made); });
 }
 
 Answer remove(const Order& order)
 {
     waitForOthers();
-    Answer answer = answerTo("remove", order);
-    const Installation installation = whatIsMade(order);
-    Removal removal = removalOf(installation);
-    for (const MadeElement& element : installation.elements) {
-        answer.elements.push_back({element.path, isAnyThere(element) ? "removed" : "absent"});
-    }
-    runForEach(answer, order, "Removing", [&](std::size_t index) {
-        const Removal part = partFor(removal, order.persons, index);
-        ScriptText script;
-        appendRemoval(script, part);
-        return part.isEmpty() ? "" : std::move(script).finish();
-    });
-    if (answer.status != Status::done) {
-        answer.elements.clear();
-    }
-    answer.kept = std::move(removal.kept);
-    return answer;
+    return answerFrom(
+        "remove", order, [&](Answer& answer, const Installation& made) { removeAll(answer, order, made); });
 }
 
 } // namespace corvellane

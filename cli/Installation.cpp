@@ -5,6 +5,7 @@
 #include "install/ElementKind.h"
 #include "install/InstallScript.h"
 #include "tools/ModelRun.h"
+#include "tools/PrintableText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -76,11 +77,16 @@ std::vector<std::string> elementsFor(const Order& order, std::size_t index)
     return elements;
 }
 
-Installation whatIsMade(const Order& order)
+Expected<Installation> whatIsMade(const Order& order)
 {
     ModelTree shipped;
     for (const std::string& element : order.elements) {
         readIntoModel(shipped, element);
+    }
+    const auto unreadable = std::ranges::find_if(
+        shipped.below(order.productsFolder), [](const auto& entry) { return !entry.second.failure.empty(); });
+    if (unreadable != shipped.below(order.productsFolder).end()) {
+        return Unexpected({quotedPrintable(unreadable->first) + " cannot be read: " + unreadable->second.failure, 0});
     }
     Sorter sorter(order);
     for (std::size_t index = 0; index < order.persons.size(); ++index) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Expected.h"
 #include "install/HostPaths.h"
 #include "platform/posix/UserAccount.h"
 #include "tools/ModelTree.h"
@@ -63,7 +64,8 @@ struct Order {
 /// make something in a home.
 std::vector<std::string> elementsFor(const Order& order, std::size_t index);
 
-/// What carrying the order out makes: its scripts are carried out on a model. Reads the elements, no host folder.
-Installation whatIsMade(const Order& order);
+/// What carrying the order out makes: its scripts are carried out on a model. Reads the elements, no host folder. Fails
+/// when something of them cannot be read, with a message for a person.
+Expected<Installation> whatIsMade(const Order& order);
 
 } // namespace corvellane

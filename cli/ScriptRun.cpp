@@ -1,6 +1,7 @@
 #include "cli/ScriptRun.h"
 
 #include "base/WorkerThread.h"
+#include "cli/Advice.h"
 #include "install/ScriptOutcome.h"
 #include "platform/posix/StreamConsole.h"
 #include "platform/script/ErrorInformation.h"
@@ -38,19 +39,12 @@ private:
     bool isRefused_ = false;
 };
 
-std::string inOneLine(std::string text)
-{
-    for (auto end = text.find('\n'); end != std::string::npos; end = text.find('\n', end)) {
-        text.replace(end, 1, "; ");
-    }
-    return text;
-}
-
 Ending endingOf(const ScriptExecution& execution, const WatchedPrompt& prompt)
 {
     const auto text = resultText(execution);
     if (!text) {
-        return {Status::failed, execution.errorDescription.value_or("The script gave no result."), prompt.isGranted()};
+        return {Status::failed, withAdvice(execution.errorDescription.value_or("The script gave no result.")),
+            prompt.isGranted()};
     }
     switch (outcomeOf(*text)) {
     case ScriptOutcome::succeeded:
@@ -60,7 +54,10 @@ Ending endingOf(const ScriptExecution& execution, const WatchedPrompt& prompt)
     case ScriptOutcome::failed:
         break;
     }
-    return {prompt.isRefused() ? Status::notAuthorized : Status::failed, inOneLine(*text), prompt.isGranted()};
+    if (prompt.isRefused()) {
+        return {Status::notAuthorized, *text};
+    }
+    return {Status::failed, withAdvice(*text), prompt.isGranted()};
 }
 
 /// Shows how far a script has come, until it has ended.

@@ -1,25 +1,16 @@
 // corvellane-cli list|install|verify|remove: the installer without a window, for whoever cannot click. It installs as
 // the wizard does, and compares with what is shipped or takes away what installing makes; docs/cli.md.
 
-#include "base/PathNames.h"
+#include "cli/Choice.h"
 #include "cli/Commands.h"
-#include "install/ElementKind.h"
 #include "platform/Resources.h"
-#include "platform/posix/PosixStandardFolders.h"
 #include "platform/posix/ProcessSetup.h"
 #include "platform/posix/StreamConsole.h"
-#include "products/Discovery.h"
-#include "products/Product.h"
-#include "products/ProductSelection.h"
 #include "tools/AgreementReport.h"
 #include "tools/CommandLine.h"
-#include "tools/PrintableText.h"
-#include "tools/ProductNames.h"
 
 #include <algorithm>
 #include <cstdio>
-#include <filesystem>
-#include <iterator>
 #include <span>
 #include <string_view>
 
@@ -80,8 +71,6 @@ void addCommands(CLI::App& program, Options& options)
     }
 }
 
-constexpr const char* unpackAnew = " Unpack or install the installer anew, as root.";
-
 /// Prints what is said, and gives the exit status.
 int say(const CLI::App& program, const Options& options, const Answer& answer)
 {
@@ -97,106 +86,33 @@ int say(const CLI::App& program, const Options& options, const Answer& answer)
     return static_cast<int>(answer.status);
 }
 
-Answer refusal(const std::string& command, Status status, std::string message)
+Answer refusal(const std::string& command, Refusal reason)
 {
-    Answer answer{.command = command, .status = status, .message = std::move(message)};
+    Answer answer{.command = command, .status = reason.status, .message = std::move(reason.message)};
     answer.changed = command == "install" || command == "remove" ? std::optional(false) : std::nullopt;
     return answer;
 }
 
-/// Fills in the persons; gives what is wrong with them.
-std::optional<Answer> choosePersons(Order& order, const std::string& command, const std::vector<std::string>& names)
+/// Why nothing is to be done with the order, which is filled in; absent when nothing is in the way.
+std::optional<Refusal> prepare(Order& order, const System& system, const std::string& command, const Options& options)
 {
-    std::vector<UserAccount> accounts;
-    for (const std::string& name : names) {
-        const auto account = userNamed(name);
-        if (!account) {
-            return refusal(command, Status::wrongUsage, "there is no user “" + name + "”");
-        }
-        if (command != "verify" && !hasRootRights() && account->id != realUser().id) {
-            return refusal(command, Status::notAuthorized, "only root does this for another user; start it with sudo");
-        }
-        if (std::ranges::find(accounts, account->id, &UserAccount::id) == accounts.end()) {
-            accounts.push_back(*account);
-        }
+    const bool changes = command == "install" || command == "remove";
+    if (command == "install" && !options.acceptsLicense) {
+        return Refusal{Status::wrongUsage,
+            "nothing is installed without --accept-license; --license prints the licence agreement"};
     }
-    for (const UserAccount& account : accounts.empty() ? std::vector{realUser()} : accounts) {
-        const PosixStandardFolders folders("", account);
-        order.persons.push_back({account, hostPathsOf(Product(folders))});
-    }
-    return std::nullopt;
-}
-
-/// Fills in the elements of the named products, or of all; gives what is wrong with them.
-std::optional<Answer> chooseElements(
-    Order& order, const System& system, const std::string& command, const std::vector<std::string>& names)
-{
-    const auto found = discoverProducts(*system.resources, *system.files);
-    if (!found) {
-        return refusal(command, Status::failed, found.error().message + unpackAnew);
-    }
-    const ProductSelection all(*found);
-    if (all.empty()) {
-        return refusal(command, Status::failed, std::string("There is no product in this installer.") + unpackAnew);
-    }
-    std::vector<std::string> chosen = names.empty() ? *all.locations() : std::vector<std::string>();
-    for (const std::string& name : names) {
-        const std::string* product = productNamed(*all.locations(), name);
-        if (product == nullptr) {
-            return refusal(command, Status::wrongUsage, "there is no product “" + name + "”; “list” names them");
-        }
-        chosen.push_back(*product);
-    }
-    for (const std::string& product : *all.locations()) {
-        const bool isChosen = std::ranges::find(chosen, product) != chosen.end();
-        auto elements = isChosen ? foldersIn(*system.files, product) : Expected<std::vector<std::string>>();
-        if (!elements) {
-            return refusal(command, Status::failed, elements.error().message + unpackAnew);
-        }
-        std::ranges::move(*elements, std::back_inserter(order.elements));
-    }
-    return std::nullopt;
-}
-
-/// Why an installation or a removal must not begin.
-std::optional<Answer> whyNotBegun(const Order& order, const std::string& command)
-{
-    const bool isForHomes = std::ranges::find(order.elements, ElementKind::lightroom, &kindOf) != order.elements.end();
-    for (const Person& person : order.persons) {
-        std::error_code error;
-        if (isForHomes && !std::filesystem::exists(person.account.home, error)) {
-            return refusal(command, Status::failed,
-                "the home “" + person.account.home + "” of the user " + person.account.name
-                    + " is not there; mount it, or leave that user out");
-        }
-    }
-    return std::nullopt;
-}
-
-std::optional<Answer> whyNotLicensed(const System& system, const Options& options)
-{
-    if (!options.acceptsLicense) {
-        return refusal("install", Status::wrongUsage,
-            "nothing is installed without --accept-license; --license prints the licence agreement");
-    }
-    if (!system.resources->file("CorvellaneEULA", "rtf")) {
-        return refusal("install", Status::failed,
-            std::string("The licence agreement CorvellaneEULA.rtf is missing.") + unpackAnew);
-    }
-    return std::nullopt;
+    auto refused = command == "install" ? whyWithoutLicense(*system.resources) : std::nullopt;
+    refused = refused ? refused : chooseElements(order, *system.resources, *system.files, options.select);
+    refused = refused ? refused : choosePersons(order, options.users, changes);
+    return refused || !changes ? refused : whyHomeless(order);
 }
 
 Answer carryOut(const std::string& command, const Options& options)
 {
     const System system;
     Order order{system.resources->folder("Products").value_or(""), {}, {}};
-    auto refused = command == "install" ? whyNotLicensed(system, options) : std::nullopt;
-    refused = refused ? refused : chooseElements(order, system, command, options.select);
-    refused = refused ? refused : choosePersons(order, command, options.users);
-    const bool changes = command == "install" || command == "remove";
-    refused = refused || !changes ? refused : whyNotBegun(order, command);
-    if (refused) {
-        return *refused;
+    if (auto refused = prepare(order, system, command, options)) {
+        return refusal(command, *std::move(refused));
     }
     if (command == "install") {
         return install(order, options.onlyIfNeeded);
@@ -210,13 +126,11 @@ Answer carryOut(const std::string& command, const Options& options)
 int showLicense(const CLI::App& program, const Options& options)
 {
     System system;
-    const auto file = system.resources->file("CorvellaneEULA", "rtf");
-    if (!file) {
-        return say(program, options,
-            refusal("license", Status::failed,
-                std::string("The licence agreement CorvellaneEULA.rtf is missing.") + unpackAnew));
+    if (auto refused = whyWithoutLicense(*system.resources)) {
+        return say(program, options, refusal("license", *std::move(refused)));
     }
-    return reportAgreement(*system.files, *file, AgreementForm::plainText, *system.console);
+    const std::string file = system.resources->file("CorvellaneEULA", "rtf").value_or("");
+    return reportAgreement(*system.files, file, AgreementForm::plainText, *system.console);
 }
 
 int runCommandLine(int count, char** arguments)
@@ -228,7 +142,7 @@ int runCommandLine(int count, char** arguments)
     const bool wantsJson = std::ranges::find(words, std::string_view("--json")) != words.end();
     const auto refuse = [&](const CLI::App&, const std::string& reason) {
         options.json = wantsJson;
-        return say(program, options, refusal("", Status::wrongUsage, reason));
+        return say(program, options, refusal("", {Status::wrongUsage, reason + "; --help tells the usage"}));
     };
     if (const auto ending = readArguments(program, count, arguments, refuse)) {
         return endOutput(program, *ending);
@@ -237,7 +151,7 @@ int runCommandLine(int count, char** arguments)
         return endOutput(program, showLicense(program, options));
     }
     if (program.get_subcommands().empty()) {
-        return refuse(program, "a command is missing; --help tells the usage");
+        return refuse(program, "a command is missing");
     }
     const Answer answer = carryOut(program.get_subcommands().front()->get_name(), options);
     return endOutput(program, say(program, options, answer));
