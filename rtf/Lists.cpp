@@ -85,7 +85,10 @@ std::string numberText(std::int32_t number, std::int32_t kind)
     if (kind == ListLevel::ordinal && number > 0) {
         return ordinal(number);
     }
-    return (kind == ListLevel::padded && number >= 0 && number < 10 ? "0" : "") + std::to_string(number);
+    const bool isPadded = kind == ListLevel::padded && number >= 0 && number < 10;
+    std::string text(isPadded ? 1 : 0, '0');
+    text += std::to_string(number);
+    return text;
 }
 
 void Lists::beginList()
