@@ -136,7 +136,7 @@ void Lexer::lexData()
     next_ += token_.data.size();
 }
 
-/// Stands on the apostrophe. Of a byte without its digits nothing is left, not even a single digit.
+/// Stands on the apostrophe.
 bool Lexer::lexBytes()
 {
     std::size_t count = 0;
@@ -150,9 +150,15 @@ bool Lexer::lexBytes()
         }
         ++next_;
     }
+    skipBrokenByte();
+    return false;
+}
+
+/// Of a byte without its digits nothing is left, not even a single digit.
+void Lexer::skipBrokenByte()
+{
     ++next_;
     next_ += hexDigit(*next_) >= 0 ? 1 : 0;
-    return false;
 }
 
 void Lexer::skipNoText()
@@ -165,6 +171,11 @@ void Lexer::skipNoText()
 bool Lexer::takeOptionalMark()
 {
     skipNoText();
+    while (next_[0] == '\\' && next_[1] == '\'' && hexByte(next_ + 2) < 0) [[unlikely]] {
+        ++next_;
+        skipBrokenByte();
+        skipNoText();
+    }
     const bool isMark = std::string_view(next_, end_).starts_with("\\*");
     next_ += isMark ? 2 : 0;
     return isMark;

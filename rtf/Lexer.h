@@ -104,6 +104,7 @@ private:
     void skipNoText();
     static std::size_t rawLength(const char* begin, const char* end);
     bool lexBytes();
+    void skipBrokenByte();
     void lexData();
 
     const char* next_;
