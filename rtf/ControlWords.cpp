@@ -27,7 +27,7 @@ void nothing(Writer&, const Token&) { }
 
 /// What the reader knows.
 constexpr auto rows = std::to_array<Row>({
-    {"rtf ansi shppict picprop sp shpinst shptxt", nothing},
+    {"rtf ansi shppict picprop sp shptxt", nothing},
     {"mac", codePage<10000>},
     {"pc", codePage<437>},
     {"pca", codePage<850>},
@@ -246,6 +246,8 @@ constexpr auto rows = std::to_array<Row>({
     {"bin", binary},
     {"sn", propertyName},
     {"sv", propertyValue},
+    {"shpinst", shape},
+    {"object", object},
 
     {"fonttbl", destination<Destination::fontTable>},
     {"falt", destinationWithin<Destination::fontTable, Destination::fontAlternative>},

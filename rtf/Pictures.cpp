@@ -105,9 +105,10 @@ std::uint64_t pixelsOf(Picture::Kind kind, std::string_view bytes)
 
 void Pictures::begin()
 {
-    const std::uint64_t pixels = pixels_;
-    *this = {};
-    pixels_ = pixels;
+    Pictures next;
+    next.pixels_ = pixels_;
+    next.fillsShape_ = propertyName == fillOfShape;
+    *this = std::move(next);
 }
 
 void Pictures::addDigits(std::string_view digits)
@@ -137,6 +138,7 @@ std::optional<Picture> Pictures::take()
         return std::nullopt;
     }
     pixels_ += pixels;
+    shapeIsShown = fillsShape_;
     bytes.shrink_to_fit();
     return Picture{.kind = *kind_,
         .bytes = std::move(bytes),

@@ -14,6 +14,8 @@ class Pictures {
 public:
     /// More pixels than these are shown of no picture, and twice as many of all together.
     static constexpr std::uint64_t mostPixels = 8'000'000;
+    /// The property of a shape that is the picture in it.
+    static constexpr std::string_view fillOfShape = "pib";
 
     void begin();
     /// Digits in hexadecimal, as they stand in the file.
@@ -30,12 +32,15 @@ public:
     /// What stands for it where it cannot be shown, and the name of the property that is being read.
     std::string alternative;
     std::string propertyName;
+    /// The last picture is shown, and fills a shape.
+    bool shapeIsShown = false;
 
     /// The picture, where its kind is known and it is not too large.
     std::optional<Picture> take();
 
 private:
     std::optional<Picture::Kind> kind_;
+    bool fillsShape_ = false;
     std::string bytes_;
     int highDigit_ = -1;
     std::uint64_t pixels_ = 0;

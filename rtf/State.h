@@ -59,6 +59,8 @@ struct GroupState {
     bool dropsResult = false;
     /// The group is within a footnote or an endnote.
     bool inNote = false;
+    /// The group is within a shape.
+    bool inShape = false;
 
     bool operator==(const GroupState&) const = default;
 };

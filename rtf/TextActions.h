@@ -226,7 +226,22 @@ inline void propertyValue(Writer& writer, const Token& token)
 {
     if (writer.pictures.propertyName == "wzDescription") {
         destinationWithin<Destination::picture, Destination::propertyValue>(writer, token);
-    } else if (writer.pictures.propertyName != "pib" || writer.group().destination != Destination::body) {
+    } else if (writer.pictures.propertyName != Pictures::fillOfShape
+        || writer.group().destination != Destination::body) {
+        writer.skipGroup();
+    }
+}
+
+inline void shape(Writer& writer, const Token&)
+{
+    writer.changeGroup().inShape = true;
+    writer.pictures.shapeIsShown = false;
+}
+
+/// An object that floats is in a shape, which its picture fills already.
+inline void object(Writer& writer, const Token&)
+{
+    if (writer.group().inShape && writer.pictures.shapeIsShown) {
         writer.skipGroup();
     }
 }

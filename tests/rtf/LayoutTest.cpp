@@ -209,6 +209,10 @@ TEST(Pictures, areKeptWithinBoundsAndElseDescribed)
         {R"({\pict\dibitmap0 280000000100000001000000010018000000000000000000}.)", "\uFFFC.\n"},
         {R"({\shp{\*\shpinst{\sp{\sn wzDescription}{\sv no picture}}}}.)", ".\n"},
         {R"({\shp{\*\shpinst{\sp{\sn pib}{\sv{\pict\jpegblip ffd8ffc0000b080010001001}}}}{\shprslt x}}.)", "\uFFFC.\n"},
+        {R"({\shp{\*\shpinst{\sp{\sn pib}{\sv{\pict\jpegblip ffd8ffc0000b080010001001}}}{\shptxt)"
+         R"({\object{\result{\pict\jpegblip ffd8ffc0000b080010001001}}}}}}{\object{\result x}}.)",
+            "\uFFFCx.\n"},
+        {R"({\shp{\*\shpinst{\sp{\sn pib}{\sv{\pict\wmetafile8 00}}}{\shptxt{\object{\result x}}}}}.)", "x.\n"},
         {R"({\shp{\*\shpinst{\sp{\sn pibName}{\sv logo.jpg}}{\sp{\sn pib}{\sv{\pict\wmetafile8 00}}}}}.)", ".\n"},
         {R"({\v{\pict\jpegblip ffd8ffc0000b080010001001}}.)", ".\n"},
     };
