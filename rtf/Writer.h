@@ -67,9 +67,9 @@ public:
     bool rawIsUnicode();
     /// There is more text than those bytes.
     bool textIsLongerThan(std::size_t bytes) const { return builder_.text().size() > bytes; }
-    /// What is written outside the body may be longer: a name, an instruction or a description in a file that is
-    /// written for its text is not as long as that.
-    bool hasRoomOutsideBody();
+    /// What is written may be longer. Outside the body there is a bound that no name, instruction or description comes
+    /// to in a file that is written for its text.
+    bool hasRoom();
     /// What comes next continues no multi-byte character.
     void breakBytes() { decoder_.breakBytes(); }
 
@@ -188,11 +188,11 @@ inline void Writer::putText(std::string_view bytes, bool ascii)
     }
 }
 
-inline bool Writer::hasRoomOutsideBody()
+inline bool Writer::hasRoom()
 {
-    constexpr std::size_t most = 65536;
+    constexpr std::size_t mostOutsideBody = 65536;
     const std::string* const out = sink();
-    return out == nullptr || out->size() < most;
+    return group_.destination == Destination::body || out == nullptr || out->size() < mostOutsideBody;
 }
 
 inline GroupState& Writer::changeGroup()
@@ -218,6 +218,24 @@ inline FontTable& Writer::changeFonts()
 {
     sinkChanged_ = true;
     return fonts_;
+}
+
+inline std::uint32_t Writer::characterIndex()
+{
+    if (characterChanged_) {
+        group_.character = builder_.indexOf(character_);
+        characterChanged_ = false;
+    }
+    return group_.character;
+}
+
+inline std::uint32_t Writer::paragraphIndex()
+{
+    if (paragraphChanged_) {
+        group_.paragraph = builder_.indexOf(paragraph_);
+        paragraphChanged_ = false;
+    }
+    return group_.paragraph;
 }
 
 inline void Writer::addTab(Twips position)
