@@ -48,7 +48,18 @@ struct Border {
 enum Side : std::uint8_t { top, left, bottom, right };
 using Borders = std::array<Border, 4>;
 
-enum class Underline : std::uint8_t { none, solid, twofold, dotted, dashed, dashDotted, dashDotDotted, waved };
+enum class Underline : std::uint8_t {
+    none,
+    solid,
+    twofold,
+    dotted,
+    dashed,
+    dashDotted,
+    dashDotDotted,
+    waved,
+    thick,
+    words
+};
 enum class VerticalPosition : std::uint8_t { normal, superscript, subscript };
 enum class Capitals : std::uint8_t { asTyped, small, all };
 

@@ -31,8 +31,8 @@ constexpr auto names<rtf::Direction> = std::to_array<std::string_view>({"", "lef
 template <>
 constexpr auto names<rtf::LineStyle> = std::to_array<std::string_view>({"", "solid", "double", "dotted", "dashed"});
 template <>
-constexpr auto names<rtf::Underline>
-    = std::to_array<std::string_view>({"", "", "double", "dotted", "dashed", "dashDotted", "dashDotDotted", "waved"});
+constexpr auto names<rtf::Underline> = std::to_array<std::string_view>(
+    {"", "", "double", "dotted", "dashed", "dashDotted", "dashDotDotted", "waved", "thick", "words"});
 template <>
 constexpr auto names<rtf::CellAlignment> = std::to_array<std::string_view>({"", "centre", "bottom"});
 template <>

@@ -2,7 +2,7 @@
 
 #include "rtf/Blocks.h"
 #include "view/qt/RichTextFormats.h"
-#include "view/qt/RichTextPictures.h"
+#include "view/qt/RichTextRuns.h"
 #include "view/qt/RichTextTables.h"
 
 #include <QTextCursor>
@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <span>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace corvellane::view {
@@ -46,6 +48,12 @@ bool haveOneFrame(const rtf::ParagraphFormat& one, const rtf::ParagraphFormat& o
         && one.rightIndent == other.rightIndent;
 }
 
+/// Whether Qt would have lines of that text begin on the right: by its first letter.
+bool beginsOnTheRight(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).isRightToLeft();
+}
+
 /// Around a table, in points.
 struct Space {
     double above;
@@ -64,13 +72,10 @@ void addFormat(QTextTableCell cell, const QTextTableCellFormat& added)
 class Filler {
 public:
     Filler(QTextDocument& document, const rtf::AttributedText& text)
-        : document_(document)
-        , text_(text)
+        : text_(text)
         , cursor_(&document)
+        , runs_(text)
     {
-        for (const rtf::TextAttributes& attributes : text.attributes) {
-            formats_.append(charFormatFor(attributes, text));
-        }
     }
 
     void fill();
@@ -85,22 +90,23 @@ private:
         return text_.formats[block.paragraph.format];
     }
     const rtf::ParagraphFormat* formatAt(Blocks blocks, std::size_t index) const;
+    rtf::ParagraphFormat directedFormatOf(const rtf::Block& block) const;
 
     void fillBlocks(Blocks blocks);
     std::size_t framedTogether(Blocks blocks) const;
     void insertFrame(Blocks blocks, const Space& space);
     void insertParagraph(const rtf::Block& block, double above, bool isFramed);
-    void insertRun(const rtf::Run& run);
     void insertRows(const rtf::Block& table, const Space& space);
     void fillTable(const rtf::Block& table, const TableGrid& grid, const Space& space);
     QTextTableCellFormat cellFormatWithSpace(const GridCell& place, const TableGrid& grid) const;
     QTextTable* insertTable(int rows, int columns, const QTextTableFormat& format);
     void leaveTable(const QTextTable& table);
 
-    QTextDocument& document_;
     const rtf::AttributedText& text_;
     QTextCursor cursor_;
-    QList<QTextCharFormat> formats_;
+    RunWriter runs_;
+    /// Where the next table stands.
+    TableRoom room_;
     Place place_ = Place::unused;
     bool isEmpty_ = true;
 };
@@ -116,6 +122,18 @@ void Filler::fill()
 const rtf::ParagraphFormat* Filler::formatAt(Blocks blocks, std::size_t index) const
 {
     return index < blocks.size() && blocks[index].rows.empty() ? &formatOf(blocks[index]) : nullptr;
+}
+
+/// The format with the direction in which the text itself runs, where the file says none: indents follow it.
+rtf::ParagraphFormat Filler::directedFormatOf(const rtf::Block& block) const
+{
+    rtf::ParagraphFormat format = formatOf(block);
+    const std::string_view text(text_.text);
+    if (format.direction == rtf::Direction::natural
+        && beginsOnTheRight(text.substr(block.paragraph.begin, block.paragraph.end - block.paragraph.begin))) {
+        format.direction = rtf::Direction::rightToLeft;
+    }
+    return format;
 }
 
 /// Qt gives no space to a paragraph next to a table: what stands in one has all of it.
@@ -156,7 +174,7 @@ void Filler::insertFrame(Blocks blocks, const Space& space)
 {
     const Indents indents = indentsOf(formatOf(blocks[0]));
     QTextTableFormat format = frameFormat();
-    setSideMargins(format, formatOf(blocks[0]), indents.left + std::min(0.0, indents.firstLine), indents.right);
+    setSideMargins(format, directedFormatOf(blocks[0]), indents.left + std::min(0.0, indents.firstLine), indents.right);
     format.setTopMargin(space.above);
     format.setBottomMargin(space.below);
     QTextTable* const frame = insertTable(1, 1, format);
@@ -171,14 +189,14 @@ void Filler::insertFrame(Blocks blocks, const Space& space)
 
 void Filler::insertParagraph(const rtf::Block& block, double above, bool isFramed)
 {
-    const rtf::ParagraphFormat& format = formatOf(block);
+    const rtf::ParagraphFormat format = directedFormatOf(block);
     Indents indents = indentsOf(format);
     if (isFramed) {
         indents = {.left = std::max(0.0, -indents.firstLine), .firstLine = indents.firstLine, .right = 0};
     }
     QTextBlockFormat blockFormat = blockFormatFor(text_, format, indents);
     blockFormat.setTopMargin(above);
-    const QTextCharFormat& endFormat = formats_[block.paragraph.endAttributes];
+    const QTextCharFormat& endFormat = runs_.formatOf(block.paragraph.endAttributes);
     isEmpty_ = block.paragraph.begin == block.paragraph.end;
     const bool wouldBeHidden = isEmpty_ && place_ == Place::behindTable;
     if (place_ != Place::written && !wouldBeHidden) {
@@ -189,22 +207,9 @@ void Filler::insertParagraph(const rtf::Block& block, double above, bool isFrame
         cursor_.insertBlock(blockFormat, endFormat);
     }
     for (const rtf::Run& run : text_.runsOf(block.paragraph)) {
-        insertRun(run);
+        runs_.insert(cursor_, run);
     }
     place_ = Place::written;
-}
-
-void Filler::insertRun(const rtf::Run& run)
-{
-    const std::uint32_t picture = text_.attributes[run.attributes].picture;
-    if (picture != 0) {
-        if (const auto image = addPicture(document_, text_.pictures[picture - 1])) {
-            cursor_.insertImage(*image);
-        }
-        return;
-    }
-    cursor_.insertText(
-        QString::fromUtf8(run.text.data(), static_cast<qsizetype>(run.text.size())), formats_[run.attributes]);
 }
 
 /// A table of more places than a window can show is shown as the paragraphs in it.
@@ -224,7 +229,7 @@ void Filler::insertRows(const rtf::Block& table, const Space& space)
 
 void Filler::fillTable(const rtf::Block& table, const TableGrid& grid, const Space& space)
 {
-    QTextTableFormat format = tableFormatFor(grid, table.rows[0].format);
+    QTextTableFormat format = tableFormatFor(grid, table.rows[0].format, room_);
     format.setTopMargin(space.above);
     format.setBottomMargin(space.below);
     QTextTable* const inserted = insertTable(grid.rows, static_cast<int>(grid.columns.size()), format);
@@ -235,7 +240,9 @@ void Filler::fillTable(const rtf::Block& table, const TableGrid& grid, const Spa
         const QTextTableCell cell = inserted->cellAt(place.firstRow, place.firstColumn);
         cursor_ = cell.firstCursorPosition();
         place_ = Place::unused;
+        const TableRoom around = std::exchange(room_, roomIn(place, grid, room_));
         fillBlocks(place.cell->blocks);
+        room_ = around;
         addFormat(cell, cellFormatWithSpace(place, grid));
     }
     leaveTable(*inserted);

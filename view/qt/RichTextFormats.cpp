@@ -49,7 +49,7 @@ QFont fontFor(const rtf::TextAttributes& attributes, const rtf::AttributedText& 
     return font;
 }
 
-/// Of two lines Qt draws the first one.
+/// Of two lines Qt draws the first one, and a thick one thin.
 QTextCharFormat::UnderlineStyle styleOf(rtf::Underline underline)
 {
     switch (underline) {
@@ -57,6 +57,8 @@ QTextCharFormat::UnderlineStyle styleOf(rtf::Underline underline)
         return QTextCharFormat::NoUnderline;
     case rtf::Underline::solid:
     case rtf::Underline::twofold:
+    case rtf::Underline::thick:
+    case rtf::Underline::words:
         return QTextCharFormat::SingleUnderline;
     case rtf::Underline::dotted:
         return QTextCharFormat::DotLine;
@@ -97,12 +99,14 @@ void setColors(QTextCharFormat& format, const rtf::TextAttributes& attributes)
     }
 }
 
-/// Of what is raised or lowered the first line has to do.
+/// What is raised or lowered has to do with the line that Qt draws.
 void addOwnLines(QTextCharFormat& format, const rtf::TextAttributes& attributes)
 {
     const bool isRaised = attributes.script != rtf::VerticalPosition::normal || attributes.baselineOffset != 0;
     if (attributes.underline == rtf::Underline::twofold && !isRaised) {
         addSecondUnderline(format);
+    } else if (attributes.underline == rtf::Underline::thick && !isRaised) {
+        thickenUnderline(format);
     }
     if (attributes.frame.style != rtf::LineStyle::none) {
         addFrame(format, attributes.frame);

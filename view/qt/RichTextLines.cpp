@@ -17,13 +17,16 @@
 namespace corvellane::view {
 namespace {
 
-enum Property { secondUnderline = QTextFormat::UserProperty, framePen, frameIsTwofold, tabLeaders };
+enum Property { ownUnderline = QTextFormat::UserProperty, framePen, frameIsTwofold, tabLeaders };
+
+/// What is painted beside the underline that Qt has, or over it.
+enum OwnUnderline { second, thick };
 
 constexpr double widestFrame = 6;
 /// Between a tab's filling and the text on both sides of it.
 constexpr double leaderGap = 2;
 
-/// A part of one line of a paragraph, in the document's coordinates.
+/// A part of one line of a paragraph without the spaces that end the line, in the document's coordinates.
 struct Stretch {
     double left;
     double right;
@@ -43,7 +46,7 @@ public:
     void paint();
 
 private:
-    void paintSecondUnderline(const QTextFragment& fragment);
+    void paintUnderline(const QTextFragment& fragment);
     void paintFrame(const QTextCharFormat& format, int begin, int end);
     void paintLeaders(const QTextFragment& fragment);
     rtf::TabLeader leaderAt(const QTextLine& line, const Stretch& tab) const;
@@ -69,7 +72,9 @@ std::optional<Stretch> PaintedParagraph::stretchOf(const QTextLine& line, int be
     }
     const auto [left, right]
         = std::minmax({line.cursorToX(std::max(begin, line.textStart())), line.cursorToX(std::min(end, lineEnd))});
-    return Stretch{origin_.x() + left, origin_.x() + right, origin_.y() + line.y() + line.ascent()};
+    const QRectF text = line.naturalTextRect();
+    return Stretch{origin_.x() + std::max(left, text.left()), origin_.x() + std::min(right, text.right()),
+        origin_.y() + line.y() + line.ascent()};
 }
 
 /// `begin` and `end` count from the beginning of the paragraph.
@@ -95,8 +100,8 @@ void PaintedParagraph::paint()
     for (auto fragments = block_.begin(); !fragments.atEnd(); ++fragments) {
         const QTextFragment fragment = fragments.fragment();
         const QTextCharFormat format = fragment.charFormat();
-        if (format.hasProperty(secondUnderline)) {
-            paintSecondUnderline(fragment);
+        if (format.hasProperty(ownUnderline)) {
+            paintUnderline(fragment);
         }
         if (hasLeaders) {
             paintLeaders(fragment);
@@ -111,13 +116,14 @@ void PaintedParagraph::paint()
     paintFrame(frame, begin, block_.length() - 1);
 }
 
-void PaintedParagraph::paintSecondUnderline(const QTextFragment& fragment)
+void PaintedParagraph::paintUnderline(const QTextFragment& fragment)
 {
     const QTextCharFormat format = fragment.charFormat();
     const QFontMetricsF metrics(format.font());
     const double width = std::max(1.0, std::round(metrics.lineWidth()));
-    const double below = std::ceil(metrics.underlinePos()) + 2 * width;
-    painter_.setPen(QPen(colorIn(format), width));
+    const bool isThick = format.intProperty(ownUnderline) == thick;
+    const double below = std::ceil(metrics.underlinePos()) + (isThick ? width / 2 : 2 * width);
+    painter_.setPen(QPen(colorIn(format), isThick ? 2 * width : width));
     const int begin = fragment.position() - block_.position();
     forEachLine(begin, begin + fragment.length(), [&](const Stretch& stretch) {
         const double y = std::ceil(stretch.baseline) + below;
@@ -225,7 +231,12 @@ Qt::PenStyle penStyleOf(rtf::LineStyle style)
 
 void addSecondUnderline(QTextCharFormat& format)
 {
-    format.setProperty(secondUnderline, true);
+    format.setProperty(ownUnderline, static_cast<int>(second));
+}
+
+void thickenUnderline(QTextCharFormat& format)
+{
+    format.setProperty(ownUnderline, static_cast<int>(thick));
 }
 
 void addFrame(QTextCharFormat& format, const rtf::Border& border)
@@ -252,7 +263,7 @@ void addLeaders(QTextBlockFormat& format, const std::vector<rtf::TabLeader>& lea
 bool hasLines(const QTextDocument& document)
 {
     return std::ranges::any_of(document.allFormats(), [](const QTextFormat& format) {
-        return format.hasProperty(secondUnderline) || format.hasProperty(framePen) || format.hasProperty(tabLeaders);
+        return format.hasProperty(ownUnderline) || format.hasProperty(framePen) || format.hasProperty(tabLeaders);
     });
 }
 

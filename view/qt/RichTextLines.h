@@ -15,8 +15,9 @@ class QTextDocument;
 /// out.
 namespace corvellane::view {
 
-/// Adds a second line to the underline that `format` has.
+/// Adds a second line to the underline that `format` has, or makes it a thick one.
 void addSecondUnderline(QTextCharFormat& format);
+void thickenUnderline(QTextCharFormat& format);
 
 /// A line on all four sides of text, drawn once around what has the same one.
 void addFrame(QTextCharFormat& format, const rtf::Border& border);

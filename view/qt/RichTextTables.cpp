@@ -5,85 +5,11 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <iterator>
-#include <ranges>
 
 namespace corvellane::view {
 namespace {
 
-/// Edges that are no further apart are one.
-constexpr rtf::Twips edgeTolerance = 40;
-/// Of a cell that is described by none.
-constexpr rtf::Twips usualWidth = 1440;
-constexpr rtf::Twips furthestEdge = 22 * 1440;
-/// A table that is as wide as a page takes all the width there is.
-constexpr double fullWidth = 400;
 constexpr double widestLeft = 120;
-
-/// The right edges of a row's cells, each further right than the one before.
-std::vector<rtf::Twips> edgesOf(const rtf::TableRow& row)
-{
-    std::vector<rtf::Twips> edges{std::clamp(row.format.left, -furthestEdge, furthestEdge)};
-    for (const rtf::TableCell& cell : row.cells) {
-        const rtf::Twips own
-            = cell.format.rightEdge != 0 ? std::min(cell.format.rightEdge, furthestEdge) : edges.back() + usualWidth;
-        edges.push_back(std::max(own, edges.back() + edgeTolerance + 1));
-    }
-    return edges;
-}
-
-std::vector<rtf::Twips> commonEdges(const std::vector<std::vector<rtf::Twips>>& edgesOfRows)
-{
-    std::vector<rtf::Twips> all;
-    for (const auto& edges : edgesOfRows) {
-        all.insert(all.end(), edges.begin(), edges.end());
-    }
-    std::ranges::sort(all);
-    std::vector<rtf::Twips> common;
-    for (const rtf::Twips edge : all) {
-        if (common.empty() || edge - common.back() > edgeTolerance) {
-            common.push_back(edge);
-        }
-    }
-    return common;
-}
-
-/// The column that begins at an edge, or the last one before it.
-int columnAt(const std::vector<rtf::Twips>& common, rtf::Twips edge)
-{
-    const auto next = std::ranges::upper_bound(common, edge);
-    return static_cast<int>(next - common.begin()) - 1;
-}
-
-/// A cell goes on from the one before it, or above it.
-bool joinsLeft(std::vector<GridCell>& cells, const GridCell& next)
-{
-    const bool continues = next.cell->format.horizontalMerge == rtf::CellMerge::continued && !cells.empty()
-        && cells.back().firstRow == next.firstRow
-        && cells.back().firstColumn + cells.back().columns == next.firstColumn;
-    if (continues) {
-        cells.back().columns = next.firstColumn + next.columns - cells.back().firstColumn;
-    }
-    return continues;
-}
-
-bool joinsAbove(std::vector<GridCell>& cells, const GridCell& next)
-{
-    if (next.cell->format.verticalMerge != rtf::CellMerge::continued) {
-        return false;
-    }
-    const auto isAbove = [&](const GridCell& each) {
-        return each.firstColumn == next.firstColumn && each.columns == next.columns
-            && each.firstRow + each.rows == next.firstRow && each.cell->format.verticalMerge != rtf::CellMerge::none;
-    };
-    auto upwards = std::views::reverse(cells);
-    const auto above = std::ranges::find_if(upwards, isAbove);
-    if (above == upwards.end()) {
-        return false;
-    }
-    ++(*above).rows;
-    return true;
-}
 
 QTextFrameFormat::BorderStyle styleOf(rtf::LineStyle style)
 {
@@ -152,6 +78,13 @@ rtf::Border borderOf(const GridCell& cell, std::size_t side, int rows, int colum
     return isOuter.at(side) ? row.borders.at(side) : row.innerBorders.at(isBetweenRows ? 0 : 1);
 }
 
+/// Between the cell's edge and its text, in points.
+double insetOf(const GridCell& cell, std::size_t side)
+{
+    const std::int16_t own = cell.cell->format.inset.at(side);
+    return std::clamp(rtf::points(own >= 0 ? own : cell.row->format.inset.at(side)), 1.0, 36.0);
+}
+
 Qt::Alignment alignmentOf(const rtf::RowFormat& row)
 {
     if (row.alignment == rtf::Alignment::centre) {
@@ -189,16 +122,6 @@ QTextCharFormat::VerticalAlignment alignmentOf(rtf::CellAlignment alignment)
     return QTextCharFormat::AlignTop;
 }
 
-/// Qt has a table's first column on the left whatever its direction.
-void mirror(TableGrid& grid)
-{
-    const auto columns = static_cast<int>(grid.columns.size());
-    std::ranges::reverse(grid.columns);
-    for (GridCell& cell : grid.cells) {
-        cell.firstColumn = columns - cell.firstColumn - cell.columns;
-    }
-}
-
 QTextTableFormat plainTable()
 {
     QTextTableFormat format;
@@ -211,49 +134,34 @@ QTextTableFormat plainTable()
 
 } // namespace
 
-TableGrid gridOf(const std::vector<rtf::TableRow>& rows)
+TableRoom roomIn(const GridCell& cell, const TableGrid& grid, const TableRoom& around)
 {
-    std::vector<std::vector<rtf::Twips>> edgesOfRows;
-    std::ranges::transform(rows, std::back_inserter(edgesOfRows), edgesOf);
-    const std::vector<rtf::Twips> common = commonEdges(edgesOfRows);
-    TableGrid grid{
-        .rows = static_cast<int>(rows.size()), .columns = {}, .left = rtf::points(common.front()), .cells = {}};
-    for (std::size_t index = 1; index < common.size(); ++index) {
-        grid.columns.push_back(rtf::points(common[index] - common[index - 1]));
-    }
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-        for (std::size_t cell = 0; cell < rows[row].cells.size(); ++cell) {
-            const int begin = columnAt(common, edgesOfRows[row][cell]);
-            const int end = columnAt(common, edgesOfRows[row][cell + 1]);
-            const GridCell next{&rows[row].cells[cell], &rows[row], static_cast<int>(row), begin, 1, end - begin};
-            if (!joinsLeft(grid.cells, next) && !joinsAbove(grid.cells, next)) {
-                grid.cells.push_back(next);
-            }
-        }
-    }
-    if (rows.front().format.rightToLeft) {
-        mirror(grid);
-    }
-    return grid;
+    return {.width = grid.widthOf(cell) - insetOf(cell, rtf::Side::left) - insetOf(cell, rtf::Side::right),
+        .scale = around.scale * std::min(1.0, around.width / grid.width())};
 }
 
-QTextTableFormat tableFormatFor(const TableGrid& grid, const rtf::RowFormat& firstRow)
+/// Qt makes the columns of a table in a cell as wide as the cell unless each is told its width.
+QTextTableFormat tableFormatFor(const TableGrid& grid, const rtf::RowFormat& firstRow, const TableRoom& room)
 {
-    double width = 0;
-    for (const double column : grid.columns) {
-        width += column;
-    }
+    const double width = grid.width();
+    const bool isWide = width + grid.left > room.width;
+    const bool isNested = firstRow.depth > 1;
     QTextTableFormat format = plainTable();
     QList<QTextLength> lengths;
     for (const double column : grid.columns) {
-        lengths.append(QTextLength(QTextLength::PercentageLength, 100 * column / width));
+        lengths.append(isNested && !isWide ? QTextLength(QTextLength::FixedLength, column * room.scale)
+                                           : QTextLength(QTextLength::PercentageLength, 100 * column / width));
     }
     format.setColumnWidthConstraints(lengths);
-    if (width + grid.left > fullWidth) {
+    if (isWide) {
         format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
     } else {
         place(format, grid, firstRow);
-        format.setWidth(QTextLength(QTextLength::FixedLength, width + format.leftMargin() + format.rightMargin()));
+        format.setWidth(
+            QTextLength(QTextLength::FixedLength, (width * room.scale) + format.leftMargin() + format.rightMargin()));
+    }
+    if (firstRow.rightToLeft) {
+        format.setLayoutDirection(Qt::RightToLeft);
     }
     return format;
 }
@@ -263,9 +171,7 @@ QTextTableCellFormat cellFormatFor(const GridCell& cell, int rowsOfTable, int co
     QTextTableCellFormat format;
     for (std::size_t side = 0; side < sides.size(); ++side) {
         setBorder(format, side, borderOf(cell, side, rowsOfTable, columnsOfTable));
-        const std::int16_t own = cell.cell->format.inset.at(side);
-        const double inset = rtf::points(own >= 0 ? own : cell.row->format.inset.at(side));
-        format.setProperty(sides.at(side).padding, std::clamp(inset, 1.0, 36.0));
+        format.setProperty(sides.at(side).padding, insetOf(cell, side));
     }
     if (cell.cell->format.shading.isSet) {
         format.setBackground(colorOf(cell.cell->format.shading));

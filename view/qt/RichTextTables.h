@@ -1,38 +1,23 @@
 #pragma once
 
-#include "rtf/Blocks.h"
+#include "view/qt/TableGrid.h"
 
 #include <QTextTableCellFormat>
 #include <QTextTableFormat>
 
-#include <cstddef>
-#include <vector>
-
 namespace corvellane::view {
 
-/// Where a cell stands in the grid of its table.
-struct GridCell {
-    const rtf::TableCell* cell = nullptr;
-    const rtf::TableRow* row = nullptr;
-    int firstRow = 0;
-    int firstColumn = 0;
-    int rows = 1;
-    int columns = 1;
+/// Where a table stands: in the document, or in a cell of another one.
+struct TableRoom {
+    /// In points: a table that takes more is shown as wide as there is place.
+    double width = 400;
+    /// What a point of the author's is shown as, where the tables around are shown narrower than they are.
+    double scale = 1;
 };
 
-/// A table's columns, of which its rows may each have other ones, and its cells, merged as their author has it.
-struct TableGrid {
-    int rows = 0;
-    /// The columns' widths in points.
-    std::vector<double> columns;
-    /// From the left edge of the text area to the first column, in points.
-    double left = 0;
-    std::vector<GridCell> cells;
-};
+TableRoom roomIn(const GridCell& cell, const TableGrid& grid, const TableRoom& around);
 
-TableGrid gridOf(const std::vector<rtf::TableRow>& rows);
-
-QTextTableFormat tableFormatFor(const TableGrid& grid, const rtf::RowFormat& firstRow);
+QTextTableFormat tableFormatFor(const TableGrid& grid, const rtf::RowFormat& firstRow, const TableRoom& room);
 QTextTableCellFormat cellFormatFor(const GridCell& cell, int rowsOfTable, int columnsOfTable);
 
 /// The format of a frame around paragraphs, and of the one cell that it has.

@@ -72,6 +72,7 @@ TEST(RichTextDocument, carriesEveryStyleOfARun)
         {R"(\i x)", [](Format f) { return f.fontItalic(); }},
         {R"(\ul x)", [](Format f) { return f.fontUnderline(); }},
         {R"(\uldb x)", [](Format f) { return f.fontUnderline(); }},
+        {R"(\ulw x y)", [](Format f) { return f.fontUnderline(); }},
         {R"(\ulwave x)", [](Format f) { return f.underlineStyle() == QTextCharFormat::WaveUnderline; }},
         {R"(\uldash x)", [](Format f) { return f.underlineStyle() == QTextCharFormat::DashUnderline; }},
         {R"(\expndtw40 x)", [](Format f) { return f.font().letterSpacing() == 2; }},
@@ -89,6 +90,7 @@ TEST(RichTextDocument, carriesEveryStyleOfARun)
                     && f.foreground().color() == QColor(0, 0, 238);
             }},
     };
+    EXPECT_FALSE(formatOf(R"(\ulw  x)").fontUnderline()) << "the line is under words alone";
     const QTextCharFormat plain = formatOf("x");
     EXPECT_FALSE(plain.hasProperty(QTextFormat::ForegroundBrush)) << "the palette gives the colour";
     for (const auto& [body, holds] : rows) {
@@ -145,6 +147,8 @@ TEST(RichTextDocument, putsTextWhereItsParagraphSays)
         {R"(\rtlpar\qr\li720\ri200 abc)", 3, 364},
         {R"(\rtlpar\ql\li720\ri200 abc)", 0, 10},
         {R"(\rtlpar\li720\fi-360 abc)", 3, 382},
+        {R"(\li720\fi-360\ri200\u1488?)", 0, 382},
+        {R"(\ltrpar\li720\u1488?)", 1, 36},
         {R"(\rtlpar\li720\fi-360 \u1488?\tab\u1488?\u1488?)", 2, 364},
         {R"(\deftab1000\tab abc)", 1, 50},
     };
@@ -203,8 +207,10 @@ TEST(RichTextLines, standUnderWordsAroundThemAndBeforeTabStops)
     };
     const double word = widthOf("abc");
     const double number = widthOf("12");
-    const std::vector<std::tuple<const char*, double, double>> rows{
+    const std::vector<std::tuple<std::string, double, double>> rows{
         {R"(abc{\uldb abc}abc)", word, 2 * word},
+        {R"(abc{\ulth abc}abc)", word, 2 * word},
+        {R"({\uldb abc)" + std::string(200, ' ') + R"(}abc)", 0, word},
         {R"(abc{\chbrdr\brdrs a{\b\chbrdr\brdrs }bc}abc)", word, 2 * word},
         {R"(\tqr\tldot\tx6000 abc\tab 12)", word, 300 - number},
         {R"(\tx2000\tqr\tlul\tx6000\tab abc\tab 12)", 100 + word, 300 - number},
@@ -218,6 +224,8 @@ TEST(RichTextLines, standUnderWordsAroundThemAndBeforeTabStops)
         EXPECT_NEAR(linesOf(body).right(), right, 6) << body;
     }
     EXPECT_GT(linesOf(R"({\uldb abc})").top(), lowestInk(*documentOf(R"({\ul abc})")) - 8);
+    EXPECT_EQ(linesOf(R"({\ulth abc})").top(), linesOf(R"({\uldb abc})").top() - 2);
+    EXPECT_EQ(linesOf(R"({\ulth abc})").height(), 2 * linesOf(R"({\uldb abc})").height());
     EXPECT_FALSE(hasLines(*documentOf(R"({\ul abc}\tqr\tx6000\tab x)")));
     EXPECT_TRUE(linesOf("abc").isEmpty());
 }
@@ -290,6 +298,35 @@ TEST(RichTextDocument, putsCellsWhereTheirRowSays)
         EXPECT_EQ(textOf(tableOf(*document)->cellAt(0, 0)), leftCell) << row;
         EXPECT_NEAR(leftOf(0), first, 2.5) << row;
         EXPECT_NEAR(leftOf(1), second, 2.5) << row;
+    }
+}
+
+/// Where the cells of a table stand that is in a cell of 300 points, or less in a table wider than the page.
+TEST(RichTextDocument, givesATableInACellItsOwnWidth)
+{
+    struct Case {
+        const char* outer;
+        const char* inner;
+        double first;
+        double second;
+    };
+    const std::vector<Case> rows{
+        {R"(\cellx6000)", R"(\cellx1000\cellx3000)", 0, 50},
+        {R"(\cellx6000)", R"(\trleft400\cellx1400\cellx3400)", 20, 70},
+        {R"(\cellx6000)", R"(\cellx1500\cellx6000)", 0, 75},
+        {R"(\cellx6000)", R"(\cellx5000\cellx20000)", 0, 75},
+        {R"(\cellx6000\cellx16000)", R"(\cellx1000\cellx3000)", 0, 25},
+    };
+    for (const auto& [outer, inner, first, second] : rows) {
+        const auto document = documentOf("\\trowd" + std::string(outer) + R"(\pard\intbl\itap2 a\nestcell b\nestcell)"
+            + R"({\*\nesttableprops\trowd)" + inner + R"(\nestrow}\itap1\cell\cell\row)");
+        const auto* const table = qobject_cast<QTextTable*>(tableOf(*document)->childFrames().at(0));
+        const auto leftOf = [&](int column) {
+            const QTextBlock block = table->cellAt(0, column).firstCursorPosition().block();
+            return document->documentLayout()->blockBoundingRect(block).left() - document->documentMargin();
+        };
+        EXPECT_NEAR(leftOf(0), first, 2.5) << outer << inner;
+        EXPECT_NEAR(leftOf(1), second, 2.5) << outer << inner;
     }
 }
 
