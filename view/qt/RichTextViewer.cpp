@@ -1,14 +1,17 @@
 #include "view/qt/RichTextViewer.h"
 
 #include "view/qt/Appearance.h"
+#include "view/qt/RichTextCopy.h"
 #include "view/qt/RichTextDocument.h"
 #include "view/qt/RichTextLines.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QTextEdit>
 
 namespace corvellane::view {
@@ -44,6 +47,14 @@ protected:
         if (modifiers != Qt::NoModifier || QAccessible::isActive() || !scrollBy(event->key())) {
             QTextEdit::keyPressEvent(event);
         }
+    }
+
+    QMimeData* createMimeDataFromSelection() const override
+    {
+        QMimeData* const copied = QTextEdit::createMimeDataFromSelection();
+        copied->html(); // Qt writes all forms when it is asked for the first one.
+        copied->setText(plainTextOf(textCursor().selection()));
+        return copied;
     }
 
     void paintEvent(QPaintEvent* event) override

@@ -65,6 +65,25 @@ TEST_F(RichTextViewer, isReadAndCopiedButNotChanged)
     EXPECT_EQ(QGuiApplication::clipboard()->text().size(), before.size());
 }
 
+TEST(RichTextCopy, isInTheOrderOfReading)
+{
+    const std::vector<std::pair<const char*, const char*>> rows{
+        {R"(a\par\par b\line c\~d)", "a\n\nb\nc d"},
+        {R"(a\par\trowd\cellx900\cellx1800\intbl b\cell c\cell\row\intbl d\par e\cell\cell\row\pard f)",
+            "a\nb\tc\nd\ne\t\nf"},
+        {R"(\trowd\rtlrow\cellx900\cellx1800\intbl a\cell b\cell\row)", "a\tb"},
+        {R"(\trowd\clmgf\cellx900\clmrg\cellx1800\intbl a\cell\cell\row\pard\par b)", "a\n\nb"},
+        {R"(a\par\box\brdrs b\par c\par\pard\par\par d)", "a\nb\nc\n\n\nd"},
+    };
+    for (const auto& [body, expected] : rows) {
+        const std::unique_ptr<QTextEdit> viewer(static_cast<QTextEdit*>(
+            makeRichTextViewer(rtf::read("{\\rtf1 " + std::string(body) + "}").value(), nullptr)));
+        viewer->selectAll();
+        viewer->copy();
+        EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), expected) << body;
+    }
+}
+
 TEST_F(RichTextViewer, scrollsByKeyInsideAFrameThatTellsOfTheFocus)
 {
     const auto corner = [this] { return viewer_->viewport()->grab().toImage().pixelColor(0, 100); };
