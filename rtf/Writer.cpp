@@ -124,17 +124,23 @@ void Writer::endInstruction()
     }
     changeGroup().dropsResult = field.isPageNumber;
     if (field.symbol) {
-        FontTable named;
-        named.beginEntry(0);
-        named.entryName() = field.symbol->font;
-        named.finishEntry();
-        const int own = named.font(0).codePage;
-        const CodePage* const page = pages_.find(own != 0 ? own : westernPage);
-        const bool isByte = !field.symbol->isUnicode && field.symbol->number < 256 && page != nullptr;
-        symbol_ = isByte ? page->decode(static_cast<char>(field.symbol->number)) : char32_t{field.symbol->number};
-        symbol_ = symbol_ < 0x20 ? 0 : symbol_;
+        symbol_ = characterOf(*field.symbol);
         symbolPlace_ = builder_.text().size();
     }
+}
+
+/// The font tells by its name alone what a byte is in it. Gives 0 for no character.
+char32_t Writer::characterOf(const FieldSymbol& symbol)
+{
+    FontTable named;
+    named.beginEntry(0);
+    named.entryName() = symbol.font;
+    named.finishEntry();
+    const int own = named.font(0).codePage;
+    const CodePage* const page = pages_.find(own != 0 ? own : westernPage);
+    const bool isByte = !symbol.isUnicode && symbol.number < 256 && page != nullptr;
+    const char32_t code = isByte ? page->decode(static_cast<char>(symbol.number)) : char32_t{symbol.number};
+    return code < 0x20 ? 0 : code;
 }
 
 void Writer::endSymbol()

@@ -128,9 +128,11 @@ private:
     void restore(const GroupState& state);
     void leave(const GroupState& around);
     void endInstruction();
+    char32_t characterOf(const FieldSymbol& symbol);
     void endSymbol();
     void endPicture();
     void beginParagraph();
+    void putMarker(std::string_view marker);
 
     TextBuilder builder_;
     TextDecoder decoder_;

@@ -29,19 +29,23 @@ void Writer::beginParagraph()
     }
     findSink();
     decoder_.breakText();
-    // What a font of symbols has at a byte is in the private use area, of three bytes from EF 80 A0 to EF 83 BF.
-    for (std::string_view rest = marker.text; !rest.empty();) {
-        const bool isPrivate = rest.size() > 2 && rest.starts_with("\xEF") && (rest[1] & 0xFC) == 0x80;
-        if (isPrivate) {
-            const auto code = static_cast<char32_t>(0xF000 | (rest[1] & 0x3F) << 6 | (rest[2] & 0x3F));
-            put(code);
-        } else {
-            builder_.text() += rest[0];
-        }
-        rest.remove_prefix(isPrivate ? 3 : 1);
-    }
+    putMarker(marker.text);
     character_ = text;
     characterChanged_ = true;
+}
+
+/// What a font of symbols has at a byte is in the private use area, of three bytes from EF 80 A0 to EF 83 BF.
+void Writer::putMarker(std::string_view marker)
+{
+    while (!marker.empty()) {
+        const bool isPrivate = marker.size() > 2 && marker.starts_with("\xEF") && (marker[1] & 0xFC) == 0x80;
+        if (isPrivate) {
+            put(static_cast<char32_t>(0xF000 | (marker[1] & 0x3F) << 6 | (marker[2] & 0x3F)));
+        } else {
+            builder_.text() += marker[0];
+        }
+        marker.remove_prefix(isPrivate ? 3 : 1);
+    }
 }
 
 /// The format that the paragraph ends with, where more is known of it than its words say.

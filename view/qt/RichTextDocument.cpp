@@ -2,6 +2,7 @@
 
 #include "rtf/Blocks.h"
 #include "view/qt/RichTextFormats.h"
+#include "view/qt/RichTextParagraphs.h"
 #include "view/qt/RichTextRuns.h"
 #include "view/qt/RichTextTables.h"
 
