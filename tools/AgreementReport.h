@@ -26,10 +26,10 @@ class Files;
 /// for an empty paragraph `end`, an object with the attributes that give it its height.
 ///
 /// A run: `text`, `font` (the family) and `size`, always there; `bold`, `italic`, `strike` (true), `underline` (true,
-/// or "double", "dotted", "dashed", "dashDotted", "dashDotDotted", "waved"), `colour` and `background` ("#rrggbb"),
-/// `letterSpacing`, `script` ("super", "sub"), `offset` (upwards), `capitals` ("small", "all"), `border`, `link` (the
-/// target), `picture` (an object with `kind` "png", "jpeg" or "bitmap", `bytes`, and `width` and `height` to show it
-/// at).
+/// or "double", "dotted", "dashed", "dashDotted", "dashDotDotted", "waved", "thick", or "words": under words alone),
+/// `colour` and `background` ("#rrggbb"), `letterSpacing`, `script` ("super", "sub"), `offset` (upwards), `capitals`
+/// ("small", "all"), `border`, `link` (the target), `picture` (an object with `kind` "png", "jpeg" or "bitmap",
+/// `bytes`, and `width` and `height` to show it at).
 ///
 /// A table: `rows`, an array of objects with `left`, `alignment`, `rightToLeft`, `borders` (with `between` and
 /// `columns` beside the sides), `padding` (by side) and `cells`, an array of objects with `rightEdge`, `shading`,
