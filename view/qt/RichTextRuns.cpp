@@ -15,9 +15,9 @@ void insertWords(QTextCursor& cursor, const QString& text, const QTextCharFormat
 {
     QTextCharFormat between = format;
     between.setUnderlineStyle(QTextCharFormat::NoUnderline);
-    for (auto begin = text.begin(); begin != text.end();) {
+    for (const auto* begin = text.begin(); begin != text.end();) {
         const bool isSpace = begin->isSpace();
-        const auto end
+        const auto* const end
             = std::find_if(begin, text.end(), [=](QChar character) { return character.isSpace() != isSpace; });
         cursor.insertText(QString(begin, end - begin), isSpace ? between : format);
         begin = end;

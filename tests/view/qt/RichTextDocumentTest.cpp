@@ -272,6 +272,14 @@ TEST(RichTextDocument, showsTablesAsTheirAuthorDividedThem)
     EXPECT_EQ(document->lastBlock().text(), "after");
 }
 
+/// Where the text in a cell of the first row begins, from the text area's left edge.
+double leftOf(const QTextTable& table, int column)
+{
+    const QTextDocument& document = *table.document();
+    const QTextBlock block = table.cellAt(0, column).firstCursorPosition().block();
+    return document.documentLayout()->blockBoundingRect(block).left() - document.documentMargin();
+}
+
 TEST(RichTextDocument, putsCellsWhereTheirRowSays)
 {
     struct Case {
@@ -291,13 +299,9 @@ TEST(RichTextDocument, putsCellsWhereTheirRowSays)
     };
     for (const auto& [row, leftCell, first, second] : rows) {
         const auto document = documentOf("\\trowd" + std::string(row) + R"(\pard\intbl a\cell b\cell\row)");
-        const auto leftOf = [&](int column) {
-            const QTextBlock block = tableOf(*document)->cellAt(0, column).firstCursorPosition().block();
-            return document->documentLayout()->blockBoundingRect(block).left() - document->documentMargin();
-        };
         EXPECT_EQ(textOf(tableOf(*document)->cellAt(0, 0)), leftCell) << row;
-        EXPECT_NEAR(leftOf(0), first, 2.5) << row;
-        EXPECT_NEAR(leftOf(1), second, 2.5) << row;
+        EXPECT_NEAR(leftOf(*tableOf(*document), 0), first, 2.5) << row;
+        EXPECT_NEAR(leftOf(*tableOf(*document), 1), second, 2.5) << row;
     }
 }
 
@@ -321,12 +325,8 @@ TEST(RichTextDocument, givesATableInACellItsOwnWidth)
         const auto document = documentOf("\\trowd" + std::string(outer) + R"(\pard\intbl\itap2 a\nestcell b\nestcell)"
             + R"({\*\nesttableprops\trowd)" + inner + R"(\nestrow}\itap1\cell\cell\row)");
         const auto* const table = qobject_cast<QTextTable*>(tableOf(*document)->childFrames().at(0));
-        const auto leftOf = [&](int column) {
-            const QTextBlock block = table->cellAt(0, column).firstCursorPosition().block();
-            return document->documentLayout()->blockBoundingRect(block).left() - document->documentMargin();
-        };
-        EXPECT_NEAR(leftOf(0), first, 2.5) << outer << inner;
-        EXPECT_NEAR(leftOf(1), second, 2.5) << outer << inner;
+        EXPECT_NEAR(leftOf(*table, 0), first, 2.5) << outer << inner;
+        EXPECT_NEAR(leftOf(*table, 1), second, 2.5) << outer << inner;
     }
 }
 
