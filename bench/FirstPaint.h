@@ -8,8 +8,8 @@
 
 namespace corvellane {
 
-/// Ends the program when a widget has been painted for the first time, without taking anything down: at its end, a
-/// program that has shown no text reads the configuration of all fonts, which is half of what it does.
+/// Ends the program when a widget has been painted for the first time: at once, without taking anything down; or as
+/// programs end, where it was started with "--to-end".
 class EndAtFirstPaint : public QObject {
 public:
     EndAtFirstPaint() { QCoreApplication::instance()->installEventFilter(this); }
@@ -17,7 +17,12 @@ public:
     bool eventFilter(QObject*, QEvent* event) override
     {
         if (event->type() == QEvent::Paint) {
-            QTimer::singleShot(0, [] { std::_Exit(0); });
+            QTimer::singleShot(0, [] {
+                if (!QCoreApplication::arguments().contains(QStringLiteral("--to-end"))) {
+                    std::_Exit(0);
+                }
+                QCoreApplication::quit();
+            });
         }
         return false;
     }
