@@ -1,5 +1,7 @@
 #include "platform/qt/Display.h"
 
+#include "platform/qt/FontsAhead.h"
+
 #include <QFileInfo>
 
 #include <algorithm>
@@ -102,6 +104,7 @@ QApplication applicationOnDisplay(int& count, char** arguments)
     const Attempt attempt(count, arguments);
     // Nothing in the window takes what is typed, so that none has to be found and connected to.
     const Variable inputMethod("QT_IM_MODULE", "none");
+    const FontsAhead fonts;
     return {count, arguments};
 }
 
