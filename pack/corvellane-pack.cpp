@@ -2,11 +2,15 @@
 // is there, with 1 when something of the folder's or the machine's is in the way, and with 2 for a wrong command line;
 // then nothing has been made.
 
-#include "helper/Program.h"
 #include "pack/Maker.h"
 #include "pack/Reading.h"
+#include "platform/posix/ProcessSetup.h"
+#include "tools/Colours.h"
 #include "tools/CommandLine.h"
+#include "tools/Rehearsal.h"
+#include "tools/ReportForms.h"
 
+#include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <cstdio>
@@ -87,21 +91,17 @@ std::string ownFolder()
     return fs::canonical("/proc/self/exe").parent_path().native();
 }
 
-/// Of a build where this program is a build's, else of the installed kit.
-std::string ownFile(const std::vector<std::string>& places)
-{
-    for (const std::string& place : places) {
-        if (fs::exists(ownFolder() + place)) {
-            return fs::canonical(ownFolder() + place).native();
-        }
-    }
-    throw std::runtime_error(
-        "“" + ownFolder() + places.back() + "” is missing: it is made by the target “kit” of a build");
-}
-
+/// That of a build where this program is a build's, else of the installed kit.
 std::string kitFolder()
 {
-    return ownFile({"/../kit", "/../lib/corvellane-maker"});
+    std::string kit;
+    for (const char* const place : {"/../kit", "/../lib/corvellane-maker"}) {
+        kit = ownFolder() + place;
+        if (fs::exists(kit)) {
+            return fs::canonical(kit).native();
+        }
+    }
+    throw std::runtime_error("“" + kit + "” is missing: it is made by the target “kit” of a build");
 }
 
 std::int64_t epoch()
@@ -120,13 +120,6 @@ std::int64_t epoch()
     return seconds;
 }
 
-void tell(const std::vector<std::string>& problems)
-{
-    for (const std::string& problem : problems) {
-        std::fprintf(stderr, "corvellane-pack: %s\n", problem.c_str());
-    }
-}
-
 /// All at once, not one a run.
 std::vector<std::string> problemsOf(const Options& options, Description& description)
 {
@@ -142,29 +135,38 @@ std::vector<std::string> problemsOf(const Options& options, Description& descrip
     return problems;
 }
 
-/// Whether what is in the folder can be installed; shows what the rehearsal finds.
-bool isRehearsed(const Options& options)
+/// Modes are put right in what is packed, and room is needed elsewhere.
+bool isNoMatter(std::string_view code)
 {
-    std::vector<std::string> words{ownFile({"/../tools/rehearse", "/rehearse"}), options.folder};
-    if (options.strict) {
-        words.emplace_back("--strict");
-    }
-    const runner::Reply reply = runner::runProgram(words.front(), words, {"LC_ALL=C.UTF-8"}, words.front());
-    if (reply.status != 0) {
-        std::fputs((reply.output + reply.errors).c_str(), stderr);
-        tell({"nothing is made: the rehearsal found errors in the folder"});
-    }
-    return reply.status == 0;
+    return code == "closed" || code == "open" || code == "no-room";
 }
 
-int make(const Options& options)
+/// What stands in the way of installing what is in the folder; shows what the rehearsal finds.
+std::vector<std::string> problemsOfRehearsal(const Options& options)
+{
+    PayloadReport report = rehearsedPayload(options.folder + "/Products");
+    std::erase_if(report.findings, [](const Finding& finding) { return isNoMatter(finding.code.name()); });
+    for (const std::string& line : findingLines(report, Severity::warning, showsColours(stderr))) {
+        std::fprintf(stderr, "%s\n", line.c_str());
+    }
+    if (isRefused(report, false)) {
+        return {"nothing is made: the rehearsal found errors in the folder"};
+    }
+    if (isRefused(report, options.strict)) {
+        return {"nothing is made: the rehearsal has warnings, and --strict takes them for errors"};
+    }
+    return {};
+}
+
+int make(const CLI::App& program, const Options& options)
 {
     Ingredients ingredients{kitFolder(), options.folder, {}, epoch()};
-    if (const auto problems = problemsOf(options, ingredients.description); !problems.empty()) {
-        tell(problems);
-        return notMade;
+    std::vector<std::string> problems = problemsOf(options, ingredients.description);
+    if (problems.empty()) {
+        problems = problemsOfRehearsal(options);
     }
-    if (!isRehearsed(options)) {
+    if (!problems.empty()) {
+        std::ranges::for_each(problems, [&](const std::string& problem) { complain(program, problem); });
         return notMade;
     }
     for (const std::string& file : makeInstallers(ingredients, options.formats, options.output, options.key)) {
@@ -179,6 +181,7 @@ int make(const Options& options)
 int main(int count, char** arguments)
 {
     using namespace corvellane;
+    setUpProcess();
     CLI::App program("Makes installers of a folder with products.", "corvellane-pack");
     if (count == 2 && std::string_view(arguments[1]) == "--version") {
         addCommonOptions(program, "");
@@ -190,9 +193,9 @@ int main(int count, char** arguments)
         return endOutput(program, *ending);
     }
     try {
-        return endOutput(program, pack::make(options));
+        return endOutput(program, pack::make(program, options));
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "corvellane-pack: %s\n", error.what());
+        complain(program, error.what());
         return pack::notMade;
     }
 }

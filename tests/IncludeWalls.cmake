@@ -26,7 +26,7 @@ set(may_include_ui base products agreement state view)
 set(may_include_app ${folders})
 set(may_include_helper "")
 set(may_include_tools ${folders})
-set(may_include_pack base helper tools)
+set(may_include_pack base helper platform/posix tools)
 set(may_include_cli ${folders})
 
 # What kind of header it is, and who may include that kind; the first row that fits holds.

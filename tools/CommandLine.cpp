@@ -1,6 +1,7 @@
 #include "tools/CommandLine.h"
 
 #include "base/PathNames.h"
+#include "tools/Colours.h"
 #include "tools/PrintableText.h"
 
 #include <algorithm>
@@ -85,18 +86,24 @@ std::optional<int> readArguments(CLI::App& program, int count, char** arguments,
     }
 }
 
+void complain(const CLI::App& program, std::string_view text)
+{
+    const std::string name = coloured(program.get_name() + ":", Colour::red, showsColours(stderr));
+    std::fprintf(stderr, "%s %.*s\n", name.c_str(), static_cast<int>(text.size()), text.data());
+}
+
 int endOutput(const CLI::App& program, int status)
 {
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) {
         return status;
     }
-    std::fprintf(stderr, "%s: standard output cannot be written\n", program.get_name().c_str());
+    complain(program, "standard output cannot be written");
     return notWritten;
 }
 
 int refuseUsage(const CLI::App& program, const std::string& reason)
 {
-    std::fprintf(stderr, "%s: %s\n", program.get_name().c_str(), printable(reason).c_str());
+    complain(program, printable(reason));
     return wrongUsage;
 }
 

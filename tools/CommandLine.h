@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace corvellane {
 
@@ -21,6 +22,9 @@ std::string productsFolderIn(const std::string& folder);
 
 /// Gives the program the options --help and --version; the help ends with `more`.
 void addCommonOptions(CLI::App& program, const std::string& more);
+
+/// Says on standard error, behind the program's name, what is in the way; as it stands.
+void complain(const CLI::App& program, std::string_view text);
 
 /// Says on standard error, in one line, what is wrong with the command line, and gives the exit status for that, 2.
 int refuseUsage(const CLI::App& program, const std::string& reason);

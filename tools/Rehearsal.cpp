@@ -3,6 +3,7 @@
 #include "platform/Resources.h"
 #include "platform/ScriptService.h"
 #include "platform/posix/PosixStandardFolders.h"
+#include "platform/posix/StreamConsole.h"
 
 #include <filesystem>
 #include <utility>
@@ -64,11 +65,17 @@ void makeRehearsal(System& system, const std::string& productsFolder, const std:
 
 Rehearsal::Rehearsal(System system, const std::string& productsFolder, const std::string& into)
     : system_(std::move(system))
+    , productsFolder_(productsFolder)
 {
     makeRehearsal(system_, productsFolder, into);
     system_.dispatcher = dispatcher_;
     settings_ = std::make_shared<AppSettings>(system_.platform());
     settings_->refreshProducts();
+}
+
+PayloadReport Rehearsal::report() const
+{
+    return reportPayload(*system_.files, productsFolder_, settings_->products.get(), settings_->hostPaths());
 }
 
 void Rehearsal::install()
@@ -80,6 +87,13 @@ void Rehearsal::install()
     settings_->nextAction();
     settings_->confirmInstallation();
     dispatcher_->runMainQueue();
+}
+
+PayloadReport rehearsedPayload(const std::string& productsFolder)
+{
+    System system;
+    system.console = std::make_shared<StreamConsole>(stderr);
+    return Rehearsal(system, productsFolder, "").report();
 }
 
 } // namespace corvellane

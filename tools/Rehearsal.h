@@ -3,6 +3,7 @@
 #include "app/System.h"
 #include "platform/posix/QueueDispatcher.h"
 #include "state/AppSettings.h"
+#include "tools/PayloadReport.h"
 
 #include <string>
 
@@ -25,13 +26,20 @@ public:
     /// The state, filled from the products folder.
     AppSettings& settings() { return *settings_; }
 
+    /// What installing the ticked products would do. Nothing is changed.
+    PayloadReport report() const;
+
     /// Goes through the wizard's pages as a person would who agrees to everything, and returns when it has ended.
     void install();
 
 private:
     System system_;
+    std::string productsFolder_;
     std::shared_ptr<QueueDispatcher> dispatcher_ = std::make_shared<QueueDispatcher>();
     std::shared_ptr<AppSettings> settings_;
 };
+
+/// What installing every product in the folder would do. What the wizard itself says goes to standard error.
+PayloadReport rehearsedPayload(const std::string& productsFolder);
 
 } // namespace corvellane

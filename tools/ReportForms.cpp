@@ -2,12 +2,14 @@
 
 #include "base/Enumerators.h"
 #include "base/PathNames.h"
+#include "tools/Colours.h"
 #include "tools/PrintableText.h"
 #include "tools/SizeInWords.h"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <iterator>
 
 namespace corvellane {
 namespace {
@@ -16,15 +18,15 @@ using Json = nlohmann::ordered_json;
 
 constexpr int jsonFormat = 1;
 
-constexpr std::string_view colourOf(Severity severity)
+constexpr Colour colourOf(Severity severity)
 {
     switch (severity) {
     case Severity::error:
-        return "\x1b[1;31m";
+        return Colour::red;
     case Severity::warning:
-        return "\x1b[1;33m";
+        return Colour::yellow;
     case Severity::note:
-        return "\x1b[1;36m";
+        return Colour::cyan;
     }
     return {};
 }
@@ -63,10 +65,8 @@ void addElement(std::vector<std::string>& lines, const ElementReport& element)
 std::string lineOf(const Finding& finding, bool isColoured)
 {
     const Severity severity = finding.code.severity();
-    const std::string label = isColoured ? std::string(colourOf(severity)) + std::string(nameOf(severity)) + "\x1b[0m"
-                                         : std::string(nameOf(severity));
-    return label + ": " + printable(finding.path) + ": " + printable(finding.text) + " ["
-        + std::string(finding.code.name()) + "]";
+    return coloured(nameOf(severity), colourOf(severity), isColoured) + ": " + printable(finding.path) + ": "
+        + printable(finding.text) + " [" + std::string(finding.code.name()) + "]";
 }
 
 Json elementJson(const ElementReport& element)
@@ -109,12 +109,21 @@ std::vector<std::string> reportLines(const PayloadReport& report, bool isColoure
             addElement(lines, element);
         }
     }
-    for (const Finding& finding : report.findings) {
-        lines.push_back(lineOf(finding, isColoured));
-    }
+    std::ranges::move(findingLines(report, Severity::note, isColoured), std::back_inserter(lines));
     lines.push_back(countOf(countOf(report, Severity::error), "error") + ", "
         + countOf(countOf(report, Severity::warning), "warning") + ", "
         + countOf(countOf(report, Severity::note), "note"));
+    return lines;
+}
+
+std::vector<std::string> findingLines(const PayloadReport& report, Severity least, bool isColoured)
+{
+    std::vector<std::string> lines;
+    for (const Finding& finding : report.findings) {
+        if (finding.code.severity() <= least) {
+            lines.push_back(lineOf(finding, isColoured));
+        }
+    }
     return lines;
 }
 

@@ -11,6 +11,9 @@ namespace corvellane {
 /// With colours, severities are told apart by a terminal's escape sequences.
 std::vector<std::string> reportLines(const PayloadReport& report, bool isColoured);
 
+/// The findings of a severity and graver ones, a line each as above.
+std::vector<std::string> findingLines(const PayloadReport& report, Severity least, bool isColoured);
+
 /// For programs: the object that docs/rehearse.md describes, indented, without a line feed at its end.
 std::string reportJson(const PayloadReport& report);
 

@@ -2,6 +2,7 @@
 #include "platform/posix/ProcessSetup.h"
 #include "platform/posix/StreamConsole.h"
 #include "tools/AgreementReport.h"
+#include "tools/Colours.h"
 #include "tools/CommandLine.h"
 #include "tools/FolderTree.h"
 #include "tools/ProductNames.h"
@@ -11,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 
 namespace corvellane {
 namespace {
@@ -75,15 +75,6 @@ void addOptions(CLI::App& program, Options& options)
         ->type_name("FILE");
 }
 
-/// On a terminal that is not told otherwise, as https://no-color.org has it.
-bool writesColours()
-{
-    const char* const refusal = std::getenv("NO_COLOR");
-    const char* const terminal = std::getenv("TERM");
-    return isTerminal(stdout) && (refusal == nullptr || *refusal == '\0') && terminal != nullptr
-        && std::string_view(terminal) != "dumb";
-}
-
 /// Ticks the named products and no others, all of them for no names; gives a name that no product has.
 std::optional<std::string> select(AppSettings& settings, const std::vector<std::string>& names)
 {
@@ -109,15 +100,13 @@ int showScript(AppSettings& settings)
     return allWell;
 }
 
-int showPayload(AppSettings& settings, const Options& options, const System& system)
+int showPayload(const PayloadReport& report, const Options& options, Console& console)
 {
-    const auto report
-        = reportPayload(*system.files, options.productsFolder, settings.products.get(), settings.hostPaths());
     if (options.json) {
-        system.console->print(reportJson(report));
+        console.print(reportJson(report));
     } else {
         std::ranges::for_each(
-            reportLines(report, writesColours()), [&](const auto& line) { system.console->print(line); });
+            reportLines(report, showsColours(stdout)), [&](const auto& line) { console.print(line); });
     }
     return isRefused(report, options.strict) ? notWell : allWell;
 }
@@ -159,7 +148,7 @@ int rehearseProducts(const CLI::App& program, const Options& options, const Syst
     if (options.into) {
         return install(rehearsal, into, *system.console);
     }
-    return showPayload(rehearsal.settings(), options, system);
+    return showPayload(rehearsal.report(), options, *system.console);
 }
 
 int carryOut(const CLI::App& program, Options& options)
