@@ -15,6 +15,8 @@ namespace {
 struct Key {
     const char* name;
     std::string Description::* field;
+    /// In bytes: more than anybody writes, and not too much for a file's name or for the matching.
+    std::size_t longest;
     /// What the value must look like, and that in words.
     const char* form;
     const char* words;
@@ -22,16 +24,20 @@ struct Key {
 
 constexpr auto oneLine = R"([^\x00-\x1f\x7f]+)";
 constexpr std::array<Key, 7> keys{{
-    {"name", &Description::name, oneLine, "one line of text"},
-    {"identifier", &Description::identifier, R"([A-Za-z][A-Za-z0-9]*(\.[A-Za-z][A-Za-z0-9]*){2,})",
-        "at least three names of letters and digits with dots between them, like com.example.GrainInstaller"},
-    {"version", &Description::version, R"([0-9][A-Za-z0-9.+~]*)",
-        "a digit and then letters, digits, “.”, “+” or “~”, like 1.4.2"},
-    {"publisher", &Description::publisher, oneLine, "one line of text"},
-    {"contact", &Description::contact, R"([^\x00-\x1f\x7f<>]+ <[^\x00-\x20\x7f<>@]+@[^\x00-\x20\x7f<>@]+>)",
+    {"name", &Description::name, 200, oneLine, "one line of text"},
+    // The domain in small letters, as AppStream has it.
+    {"identifier", &Description::identifier, 100,
+        R"(([a-z][a-z0-9]*\.){2}[A-Za-z][A-Za-z0-9]*(\.[A-Za-z][A-Za-z0-9]*)*)",
+        "a domain in small letters, and names of letters and digits with dots between them, like "
+        "com.example.GrainInstaller"},
+    {"version", &Description::version, 50, R"([0-9][A-Za-z0-9.+~]*)",
+        "a digit and then letters, digits, “.”, “+” or “~”, like 1.4.2 or 2.0~beta1"},
+    {"publisher", &Description::publisher, 200, oneLine, "one line of text"},
+    {"contact", &Description::contact, 200, R"([^\x00-\x1f\x7f<>]+ <[^\x00-\x20\x7f<>@]+@[^\x00-\x20\x7f<>@]+>)",
         "a name and an address, like Example <help@example.com>"},
-    {"homepage", &Description::homepage, R"(https?://[^\x00-\x20\x7f"<>]+)", "an address that begins with https://"},
-    {"notes", &Description::notes, R"([^\x00-\x09\x0b-\x1f\x7f]+)", "text"},
+    {"homepage", &Description::homepage, 500, R"(https?://[^\x00-\x20\x7f"<>]+)",
+        "an address that begins with https://"},
+    {"notes", &Description::notes, 10000, R"([^\x00-\x08\x0b-\x1f\x7f]+)", "text"},
 }};
 
 std::string at(const toml::source_region& place, const std::string& problem)
@@ -39,6 +45,23 @@ std::string at(const toml::source_region& place, const std::string& problem)
     std::ostringstream line;
     line << "installer.toml:" << place.begin.line << ": " << problem;
     return line.str();
+}
+
+std::string trimmed(const std::string& text)
+{
+    constexpr auto blanks = " \t\r\n";
+    const std::size_t begin = std::min(text.find_first_not_of(blanks), text.size());
+    return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
+}
+
+/// What a key that is none could have been.
+std::string namesOfKeys()
+{
+    std::string names = keys.front().name;
+    for (std::size_t index = 1; index < keys.size(); ++index) {
+        names += (index + 1 < keys.size() ? ", " : " and ") + std::string(keys.at(index).name);
+    }
+    return names;
 }
 
 const Key* keyNamed(std::string_view name)
@@ -52,12 +75,18 @@ void readEntry(std::string_view name, const toml::node& value, DescriptionReadin
     const std::string quoted = "“" + std::string(name) + "”";
     const Key* const key = keyNamed(name);
     if (key == nullptr) {
-        reading.problems.push_back(at(value.source(), "there is no key " + quoted));
-    } else if (const auto* const text = value.as_string();
-        text == nullptr || !std::regex_match(text->get(), std::regex(key->form))) {
+        reading.problems.push_back(at(value.source(), "there is no key " + quoted + "; there are " + namesOfKeys()));
+        return;
+    }
+    const auto* const given = value.as_string();
+    const std::string text = given == nullptr ? "" : trimmed(given->get());
+    if (text.size() > key->longest) {
+        reading.problems.push_back(
+            at(value.source(), quoted + " is longer than " + std::to_string(key->longest) + " bytes"));
+    } else if (!std::regex_match(text, std::regex(key->form))) {
         reading.problems.push_back(at(value.source(), quoted + " must be " + key->words));
     } else {
-        reading.description.*key->field = text->get();
+        reading.description.*key->field = text;
     }
 }
 

@@ -121,7 +121,7 @@ Contents systemFilesOf(const Ingredients& ingredients)
         contents.addText("usr/share/" + folder + "/" + description.identifier + ending,
             retold(sample, description, ingredients.epoch, quoting));
     };
-    addDesktopText("applications", ".desktop", Quoting::none);
+    addDesktopText("applications", ".desktop", Quoting::desktop);
     addDesktopText("metainfo", ".metainfo.xml", Quoting::xml);
     addDesktopText("polkit-1/actions", ".policy", Quoting::xml);
     contents.addLink(
@@ -142,9 +142,8 @@ std::string summaryOf(const Description& description)
 std::string inWords(const Description& description)
 {
     return description.name
-        + " shows the licence agreement, lets people choose\nthe products, asks once for an administrator's password "
-          "and"
-          " shows the full log\nwhen something goes wrong.\n";
+        + "\nshows the licence agreement, lets people choose the products, asks once for an\nadministrator's password "
+          "and shows the full log when something goes wrong.\n";
 }
 
 std::string indented(std::string text, const std::string& indent)

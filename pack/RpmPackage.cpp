@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <ranges>
+#include <regex>
 #include <set>
 #include <stdexcept>
 #include <vector>
@@ -22,14 +23,11 @@ namespace fs = std::filesystem;
 constexpr auto fileMode = static_cast<fs::perms>(0644);
 constexpr auto folderMode = static_cast<fs::perms>(0755);
 
-/// In a text of rpmbuild's, "%" begins a macro.
+/// In a text of rpmbuild's, "%" begins a macro, and "#" at the beginning of a line a comment, unless a dash is in
+/// front.
 std::string literal(const std::string& text)
 {
-    std::string result;
-    for (const char letter : text) {
-        result += letter == '%' ? "%%" : std::string(1, letter);
-    }
-    return result;
+    return replaced(std::regex_replace(text, std::regex("(\n\\s*)#"), "$1- #"), {{"%", "%%"}});
 }
 
 /// What belongs to the package whole: its own folders, and in those of the system its own files.
@@ -133,11 +131,12 @@ std::string rpmSpecOf(const Ingredients& ingredients, const Contents& files)
 {
     const Description& description = ingredients.description;
     const std::string package = description.packageName();
+    std::string summary = summaryOf(description);
+    summary.front() = 'W';
     return "%global __requires_exclude_from ^/usr/lib/" + package + "/Resources/\n"
         + "%global __provides_exclude_from ^/\n"
           "Name: "
-        + package + "\nVersion: " + description.version
-        + "\nRelease: 1\nSummary: " + literal("W" + summaryOf(description).substr(1))
+        + package + "\nVersion: " + description.version + "\nRelease: 1\nSummary: " + literal(summary)
         + "\nLicense: MIT AND LicenseRef-Agreement\nURL: " + literal(description.homepage)
         + "\nVendor: " + literal(description.publisher) + "\nPackager: " + literal(description.contact)
         + "\nRequires: (qt6-qtbase-gui or libQt6Gui6)\nRequires: /usr/bin/pkexec\nRequires: hicolor-icon-theme\n"

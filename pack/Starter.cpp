@@ -30,20 +30,20 @@ std::string entryOf(const std::string& path, const Item& item)
 std::string starterOf(const Ingredients& ingredients, Payload payload, const std::string& folderSum)
 {
     const Description& description = ingredients.description;
-    std::string starter = textOf(ingredients.kit + "/starter");
-    const auto put = [&starter](const std::string& place, const std::string& text) {
-        starter.replace(starter.find(place), place.size(), text);
+    std::string starter = replaced(textOf(ingredients.kit + "/starter"),
+        {{"@TITLE@", description.name + " " + description.version},
+            {"@NAME@", quoted(description.name, Quoting::shell)},
+            {"@PACKAGE@", quoted(description.packageName(), Quoting::shell)},
+            {"@VERSION@", quoted(description.version, Quoting::shell)},
+            {"@PAYLOAD@", payload == Payload::archive ? "archive" : "folder"}, {"@CHECKSUM@", folderSum}});
+    // Whole lines, which nothing that was put in is.
+    const auto putLine = [&starter](const std::string& place, const std::string& line) {
+        starter.replace(starter.find("\n" + place + "\n") + 1, place.size(), line);
     };
-    put("@TITLE@", description.name + " " + description.version);
-    put("@NAME@", quoted(description.name, Quoting::shell));
-    put("@PACKAGE@", quoted(description.packageName(), Quoting::shell));
-    put("@VERSION@", quoted(description.version, Quoting::shell));
-    put("@PAYLOAD@", payload == Payload::archive ? "archive" : "folder");
-    put("@CHECKSUM@", folderSum);
     // As many digits as the place has, so that the length stays; its own checksum is still to come.
     const std::string length = std::to_string(starter.size() + 64);
-    put("length=0000000", "length=" + length + std::string(7 - length.size(), ' '));
-    put("starter=''", "starter='" + checksumOf(starter) + "'");
+    putLine("length=0000000", "length=" + length + std::string(7 - length.size(), ' '));
+    putLine("starter=''", "starter='" + checksumOf(starter) + "'");
     return starter;
 }
 

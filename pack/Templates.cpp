@@ -4,29 +4,9 @@
 #include <array>
 #include <ctime>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 namespace corvellane::pack {
 namespace {
-
-using Words = std::vector<std::pair<std::string, std::string>>;
-
-std::string replaced(const std::string& text, const Words& words)
-{
-    std::string result;
-    for (std::size_t at = 0; at < text.size();) {
-        const auto found = std::ranges::find_if(
-            words, [&](const auto& pair) { return std::string_view(text).substr(at).starts_with(pair.first); });
-        if (found == words.end()) {
-            result += text[at++];
-        } else {
-            result += found->second;
-            at += found->first.size();
-        }
-    }
-    return result;
-}
 
 std::string formatted(std::int64_t epoch, const char* format)
 {
@@ -44,15 +24,31 @@ std::string inUpperCase(std::string name)
 
 } // namespace
 
+std::string replaced(const std::string& text, const Words& words)
+{
+    std::string result;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto found = std::ranges::find_if(
+            words, [&](const auto& pair) { return std::string_view(text).substr(at).starts_with(pair.first); });
+        if (found == words.end()) {
+            result += text[at++];
+        } else {
+            result += found->second;
+            at += found->first.size();
+        }
+    }
+    return result;
+}
+
 std::string quoted(const std::string& text, Quoting quoting)
 {
     switch (quoting) {
     case Quoting::xml:
         return replaced(text, {{"&", "&amp;"}, {"<", "&lt;"}, {">", "&gt;"}, {"\"", "&quot;"}});
     case Quoting::shell:
-        return "'" + replaced(text, {{"'", R"('\'')"}}) + "'";
-    case Quoting::none:
-        break;
+        return std::string("'").append(replaced(text, {{"'", R"('\'')"}})).append("'");
+    case Quoting::desktop:
+        return replaced(text, {{"\\", "\\\\"}});
     }
     return text;
 }

@@ -4,11 +4,19 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace corvellane::pack {
 
 /// How a text quotes what is put into it.
-enum class Quoting { none, xml, shell };
+enum class Quoting { desktop, xml, shell };
+
+/// What stands in a text, and what is put in its place.
+using Words = std::vector<std::pair<std::string, std::string>>;
+
+/// The text with the words replaced, of those that fit at a place the first; what is put in stays as it is.
+std::string replaced(const std::string& text, const Words& words);
 
 /// The text in the quoting's own form; for the shell, with its quotes.
 std::string quoted(const std::string& text, Quoting quoting);

@@ -31,6 +31,7 @@ TEST(Description, isReadWhole)
     EXPECT_EQ(description.packageName(), "com.example.graininstaller");
     EXPECT_EQ(description.publisher, "Example & Co");
     EXPECT_EQ(description.notes, "First.\nSecond.");
+    EXPECT_EQ(readDescription("\xEF\xBB\xBF" + with("name", "name = \" Grain\\t\"\r"), "").description.name, "Grain");
     EXPECT_EQ(readDescription(whole, "3").description.version, "3");
     EXPECT_EQ(readDescription(with("version", ""), "3").problems, std::vector<std::string>());
 }
@@ -40,6 +41,10 @@ TEST(Description, saysWhatIsWrongByNameAndLine)
     const std::vector<std::tuple<std::string, std::string>> rows{
         {with("identifier", R"(identifier = "GrainInstaller")"), "installer.toml:2: “identifier” must be"},
         {with("identifier", R"(identifier = "com.example.../../etc")"), "installer.toml:2: “identifier” must be"},
+        {with("identifier", R"(identifier = "com.Example.Grain")"), "installer.toml:2: “identifier” must be"},
+        {with("identifier", "identifier = \"com.example." + std::string(200, 'x') + '"'),
+            "installer.toml:2: “identifier” is longer than 100 bytes"},
+        {with("version", R"(version = "1.0-beta")"), "installer.toml:3: “version” must be"},
         {with("version", R"(version = "1.0 beta")"), "installer.toml:3: “version” must be"},
         {with("version", "version = 1.0"), "installer.toml:3: “version” must be"},
         {with("version", R"(version = "../1")"), "installer.toml:3: “version” must be"},
@@ -47,7 +52,14 @@ TEST(Description, saysWhatIsWrongByNameAndLine)
         {with("contact", R"(contact = "help@example.com")"), "installer.toml:5: “contact” must be"},
         {with("name", R"(name = "Two\nDepends: lines")"), "installer.toml:1: “name” must be"},
         {with("name", R"(name = "")"), "installer.toml:1: “name” must be"},
-        {with("name", R"(title = "Grain")"), "installer.toml:1: there is no key “title”"},
+        {with("name", R"(name = " ")"), "installer.toml:1: “name” must be"},
+        {with("name", "name = \"\xff\""), "installer.toml:1: "},
+        {with("name", R"(nmae = "Grain")"),
+            "installer.toml:1: there is no key “nmae”; there are name, identifier, version, publisher, contact, "
+            "homepage and notes"},
+        // Matching what has no end would need a stack without one.
+        {with("notes", "notes = \"\"\"" + std::string(1000000, 'x')),
+            "installer.toml:7: “notes” is longer than 10000 bytes"},
         {with("notes", "notes"), "installer.toml:7:"},
     };
     for (const auto& [text, problem] : rows) {

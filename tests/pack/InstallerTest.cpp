@@ -15,7 +15,7 @@ const Description example{"It's <Grain>", "com.example.Grain", "1.2", "Example &
 TEST(Templates, tellOfTheMakerWhatTheSampleTellsOfItself)
 {
     EXPECT_EQ(retold("Name=Corvellane Plugin Installer\nExec=corvellane-installer\nComment=Install Corvellane", example,
-                  0, Quoting::none),
+                  0, Quoting::desktop),
         "Name=It's <Grain>\nExec=/usr/lib/com.example.grain/bin/corvellane-installer\nComment=Install Example & Co");
     EXPECT_EQ(retold("<a id=\"com.corvellane\">com.corvellane.PluginInstaller.install Corvellane Plugin Installer"
                      "<release version=\"@PROJECT_VERSION@\" date=\"@DATE@\" />",
@@ -23,6 +23,7 @@ TEST(Templates, tellOfTheMakerWhatTheSampleTellsOfItself)
         "<a id=\"com.example\">com.example.Grain.install It's &lt;Grain&gt;"
         "<release version=\"1.2\" date=\"1970-01-02\" />");
     EXPECT_EQ(quoted("It's", Quoting::shell), R"('It'\''s')");
+    EXPECT_EQ(quoted(R"(Grain\new)", Quoting::desktop), R"(Grain\\new)");
 }
 
 TEST(Contents, takesTheModesThatEverybodyNeeds)
