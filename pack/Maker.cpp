@@ -7,14 +7,18 @@
 #include "pack/Progress.h"
 #include "pack/Reading.h"
 #include "pack/RpmPackage.h"
+#include "pack/Signature.h"
 #include "pack/Starter.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <future>
 #include <map>
 #include <memory>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 namespace corvellane::pack {
@@ -25,15 +29,20 @@ namespace fs = std::filesystem;
 constexpr auto everybodysProgram = fs::perms::owner_all | fs::perms::group_read | fs::perms::group_exec
     | fs::perms::others_read | fs::perms::others_exec;
 
-/// A folder that goes with all that is in it at the end.
+/// A folder in the output, which is made, that goes with all that is in it at the end; so do the folders that were made
+/// for it, unless something else has come into them.
 class Workshop {
 public:
-    explicit Workshop(const std::string& output)
-        : path_(output + "/.making")
+    explicit Workshop(const fs::path& output)
+        : path_(output / ".making-XXXXXX")
     {
+        for (fs::path folder = output; !fs::exists(folder); folder = folder.parent_path()) {
+            made_.push_back(folder);
+        }
         fs::create_directories(output);
-        fs::remove_all(path_);
-        fs::create_directory(path_);
+        if (mkdtemp(path_.data()) == nullptr) {
+            throw std::system_error(errno, std::generic_category(), "“" + output.native() + "” cannot be written");
+        }
     }
     Workshop(const Workshop&) = delete;
     Workshop& operator=(const Workshop&) = delete;
@@ -41,12 +50,17 @@ public:
     {
         std::error_code error;
         fs::remove_all(path_, error);
+        for (const fs::path& folder : made_) {
+            fs::remove(folder, error);
+        }
     }
 
     std::string operator/(const std::string& name) const { return path_ + "/" + name; }
 
 private:
     std::string path_;
+    /// The innermost first.
+    std::vector<fs::path> made_;
 };
 
 /// A file whose checksum is known when it has been written.
@@ -113,7 +127,7 @@ public:
             makeDebianPackage();
         }
         if (isIn(formats_, "rpm")) {
-            makeRpm();
+            makeRpm(key);
         }
         if (isIn(formats_, "run") || isIn(formats_, "tar.zst")) {
             makeBundle();
@@ -135,8 +149,7 @@ private:
         writeText(workshop_ / "SHA256SUMS", sums);
         names.emplace_back("SHA256SUMS");
         if (!key.empty()) {
-            outputOf({pathOf("gpg", "gpg"), "--batch", "--yes", "--armor", "--local-user", key, "--detach-sign",
-                workshop_ / "SHA256SUMS"});
+            sign(workshop_ / "SHA256SUMS", key);
             names.emplace_back("SHA256SUMS.asc");
         }
         return names;
@@ -163,7 +176,7 @@ private:
         add(name);
     }
 
-    void makeRpm()
+    void makeRpm(const std::string& key)
     {
         const std::string name = rpmNameOf(ingredients_);
         progress_.begin(name);
@@ -175,6 +188,9 @@ private:
             progress_.show();
         }
         fs::rename(package.get(), workshop_ / name);
+        if (!key.empty()) {
+            signRpm(workshop_ / name, key);
+        }
         progress_.add(holdings_.rpm.size());
         add(name);
     }
@@ -262,7 +278,10 @@ void findTools(const Formats& formats, const std::string& key)
         pathOf("rpmbuild", "rpm");
     }
     if (!key.empty()) {
-        pathOf("gpg", "gpg");
+        findKey(key);
+    }
+    if (!key.empty() && isIn(formats, "rpm")) {
+        pathOf("rpmsign", "rpm");
     }
 }
 
@@ -279,6 +298,10 @@ std::vector<std::string> makeInstallers(
         std::string path = (fs::path(output) / name).native();
         fs::rename(workshop / name, path);
         name = std::move(path);
+    }
+    if (key.empty()) {
+        // That of an earlier list.
+        fs::remove(fs::path(output) / "SHA256SUMS.asc");
     }
     return made;
 }

@@ -11,8 +11,9 @@ namespace corvellane::pack {
 using Formats = std::vector<std::string>;
 
 /// Makes the installers in the folder `output`, which is made, with the list of their checksums, "SHA256SUMS", and its
-/// signature by the key of gpg's that is not empty. Gives the paths of the files, which are there when all of it has
-/// worked out, and throws std::exception where something has not; then nothing of it is there.
+/// signature by the key of gpg's that is not empty, which an rpm has inside as well. Gives the paths of the files,
+/// which are there when all of it has worked out, and throws std::exception where something has not, or Stopped; then
+/// nothing of it is there.
 std::vector<std::string> makeInstallers(
     const Ingredients& ingredients, const Formats& formats, const std::string& output, const std::string& key);
 

@@ -1,6 +1,7 @@
 #include "pack/Output.h"
 
-#include <stdexcept>
+#include <cerrno>
+#include <system_error>
 #include <utility>
 
 namespace corvellane::pack {
@@ -45,7 +46,7 @@ void Output::close()
 void Output::mustBeWell() const
 {
     if (!stream_) {
-        throw std::runtime_error("“" + file_ + "” cannot be written");
+        throw std::system_error(errno, std::generic_category(), "“" + file_ + "” cannot be written");
     }
 }
 

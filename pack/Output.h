@@ -11,7 +11,7 @@
 namespace corvellane::pack {
 
 /// A file that is written from its beginning to its end, by another thread while more of it comes. What fails is thrown
-/// as std::runtime_error by `overwrite` or `close`.
+/// as std::system_error by `overwrite` or `close`.
 class Output {
 public:
     explicit Output(std::string file);

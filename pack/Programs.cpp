@@ -40,7 +40,8 @@ std::string outputOf(const std::vector<std::string>& words, const std::vector<st
     whole.insert(whole.end(), {"PATH=/usr/bin:/bin", "LC_ALL=C.UTF-8", "HOME=" + inherited("HOME", "/")});
     const runner::Reply reply = runner::runProgram(words.front(), words, whole, words.front());
     if (reply.status != 0) {
-        throw std::runtime_error(words.front() + ": " + reply.errors);
+        const std::string errors = reply.errors.substr(0, reply.errors.find_last_not_of('\n') + 1);
+        throw std::runtime_error(words.front() + ": " + errors);
     }
     return reply.output;
 }

@@ -1,13 +1,35 @@
 #include "pack/Progress.h"
 
+#include "platform/posix/StreamConsole.h"
+
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
-#include <filesystem>
 
 namespace corvellane::pack {
+namespace {
+
+volatile std::sig_atomic_t askedToEnd = 0;
+
+void takeSignal(int signal)
+{
+    askedToEnd = signal;
+}
+
+} // namespace
+
+void stopByProgress()
+{
+    for (const int signal : {SIGHUP, SIGINT, SIGTERM}) {
+        // What whoever started this has it ignore stays ignored.
+        if (std::signal(signal, &takeSignal) == SIG_IGN) {
+            std::signal(signal, SIG_IGN);
+        }
+    }
+}
 
 Progress::Progress(std::uintmax_t all)
-    : isShown_(std::filesystem::is_character_file("/proc/self/fd/2"))
+    : isShown_(isTerminal(stderr))
     , all_(std::max<std::uintmax_t>(all, 1))
 {
 }
@@ -33,6 +55,9 @@ void Progress::add(std::uintmax_t bytes)
 
 void Progress::show()
 {
+    if (askedToEnd != 0) {
+        throw Stopped{askedToEnd};
+    }
     if (!isShown_ || std::chrono::steady_clock::now() - begin_ < std::chrono::seconds(1)) {
         return;
     }

@@ -6,6 +6,15 @@
 
 namespace corvellane::pack {
 
+/// Thrown where the program is asked to end.
+struct Stopped {
+    /// The number of the signal.
+    int signal = 0;
+};
+
+/// From now on, who asks the program to end is heard by the progress, and what is half made is cleared away first.
+void stopByProgress();
+
 /// How far it is: a line on standard error, where that is a terminal and it takes longer than a second. The line is
 /// gone at the end.
 class Progress {
@@ -16,6 +25,7 @@ public:
     Progress& operator=(const Progress&) = delete;
     ~Progress();
 
+    /// These throw Stopped.
     void begin(const std::string& what);
     void add(std::uintmax_t bytes);
     /// Shows it, where it is time to; for what has no bytes to tell of.

@@ -3,6 +3,7 @@
 // then nothing has been made.
 
 #include "pack/Maker.h"
+#include "pack/Progress.h"
 #include "pack/Reading.h"
 #include "platform/posix/ProcessSetup.h"
 #include "tools/Colours.h"
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <charconv>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -78,7 +80,7 @@ void addOptions(CLI::App& program, Options& options)
         ->delimiter(',')
         ->check(CLI::IsMember({"deb", "rpm", "run", "tar.zst"}).description(""))
         ->type_name("LIST");
-    program.add_option("--sign", options.key, "Sign the list of checksums with this key of gpg's")
+    program.add_option("--sign", options.key, "Sign the list of checksums, and an rpm, with this key of gpg's")
         ->transform(asValue(program))
         ->type_name("KEY");
     program.add_flag("--strict", options.strict, "Let a warning of the rehearsal be an error");
@@ -114,16 +116,27 @@ std::int64_t epoch()
     const std::string_view digits = given;
     std::int64_t seconds = 0;
     const auto read = std::from_chars(digits.begin(), digits.end(), seconds);
-    if (read.ec != std::errc() || read.ptr != digits.end() || seconds < 0) {
+    constexpr std::int64_t lastOfYear9999 = 253402300799;
+    if (read.ec != std::errc() || read.ptr != digits.end() || seconds < 0 || seconds > lastOfYear9999) {
         throw std::runtime_error("SOURCE_DATE_EPOCH must be a number of seconds since 1970");
     }
     return seconds;
+}
+
+bool liesIn(const fs::path& path, const fs::path& folder)
+{
+    const fs::path real = fs::weakly_canonical(folder);
+    return std::ranges::mismatch(real, fs::weakly_canonical(path)).in1 == real.end();
 }
 
 /// All at once, not one a run.
 std::vector<std::string> problemsOf(const Options& options, Description& description)
 {
     std::vector<std::string> problems = whatIsMissing(options.folder);
+    if (liesIn(options.output, options.folder + "/Products")) {
+        problems.push_back(
+            "“" + options.output + "” lies in the products: what is made would be taken for one of them");
+    }
     if (!fs::is_regular_file(options.folder + "/installer.toml")) {
         problems.emplace_back(
             "the file “installer.toml” is missing: who makes this installer, and which version it is");
@@ -175,6 +188,14 @@ int make(const CLI::App& program, const Options& options)
     return 0;
 }
 
+/// As a program ends that does not listen to signals.
+int endBy(int signal)
+{
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+    return notMade;
+}
+
 } // namespace
 } // namespace corvellane::pack
 
@@ -182,6 +203,7 @@ int main(int count, char** arguments)
 {
     using namespace corvellane;
     setUpProcess();
+    pack::stopByProgress();
     CLI::App program("Makes installers of a folder with products.", "corvellane-pack");
     if (count == 2 && std::string_view(arguments[1]) == "--version") {
         addCommonOptions(program, "");
@@ -194,8 +216,12 @@ int main(int count, char** arguments)
     }
     try {
         return endOutput(program, pack::make(program, options));
+    } catch (const pack::Stopped& stopped) {
+        return pack::endBy(stopped.signal);
+    } catch (const std::filesystem::filesystem_error& error) {
+        complain(program, "“" + error.path1().native() + "”: " + error.code().message());
     } catch (const std::exception& error) {
         complain(program, error.what());
-        return pack::notMade;
     }
+    return pack::notMade;
 }
