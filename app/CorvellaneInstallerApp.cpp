@@ -23,7 +23,10 @@ std::shared_ptr<AppSettings> filledSettings(const Platform& platform)
 view::Images imagesOf(const Platform& platform)
 {
     return {
-        [&resources = platform.resources](const std::string& name) { return resources.file(name, "svg").value_or(""); },
+        [&resources = platform.resources](const std::string& name) {
+            const auto drawing = resources.file(name, "svg");
+            return drawing ? *drawing : resources.file(name, "png").value_or("");
+        },
         [&console = platform.console](const std::string& name) {
             console.print(
                 "The file “" + name + ".svg” is missing or is no picture; the product’s name stands in its place.");

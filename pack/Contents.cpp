@@ -52,7 +52,7 @@ void Contents::addTree(const std::string& path, const std::string& folder)
 
 void Contents::addFile(const std::string& path, const std::string& file)
 {
-    add(path, itemAt(fs::directory_entry(file)));
+    add(path, itemAt(fs::directory_entry(fs::canonical(file))));
 }
 
 void Contents::addText(const std::string& path, const std::string& text, bool executable)

@@ -14,39 +14,13 @@ namespace fs = std::filesystem;
 
 constexpr auto identifierOfSamples = "com.corvellane.PluginInstaller";
 
-std::string base64(const std::string& bytes)
-{
-    constexpr auto letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    std::string result;
-    for (std::size_t begin = 0; begin < bytes.size(); begin += 3) {
-        unsigned group = 0;
-        for (std::size_t at = begin; at < begin + 3; ++at) {
-            group = group << 8U | (at < bytes.size() ? static_cast<unsigned char>(bytes[at]) : 0U);
-        }
-        for (std::size_t digit = 0; digit < 4; ++digit) {
-            result += digit <= bytes.size() - begin ? letters[group >> (18U - 6U * digit) & 63U] : '=';
-        }
-    }
-    return result;
-}
-
-/// The wizard reads its logo as SVG, and gives it the place of 180 by 40 points.
-std::string logoOf(const std::string& maker)
-{
-    if (fs::exists(maker + "/Logo.svg")) {
-        return textOf(maker + "/Logo.svg");
-    }
-    return R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" viewBox="0 0 180 40">)"
-           R"(<image width="180" height="40" xlink:href="data:image/png;base64,)"
-        + base64(textOf(maker + "/Logo.png")) + "\"/></svg>\n";
-}
-
 void addResources(Contents& contents, const std::string& path, const Ingredients& ingredients)
 {
     const std::string& maker = ingredients.maker;
     contents.addTree(path + "/Products", maker + "/Products");
     contents.addFile(path + "/CorvellaneEULA.rtf", maker + "/CorvellaneEULA.rtf");
-    contents.addText(path + "/Logo.svg", logoOf(maker));
+    const std::string logo = fs::exists(maker + "/Logo.svg") ? "/Logo.svg" : "/Logo.png";
+    contents.addFile(path + logo, maker + logo);
     // What the wizard's window is called by, so that the desktop finds its entry and its icon.
     contents.addText(path + "/Identifier.txt", ingredients.description.identifier + "\n");
 }

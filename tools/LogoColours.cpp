@@ -129,4 +129,18 @@ std::vector<std::string> coloursOf(std::string_view svg)
     return painter.finish();
 }
 
+bool isPng(std::string_view bytes)
+{
+    return bytes.starts_with("\x89PNG\r\n\x1a\n");
+}
+
+bool hasTransparency(std::string_view png)
+{
+    constexpr std::size_t placeOfColourType = 25;
+    constexpr unsigned alpha = 4;
+    const bool hasAlpha
+        = png.size() > placeOfColourType && (static_cast<unsigned char>(png[placeOfColourType]) & alpha) != 0;
+    return hasAlpha || png.substr(0, png.find("IDAT")).find("tRNS") != std::string_view::npos;
+}
+
 } // namespace corvellane

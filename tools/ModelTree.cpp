@@ -142,7 +142,7 @@ const ModelEntry* ModelTree::follow(const std::string& path) const
 
 void readEntryIntoModel(ModelTree& tree, const std::string& folder)
 {
-    tree.put(folder, entryAt(folder));
+    tree.put(folder, entryAt(fs::path(folder) / ""));
 }
 
 void readIntoModel(ModelTree& tree, const std::string& folder)

@@ -85,19 +85,34 @@ Findings inspectHidden(const std::string& path, const std::string& taken)
     return {{"hidden", path, "is hidden, and taken for " + taken + " all the same"}};
 }
 
-Findings inspectLogo(const Files& files, const std::string& path)
+/// Why the picture would be one black block, if so.
+std::string whyABlock(std::string_view logo)
 {
+    if (isPng(logo)) {
+        return hasTransparency(logo) ? "" : "has no transparent parts";
+    }
+    const std::vector<std::string> colours = coloursOf(logo);
+    return colours.size() < 2 ? ""
+                              : "has more than one colour, " + colours[0] + " and " + colours[1] + " for instance,";
+}
+
+/// The wizard looks for the drawing first.
+Findings inspectLogo(const Files& files, const std::string& folder)
+{
+    std::error_code error;
+    const std::string drawing = folder + "/Logo.svg";
+    const std::string pixels = folder + "/Logo.png";
+    const bool isDrawn = fs::exists(drawing, error) || !fs::exists(pixels, error);
+    const std::string& path = isDrawn ? drawing : pixels;
     const auto logo = files.read(path, largestLogo);
     if (!logo) {
         return {{"logo", path, "is no logo to show: " + logo.error().message}};
     }
-    const std::vector<std::string> colours = coloursOf(*logo);
-    if (colours.size() < 2) {
-        return {};
+    if (!isDrawn && !isPng(*logo)) {
+        return {{"logo", path, "is no logo to show: it is not a picture in PNG"}};
     }
-    return {{"logo-colours", path,
-        "has more than one colour, " + colours[0] + " and " + colours[1]
-            + " for instance, and is drawn in black all over"}};
+    const std::string why = whyABlock(*logo);
+    return why.empty() ? Findings() : Findings{{"logo-colours", path, why + " and is drawn in black all over"}};
 }
 
 } // namespace
@@ -165,7 +180,7 @@ Findings inspectResources(const Files& files, const std::string& productsFolder)
     if (!agreement) {
         findings.push_back({"agreement", path, "is no agreement to show: " + agreement.error().message});
     }
-    append(findings, inspectLogo(files, folder + "/Logo.svg"));
+    append(findings, inspectLogo(files, folder));
     return findings;
 }
 

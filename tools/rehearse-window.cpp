@@ -12,7 +12,7 @@ namespace corvellane {
 namespace {
 
 constexpr const char* moreHelp
-    = R"(FOLDER is a maker's folder, which holds Products, CorvellaneEULA.rtf and Logo.svg, or a
+    = R"(FOLDER is a maker's folder, which holds Products, CorvellaneEULA.rtf and a logo, or a
 products folder beside which the other two lie. What is installed really is, as yourself
 and without a password, but below the folder of --into.
 

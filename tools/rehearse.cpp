@@ -33,7 +33,7 @@ struct Options {
 };
 
 constexpr const char* moreHelp
-    = R"(FOLDER is a maker's folder, which holds Products, CorvellaneEULA.rtf and Logo.svg, or a
+    = R"(FOLDER is a maker's folder, which holds Products, CorvellaneEULA.rtf and a logo, or a
 products folder itself. Without an option, every product is shown with what becomes of
 it; the script is carried out on a model, and what will not go well is told. Nothing is
 changed.

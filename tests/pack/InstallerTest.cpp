@@ -44,21 +44,22 @@ TEST(Contents, takesTheModesThatEverybodyNeeds)
     EXPECT_EQ(contents.size(), 2);
 }
 
-TEST(Installer, takesALogoOfPixels)
+TEST(Installer, takesTheFilesThemselvesWhereTheyAreLinked)
 {
     const ScratchFolder scratch;
-    EXPECT_EQ(whatIsMissing(scratch.path()).size(), 3);
-    scratch.write("maker/Products/One/One.plugin/it", "");
-    scratch.write("maker/CorvellaneEULA.rtf", "{\\rtf1}");
-    for (const auto& [bytes, text] : std::vector<std::pair<std::string, std::string>>{
-             {"M", "TQ=="}, {"Ma", "TWE="}, {"Man", "TWFu"}, {std::string("\xff\x00\xfe!", 4), "/wD+IQ=="}}) {
-        scratch.write("maker/Logo.png", bytes);
-        EXPECT_EQ(whatIsMissing(scratch.path() + "/maker"), std::vector<std::string>());
-        scratch.write("kit/bundle/bin/it", "");
-        const Contents bundle = bundleOf({scratch.path() + "/kit", scratch.path() + "/maker", example, 0});
-        EXPECT_NE(bundle.items().at("Resources/Logo.svg").from.find("base64," + text + "\""), std::string::npos)
-            << text;
-    }
+    const std::string maker = scratch.path() + "/maker";
+    EXPECT_EQ(whatIsMissing(maker).size(), 3);
+    scratch.write("elsewhere/One/One.plugin/it", "");
+    scratch.write("agreement", "{\\rtf1}");
+    scratch.write("maker/Logo.png", "pixels");
+    scratch.write("kit/bundle/bin/it", "");
+    std::filesystem::create_symlink("../elsewhere", maker + "/Products");
+    std::filesystem::create_symlink("../agreement", maker + "/CorvellaneEULA.rtf");
+    EXPECT_EQ(whatIsMissing(maker), std::vector<std::string>());
+    const Contents bundle = bundleOf({scratch.path() + "/kit", maker, example, 0});
+    EXPECT_EQ(bundle.items().at("Resources/CorvellaneEULA.rtf").from, scratch.path() + "/agreement");
+    EXPECT_EQ(bundle.items().at("Resources/Logo.png").from, maker + "/Logo.png");
+    EXPECT_EQ(bundle.items().count("Resources/Products/One/One.plugin/it"), 1);
 }
 
 } // namespace

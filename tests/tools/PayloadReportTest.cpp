@@ -192,6 +192,15 @@ TEST_F(PayloadReportTest, findsAnAgreementAndALogoThatAreNotToBeShown)
     EXPECT_THAT(findings(),
         ElementsAre(testing::StartsWith("logo-colours Logo.svg: has more than one colour, #ffffff and red")));
     fs::remove(scratch.path() + "/Logo.svg");
+    const std::string png("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\xb4\0\0\0\x28\x08", 25);
+    for (const auto& [logo, found] :
+        std::vector<std::pair<std::string, std::string>>{{png + "\6", ""}, {png + "\3tRNSIDAT", ""},
+            {png + "\2IDATtRNS", "logo-colours Logo.png: has no transparent parts and is drawn in black all over"},
+            {"GIF89a", "logo Logo.png: is no logo to show: it is not a picture in PNG"}}) {
+        scratch.write("Logo.png", logo);
+        EXPECT_EQ(findings(), found.empty() ? std::vector<std::string>() : std::vector{found});
+    }
+    fs::remove(scratch.path() + "/Logo.png");
     scratch.write("CorvellaneEULA.rtf", "no rich text");
     EXPECT_THAT(findings(),
         ElementsAre(testing::StartsWith("agreement CorvellaneEULA.rtf: is no agreement to show"),

@@ -10,17 +10,28 @@
 namespace corvellane::view {
 namespace {
 
+/// Whether there was a picture to paint.
+bool paintFile(QPainter& painter, const QRect& place, const QString& file)
+{
+    if (file.endsWith(QLatin1String(".png"))) {
+        const QImage image(file, "PNG");
+        painter.drawImage(place, image.scaled(place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        return !image.isNull();
+    }
+    QSvgRenderer renderer(file);
+    renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
+    renderer.render(&painter, place);
+    return renderer.isValid();
+}
+
 QPixmap drawn(const QString& file, const QColor& tint, const QSize& pixels)
 {
-    QSvgRenderer renderer(file);
-    if (!renderer.isValid()) {
-        return {};
-    }
     QPixmap picture(pixels);
     picture.fill(Qt::transparent);
-    renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
     QPainter painter(&picture);
-    renderer.render(&painter, picture.rect());
+    if (!paintFile(painter, picture.rect(), file)) {
+        return {};
+    }
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(picture.rect(), tint);
     return picture;

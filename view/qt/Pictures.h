@@ -24,8 +24,8 @@ struct Images {
 /// The file of a symbol image of the program's own.
 QString symbolFile(const std::string& name);
 
-/// The SVG picture in one colour, stretched to `size` device-independent pixels and drawn for the screen's own pixels;
-/// empty when it cannot be read. Drawn once and kept.
+/// The picture, of SVG or of PNG (".png"), in one colour, stretched to `size` device-independent pixels and drawn for
+/// the screen's own pixels; empty when it cannot be read. Drawn once and kept.
 QPixmap tintedPicture(const QString& file, const QColor& tint, const QSize& size, double devicePixelRatio);
 
 /// The widget of a filled area.

@@ -2,8 +2,10 @@
 #include "tests/view/qt/WindowWorld.h"
 #include "view/qt/Appearance.h"
 #include "view/qt/NameLines.h"
+#include "view/qt/Pictures.h"
 
 #include <QAccessible>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -131,10 +133,14 @@ TEST_F(WindowWorld, makesRoomForTheSecondLineOfAName)
     EXPECT_EQ(list->visualRect(list->model()->index(0, 0)).height(), usual);
 }
 
+bool isOfTheLogo(const std::string& line)
+{
+    return line.find("Logo") != std::string::npos;
+}
+
 TEST_F(WindowWorld, namesTheProductWhereThereIsNoLogo)
 {
     const ScratchFolder scratch;
-    const auto isOfTheLogo = [](const std::string& line) { return line.find("Logo") != std::string::npos; };
     scratch.write("broken.svg", "<svg");
     for (const std::string& file : {std::string(), scratch.path() + "/broken.svg"}) {
         platform.console.lines.clear();
@@ -145,6 +151,24 @@ TEST_F(WindowWorld, namesTheProductWhereThereIsNoLogo)
         EXPECT_NE(named("Corvellane Plugin Installer"), nullptr);
         EXPECT_EQ(std::ranges::count_if(platform.console.lines, isOfTheLogo), 1);
     }
+}
+
+TEST_F(WindowWorld, showsALogoOfPixelsInTheColourOfText)
+{
+    const ScratchFolder scratch;
+    QImage logo(360, 80, QImage::Format_ARGB32);
+    logo.fill(Qt::transparent);
+    QPainter(&logo).fillRect(0, 0, 180, 80, Qt::red);
+    const std::string file = scratch.path() + "/Logo.png";
+    ASSERT_TRUE(logo.save(QString::fromStdString(file)));
+    const QImage shown = tintedPicture(QString::fromStdString(file), Qt::blue, QSize(180, 40), 1).toImage();
+    EXPECT_EQ(shown.pixelColor(80, 20), QColor(Qt::blue));
+    EXPECT_EQ(shown.pixelColor(100, 20).alpha(), 0);
+    platform.resources.files = {{"Logo.png", file}};
+    platform.console.lines.clear();
+    open(platform.services());
+    window().grab();
+    EXPECT_EQ(std::ranges::count_if(platform.console.lines, isOfTheLogo), 0);
 }
 
 TEST_F(WindowWorld, followsTheReadingOrderWithTheTabKey)
