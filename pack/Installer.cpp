@@ -102,7 +102,7 @@ Contents systemFilesOf(const Ingredients& ingredients)
         "usr/bin/" + commandOf(description), "../lib/" + description.packageName() + "/bin/corvellane-cli");
     const std::string manual = textOf(ingredients.kit + "/desktop/corvellane-cli.1");
     contents.addText("usr/share/man/man1/" + commandOf(description) + ".1.gz",
-        gzipped(retold(manual, description, ingredients.epoch, Quoting::none)));
+        gzipped(retold(manual, description, ingredients.epoch, Quoting::manual)));
     contents.addFile("usr/share/icons/hicolor/scalable/apps/" + description.identifier + ".svg",
         ingredients.kit + "/desktop/" + identifierOfSamples + ".svg");
     return contents;

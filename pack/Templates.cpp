@@ -49,6 +49,8 @@ std::string quoted(const std::string& text, Quoting quoting)
         return std::string("'").append(replaced(text, {{"'", R"('\'')"}})).append("'");
     case Quoting::desktop:
         return replaced(text, {{"\\", "\\\\"}});
+    case Quoting::manual:
+        return replaced(text, {{"\\", "\\e"}});
     }
     return text;
 }

@@ -10,7 +10,7 @@
 namespace corvellane::pack {
 
 /// How a text quotes what is put into it.
-enum class Quoting { desktop, xml, shell };
+enum class Quoting { desktop, manual, xml, shell };
 
 /// What stands in a text, and what is put in its place.
 using Words = std::vector<std::pair<std::string, std::string>>;

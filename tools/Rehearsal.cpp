@@ -3,7 +3,6 @@
 #include "platform/Resources.h"
 #include "platform/ScriptService.h"
 #include "platform/posix/PosixStandardFolders.h"
-#include "platform/posix/StreamConsole.h"
 
 #include <filesystem>
 #include <utility>
@@ -73,11 +72,6 @@ Rehearsal::Rehearsal(System system, const std::string& productsFolder, const std
     settings_->refreshProducts();
 }
 
-PayloadReport Rehearsal::report() const
-{
-    return reportPayload(*system_.files, productsFolder_, settings_->products.get(), settings_->hostPaths());
-}
-
 void Rehearsal::install()
 {
     settings_->nextAction();
@@ -87,13 +81,6 @@ void Rehearsal::install()
     settings_->nextAction();
     settings_->confirmInstallation();
     dispatcher_->runMainQueue();
-}
-
-PayloadReport rehearsedPayload(const std::string& productsFolder)
-{
-    System system;
-    system.console = std::make_shared<StreamConsole>(stderr);
-    return Rehearsal(system, productsFolder, "").report();
 }
 
 } // namespace corvellane
