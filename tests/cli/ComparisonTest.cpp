@@ -37,6 +37,8 @@ TEST_F(ComparisonTest, tellsEachWayToDifferAndMendsIt)
         {1, "rm photo/Grain.plugin", "; $/photo/Grain.plugin is missing"},
         {2, "ln -sfn /else video/Cut.plugin",
             "; $/video/Cut.plugin leads to “/else”, not to “" + base + "/app/Cut.plugin”"},
+        {2, "ln -sfn $PWD/app/Cut.plugiN video/Cut.plugin",
+            "; $/video/Cut.plugin leads to “" + base + "/app/Cut.plugiN”, not to “" + base + "/app/Cut.plugin”"},
         {0, "echo x >'bert" + preset + "'", "; $/bert" + preset + " has other contents"},
         {0, "rm 'anna" + preset + "'; mkfifo 'anna" + preset + "'",
             "; $/anna" + preset + " is a special file, not a file"},
@@ -62,7 +64,7 @@ TEST_F(ComparisonTest, countsNothingThatElementsShare)
     shell("mkdir -p app photo 'anna/lr/Export Presets/mine'; touch app/Another.plugin 'anna/lr/Export Presets/mine/x'");
     EXPECT_EQ(said(), std::vector<std::string>(3, "missing"));
     install();
-    shell("chmod 700 app photo anna/lr; chown 7 photo");
+    shell("chmod 700 app photo anna/lr 'anna/lr/Export Presets' bert/lr/Modules; chown 7 photo");
     EXPECT_EQ(said(), std::vector<std::string>(3, "as shipped"));
     EXPECT_TRUE(isAnyThere(made().elements[1]));
     shell("rm -r app/Grain.plugin");
