@@ -36,7 +36,7 @@ public:
     explicit Workshop(const fs::path& output)
         : path_(output / ".making-XXXXXX")
     {
-        for (fs::path folder = output; !fs::exists(folder); folder = folder.parent_path()) {
+        for (fs::path folder = fs::absolute(output); !fs::exists(folder); folder = folder.parent_path()) {
             made_.push_back(folder);
         }
         fs::create_directories(output);

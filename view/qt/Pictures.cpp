@@ -15,7 +15,9 @@ bool paintFile(QPainter& painter, const QRect& place, const QString& file)
 {
     if (file.endsWith(QLatin1String(".png"))) {
         const QImage image(file, "PNG");
-        painter.drawImage(place, image.scaled(place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        if (!image.isNull()) {
+            painter.drawImage(place, image.scaled(place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        }
         return !image.isNull();
     }
     QSvgRenderer renderer(file);

@@ -13,6 +13,7 @@ constexpr rtf::Twips edgeTolerance = 40;
 /// Of a cell that is described by none.
 constexpr rtf::Twips usualWidth = 1440;
 constexpr rtf::Twips furthestEdge = 22 * 1440;
+
 /// The right edges of a row's cells, each further right than the one before.
 std::vector<rtf::Twips> edgesOf(const rtf::TableRow& row)
 {
