@@ -20,17 +20,28 @@ std::shared_ptr<AppSettings> filledSettings(const Platform& platform)
     return settings;
 }
 
+/// The path of the picture `name`, drawn or of pixels; empty where there is none.
+std::string pictureOf(const Resources& resources, const std::string& name)
+{
+    const auto drawing = resources.file(name, "svg");
+    return drawing ? *drawing : resources.file(name, "png").value_or("");
+}
+
+/// `path` is empty where there is no file.
+std::string wordsOnMissing(const std::string& name, const std::string& path)
+{
+    const std::string reason
+        = path.empty() ? "“" + name + ".svg” is missing" : "“" + path.substr(path.rfind('/') + 1) + "” is no picture";
+    return "The file " + reason + "; the product’s name stands in its place.";
+}
+
 view::Images imagesOf(const Platform& platform)
 {
+    const Resources& resources = platform.resources;
     return {
-        [&resources = platform.resources](const std::string& name) {
-            const auto drawing = resources.file(name, "svg");
-            return drawing ? *drawing : resources.file(name, "png").value_or("");
-        },
-        [&console = platform.console](const std::string& name) {
-            console.print(
-                "The file “" + name + ".svg” is missing or is no picture; the product’s name stands in its place.");
-        },
+        [&resources](const std::string& name) { return pictureOf(resources, name); },
+        [&resources, &console = platform.console](
+            const std::string& name) { console.print(wordsOnMissing(name, pictureOf(resources, name))); },
     };
 }
 

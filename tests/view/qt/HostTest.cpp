@@ -141,15 +141,23 @@ bool isOfTheLogo(const std::string& line)
 TEST_F(WindowWorld, namesTheProductWhereThereIsNoLogo)
 {
     const ScratchFolder scratch;
-    scratch.write("broken.svg", "<svg");
-    for (const std::string& file : {std::string(), scratch.path() + "/broken.svg"}) {
+    const auto broken = [&scratch](const std::string& file) {
+        scratch.write(file, "<svg");
+        return std::map<std::string, std::string>{{file, scratch.path() + "/" + file}};
+    };
+    const std::pair<std::map<std::string, std::string>, std::string> lines[] = {
+        {{}, "The file “Logo.svg” is missing; the product’s name stands in its place."},
+        {broken("Logo.svg"), "The file “Logo.svg” is no picture; the product’s name stands in its place."},
+        {broken("Logo.png"), "The file “Logo.png” is no picture; the product’s name stands in its place."},
+    };
+    for (const auto& [files, line] : lines) {
         platform.console.lines.clear();
-        platform.resources.files = {{"Logo.svg", file}};
+        platform.resources.files = files;
         open(platform.services());
         window().grab();
         window().grab();
         EXPECT_NE(named("Corvellane Plugin Installer"), nullptr);
-        EXPECT_EQ(std::ranges::count_if(platform.console.lines, isOfTheLogo), 1);
+        EXPECT_EQ(std::ranges::count(platform.console.lines, line), 1) << line;
     }
 }
 
