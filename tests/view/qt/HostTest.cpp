@@ -157,6 +157,7 @@ TEST_F(WindowWorld, namesTheProductWhereThereIsNoLogo)
         window().grab();
         window().grab();
         EXPECT_NE(named("Corvellane Plugin Installer"), nullptr);
+        EXPECT_EQ(std::ranges::count_if(platform.console.lines, isOfTheLogo), 1);
         EXPECT_EQ(std::ranges::count(platform.console.lines, line), 1) << line;
     }
 }
