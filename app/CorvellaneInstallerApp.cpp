@@ -1,6 +1,8 @@
 #include "app/CorvellaneInstallerApp.h"
 
+#include "base/PathNames.h"
 #include "platform/Console.h"
+#include "platform/Files.h"
 #include "platform/Resources.h"
 #include "view/Metrics.h"
 #include "view/qt/Appearance.h"
@@ -20,28 +22,29 @@ std::shared_ptr<AppSettings> filledSettings(const Platform& platform)
     return settings;
 }
 
-/// The path of the picture `name`, drawn or of pixels; empty where there is none.
-std::string pictureOf(const Resources& resources, const std::string& name)
+/// Drawn or of pixels.
+Expected<view::ImageFile> imageFile(const Resources& resources, const Files& files, const std::string& name)
 {
-    const auto drawing = resources.file(name, "svg");
-    return drawing ? *drawing : resources.file(name, "png").value_or("");
-}
-
-/// `path` is empty where there is no file.
-std::string wordsOnMissing(const std::string& name, const std::string& path)
-{
-    const std::string reason
-        = path.empty() ? "“" + name + ".svg” is missing" : "“" + path.substr(path.rfind('/') + 1) + "” is no picture";
-    return "The file " + reason + "; the product’s name stands in its place.";
+    constexpr std::size_t largest = 64 << 20;
+    auto path = resources.file(name, "svg");
+    if (!path) {
+        path = resources.file(name, "png");
+    }
+    if (!path) {
+        return Unexpected({"The file “" + name + ".svg” is missing."});
+    }
+    return files.read(*path, largest).map([&path](std::string&& bytes) {
+        return view::ImageFile{std::string(lastPathComponent(*path)), std::move(bytes)};
+    });
 }
 
 view::Images imagesOf(const Platform& platform)
 {
-    const Resources& resources = platform.resources;
     return {
-        [&resources](const std::string& name) { return pictureOf(resources, name); },
-        [&resources, &console = platform.console](
-            const std::string& name) { console.print(wordsOnMissing(name, pictureOf(resources, name))); },
+        [&resources = platform.resources, &files = platform.files](
+            const std::string& name) { return imageFile(resources, files, name); },
+        [&console = platform.console](
+            const std::string& why) { console.print(why + " The product’s name stands in its place."); },
     };
 }
 

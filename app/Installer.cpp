@@ -28,7 +28,7 @@ DesktopSystem::DesktopSystem()
 
 Installer::Installer(DesktopSystem system, const std::string& translations)
     : system_(std::move(system))
-    , translations_(translations, QLocale::system().uiLanguages())
+    , translations_(*system_.files, translations, QLocale::system().uiLanguages())
     , scene_(system_.platform())
 {
     nameForDesktop(*system_.resources, *system_.files);

@@ -75,10 +75,18 @@ public:
     ~Attempt() { qInstallMessageHandler(others); }
 
 private:
+    // Where Qt cannot read the name of the program's folder, it has none, and does not find its packed parts.
+    static const char* problem()
+    {
+        return QCoreApplication::applicationDirPath().isEmpty()
+            ? "the folder that it lies in must have a name in UTF-8"
+            : "there is no display to open a window on";
+    }
+
     static void hear(QtMsgType type, const QMessageLogContext& context, const QString& message)
     {
         if (type == QtFatalMsg) {
-            std::fprintf(stderr, "%s: there is no display to open a window on (%s)\n", qPrintable(program),
+            std::fprintf(stderr, "%s: %s (%s)\n", qPrintable(program), problem(),
                 qPrintable(reason.isEmpty() ? message.simplified() : reason));
             std::_Exit(noDisplay);
         }

@@ -20,24 +20,39 @@ QString nameOf(const QString& tag, const QLocale& language)
     }
 }
 
+/// "de_AT" and "de".
+QStringList widerAndWider(const QString& name)
+{
+    const QString language = name.section('_', 0, 0);
+    return name == language ? QStringList{name} : QStringList{name, language};
+}
+
 } // namespace
 
-Translations::Translations(const std::string& folder, const QStringList& languages)
+Translations::Translations(const Files& files, const std::string& folder, const QStringList& languages)
 {
     if (folder.empty()) {
-        return; // Qt would look in the working directory
+        return;
     }
     for (const QString& tag : languages) {
         const QLocale language(tag);
         if (language.language() == QLocale::English || language.language() == QLocale::C) {
             return;
         }
-        // For "de_AT", Qt goes on to "de" by itself.
-        if (table_.load(QStringLiteral("installer_") + nameOf(tag, language), QString::fromStdString(folder))) {
-            QCoreApplication::installTranslator(&table_);
-            return;
+        for (const QString& name : widerAndWider(nameOf(tag, language))) {
+            if (reads(files, folder + "/installer_" + name.toStdString() + ".qm")) {
+                QCoreApplication::installTranslator(&table_);
+                return;
+            }
         }
     }
+}
+
+bool Translations::reads(const Files& files, const std::string& path)
+{
+    constexpr std::size_t largest = 16 << 20;
+    bytes_ = files.read(path, largest).value_or("");
+    return table_.load(reinterpret_cast<const uchar*>(bytes_.data()), static_cast<int>(bytes_.size()));
 }
 
 } // namespace corvellane

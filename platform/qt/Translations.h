@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Files.h"
+
 #include <QStringList>
 #include <QTranslator>
 
@@ -15,10 +17,14 @@ class Translations {
 public:
     /// Installs the table of the first of the languages, as QLocale::uiLanguages() names them, that has one; none once
     /// English comes first, and none where the folder is empty. Whoever writes Norwegian of either kind gets "nb";
-    /// Chinese goes by its script.
-    Translations(const std::string& folder, const QStringList& languages);
+    /// Chinese goes by its script. The folder's name may be any bytes.
+    Translations(const Files& files, const std::string& folder, const QStringList& languages);
 
 private:
+    bool reads(const Files& files, const std::string& path);
+
+    /// What the table looks its texts up in.
+    std::string bytes_;
     QTranslator table_;
 };
 

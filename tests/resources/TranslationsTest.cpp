@@ -1,5 +1,5 @@
+#include "platform/posix/PosixFiles.h"
 #include "platform/qt/Translations.h"
-
 #include "tests/ScratchFolder.h"
 #include "tests/ui/WizardWorld.h"
 
@@ -13,6 +13,7 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
 #include <set>
 
@@ -176,24 +177,29 @@ TEST(Translations, takesTheTableOfTheSystemsLanguage)
         {"zh_CN", "下一步"}, {"zh_SG", "下一步"}, {"zh_Hans_HK", "下一步"}, {"sr_RS", "Next"}, {"ca_ES", "Next"},
         {"en_GB", "Next"}, {"C", "Next"}};
     for (const auto& [locale, next] : rows) {
-        const Translations translations(TRANSLATIONS, QLocale(QString::fromLatin1(locale)).uiLanguages());
+        const Translations translations(PosixFiles(), TRANSLATIONS, QLocale(QString::fromLatin1(locale)).uiLanguages());
         EXPECT_EQ(QCoreApplication::translate("Installer", "Next").toStdString(), next) << locale;
     }
     for (const char* const locale : {"zh_TW", "zh_HK", "zh_MO", "zh-Hant"}) {
-        const Translations translations(TRANSLATIONS, QLocale(QString::fromLatin1(locale)).uiLanguages());
+        const Translations translations(PosixFiles(), TRANSLATIONS, QLocale(QString::fromLatin1(locale)).uiLanguages());
         EXPECT_EQ(QCoreApplication::translate("Installer", "Close").toStdString(), "關閉") << locale;
     }
     {
-        const Translations afterCatalan(TRANSLATIONS, {"ca", "pt", "de"});
+        const Translations afterCatalan(PosixFiles(), TRANSLATIONS, {"ca", "pt", "de"});
         EXPECT_EQ(QCoreApplication::translate("Installer", "Next"), QStringLiteral("Seguinte")) << "not Brazil's";
     }
     {
-        const Translations arabic(TRANSLATIONS, {"ar"});
+        const Translations arabic(PosixFiles(), TRANSLATIONS, {"ar"});
         EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::RightToLeft);
     }
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
-    QDir::setCurrent(TRANSLATIONS);
-    const Translations nowhere("", {"de"});
+    const ScratchFolder scratch;
+    std::filesystem::create_symlink(TRANSLATIONS, scratch.path() + "/\xff");
+    {
+        const Translations german(PosixFiles(), scratch.path() + "/\xff", {"de"});
+        EXPECT_EQ(QCoreApplication::translate("Installer", "Next"), QStringLiteral("Weiter"));
+    }
+    const Translations nowhere(PosixFiles(), "", {"de"});
     EXPECT_EQ(QCoreApplication::translate("Installer", "Next"), QStringLiteral("Next"));
 }
 

@@ -150,8 +150,7 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, c
     const QRect picture = symbolArea(option.rect, symbol);
     painter->save();
     painter->drawPixmap(picture.topLeft(),
-        tintedPicture(
-            symbolFile(symbol.name), colorOf(symbol.tint), picture.size(), painter->device()->devicePixelRatioF()));
+        symbolPicture(symbol.name, colorOf(symbol.tint), picture.size(), painter->device()->devicePixelRatioF()));
     const QFont font = fontOf(model_.list().font);
     const NameLines name = nameOf(index, option.rect.width());
     painter->setFont(font);

@@ -5,33 +5,57 @@
 
 #include <QPainter>
 #include <QPixmapCache>
+#include <QResource>
 #include <QSvgRenderer>
 
 namespace corvellane::view {
 namespace {
 
 /// Whether there was a picture to paint.
-bool paintFile(QPainter& painter, const QRect& place, const QString& file)
+bool paintBytes(QPainter& painter, const QRect& place, const QByteArray& bytes)
 {
-    if (file.endsWith(QLatin1String(".png"))) {
-        const QImage image(file, "PNG");
+    if (bytes.startsWith("\x89PNG")) {
+        const QImage image = QImage::fromData(bytes, "PNG");
         if (!image.isNull()) {
             painter.drawImage(place, image.scaled(place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
         }
         return !image.isNull();
     }
-    QSvgRenderer renderer(file);
+    QSvgRenderer renderer(bytes);
     renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
     renderer.render(&painter, place);
     return renderer.isValid();
 }
 
-QPixmap drawn(const QString& file, const QColor& tint, const QSize& pixels)
+/// What was drawn from the source before; else what the bytes, which are then asked for, have to draw.
+QPixmap keptPicture(const QString& source, const QColor& tint, const QSize& size, double devicePixelRatio,
+    const std::function<QByteArray()>& bytes)
+{
+    const QSize pixels = (QSizeF(size) * devicePixelRatio).toSize();
+    if (pixels.isEmpty()) {
+        return {};
+    }
+    const QString key = QStringLiteral("%1 %2 %3x%4").arg(source, tint.name()).arg(pixels.width()).arg(pixels.height());
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = tintedPicture(bytes(), tint, pixels);
+        if (picture.isNull()) {
+            return {};
+        }
+        QPixmapCache::insert(key, picture);
+    }
+    picture.setDevicePixelRatio(devicePixelRatio);
+    return picture;
+}
+
+} // namespace
+
+QPixmap tintedPicture(const QByteArray& bytes, const QColor& tint, const QSize& pixels)
 {
     QPixmap picture(pixels);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
-    if (!paintFile(painter, picture.rect(), file)) {
+    if (!paintBytes(painter, picture.rect(), bytes)) {
         return {};
     }
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
@@ -39,27 +63,11 @@ QPixmap drawn(const QString& file, const QColor& tint, const QSize& pixels)
     return picture;
 }
 
-} // namespace
-
-QString symbolFile(const std::string& name)
+QPixmap symbolPicture(const std::string& name, const QColor& tint, const QSize& size, double devicePixelRatio)
 {
-    return QStringLiteral(":/symbols/") + QString::fromStdString(name) + QStringLiteral(".svg");
-}
-
-QPixmap tintedPicture(const QString& file, const QColor& tint, const QSize& size, double devicePixelRatio)
-{
-    const QSize pixels = (QSizeF(size) * devicePixelRatio).toSize();
-    if (pixels.isEmpty() || file.isEmpty()) {
-        return {};
-    }
-    const QString key = QStringLiteral("%1 %2 %3x%4").arg(file, tint.name()).arg(pixels.width()).arg(pixels.height());
-    QPixmap picture;
-    if (!QPixmapCache::find(key, &picture)) {
-        picture = drawn(file, tint, pixels);
-        QPixmapCache::insert(key, picture);
-    }
-    picture.setDevicePixelRatio(devicePixelRatio);
-    return picture;
+    const QString resource = QStringLiteral(":/symbols/") + QString::fromStdString(name) + QStringLiteral(".svg");
+    return keptPicture(
+        resource, tint, size, devicePixelRatio, [&resource] { return QResource(resource).uncompressedData(); });
 }
 
 void FillArea::present(const Fill& fill)
@@ -75,25 +83,42 @@ void FillArea::paintEvent(QPaintEvent*)
     painter.fillRect(rect(), colorOf(fill_.tint));
 }
 
-void Picture::present(const QString& file, const Image& image)
+void SymbolPicture::present(const Symbol& symbol)
 {
-    file_ = file;
+    symbol_ = symbol;
+    update();
+}
+
+void SymbolPicture::paintEvent(QPaintEvent*)
+{
+    QPainter(this).drawPixmap(0, 0, symbolPicture(symbol_.name, colorOf(symbol_.tint), size(), devicePixelRatioF()));
+}
+
+void ImagePicture::present(const Image& image)
+{
     image_ = image;
     update();
 }
 
-void Picture::paintEvent(QPaintEvent*)
+void ImagePicture::paintEvent(QPaintEvent*)
 {
+    std::string why;
+    const auto bytes = [&] {
+        const Expected<ImageFile> file = images_.file(image_.name);
+        why = file ? "The file “" + file->name + "” is no picture." : file.error().message;
+        return file ? QByteArray::fromStdString(file->bytes) : QByteArray();
+    };
+    const QPixmap picture
+        = keptPicture(QString::fromStdString(image_.name), colorOf(image_.tint), size(), devicePixelRatioF(), bytes);
     QPainter painter(this);
-    const QPixmap picture = tintedPicture(file_, colorOf(image_.tint), size(), devicePixelRatioF());
     if (picture.isNull()) {
-        return paintAlternative(painter);
+        return paintAlternative(painter, why);
     }
     painter.drawPixmap(0, 0, picture);
 }
 
 /// In the largest letters, from those of a title on, that fit.
-void Picture::paintAlternative(QPainter& painter)
+void ImagePicture::paintAlternative(QPainter& painter, const std::string& why)
 {
     const QString words = QString::fromStdString(image_.alternative);
     constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
@@ -107,7 +132,7 @@ void Picture::paintAlternative(QPainter& painter)
     painter.drawText(rect(), flags, words);
     if (accessibleName() != words) {
         nameForAssistance(*this, words);
-        images_.missing(image_.name);
+        images_.missing(why);
     }
 }
 

@@ -118,8 +118,8 @@ void PushButton::paintWithSymbol()
     const int size = scaledSymbolSize();
     const int left = (width() - contentWidth()) / 2;
     const QRect picture = QStyle::visualRect(layoutDirection(), rect(), {left, (height() - size) / 2, size, size});
-    painter.drawPixmap(picture.topLeft(),
-        tintedPicture(symbolFile(symbol_), colorOf(Tint::label), picture.size(), devicePixelRatioF()));
+    painter.drawPixmap(
+        picture.topLeft(), symbolPicture(symbol_, colorOf(Tint::label), picture.size(), devicePixelRatioF()));
     const QRect words
         = QStyle::visualRect(layoutDirection(), rect(), {left + size + symbolDistance, 0, labelWidth(), height()});
     painter.setPen(option.palette.color(QPalette::ButtonText));

@@ -27,6 +27,8 @@ struct Presenter {
     Standing operator()(const Stack& stack) const { return panel(stack, false); }
     Standing operator()(const Layers& layers) const { return panel(layers, layers.modal); }
     Standing operator()(const Fill& fill) const { return shown(theWidget<FillArea>(), fill); }
+    Standing operator()(const Symbol& symbol) const { return shown(theWidget<SymbolPicture>(), symbol); }
+    Standing operator()(const Image& image) const { return shown(theWidget<ImagePicture>(images), image); }
     Standing operator()(const Text& text) const { return shown(theWidget<TextLabel>(), text); }
     Standing operator()(const Button& button) const { return shown(theWidget<PushButton>(deaf), button); }
     Standing operator()(const List& list) const { return shown(theWidget<ListView>(deaf), list); }
@@ -37,16 +39,6 @@ struct Presenter {
         Standing ticking = shown(theWidget<TickTimer>(deaf), timer);
         ticking.takesRoom = false;
         return ticking;
-    }
-
-    Standing operator()(const Symbol& symbol) const
-    {
-        return shown(theWidget<Picture>(images), symbolFile(symbol.name), Image{{}, symbol.tint, {}});
-    }
-
-    Standing operator()(const Image& image) const
-    {
-        return shown(theWidget<Picture>(images), QString::fromStdString(images.file(image.name)), image);
     }
 
     /// One that is on the screen already keeps showing the text that it was made with.

@@ -1,3 +1,4 @@
+#include "platform/posix/PosixFiles.h"
 #include "platform/qt/Translations.h"
 #include "tests/view/qt/WindowWorld.h"
 #include "view/qt/Appearance.h"
@@ -131,7 +132,7 @@ TEST_F(EverySight, hasRoomForEveryLanguage)
         if (language == "hi" && QFontDatabase::families(QFontDatabase::Devanagari).isEmpty()) {
             continue; // without a font its letters do not join, and take other room each time
         }
-        const Translations translations(TRANSLATIONS, {language});
+        const Translations translations(PosixFiles(), TRANSLATIONS, {language});
         settle();
         expectNothingCutOffAnywhere(language.toStdString() + " ");
         EXPECT_EQ(window().size(), QSize(648, 405)) << language.toStdString();

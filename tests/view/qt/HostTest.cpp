@@ -1,10 +1,11 @@
-#include "tests/ScratchFolder.h"
+#include "base/PathNames.h"
 #include "tests/view/qt/WindowWorld.h"
 #include "view/qt/Appearance.h"
 #include "view/qt/NameLines.h"
 #include "view/qt/Pictures.h"
 
 #include <QAccessible>
+#include <QBuffer>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -140,40 +141,38 @@ bool isOfTheLogo(const std::string& line)
 
 TEST_F(WindowWorld, namesTheProductWhereThereIsNoLogo)
 {
-    const ScratchFolder scratch;
-    const auto broken = [&scratch](const std::string& file) {
-        scratch.write(file, "<svg");
-        return std::map<std::string, std::string>{{file, scratch.path() + "/" + file}};
+    platform.files.contents = {{"/a\xff/Logo.svg", "<svg"}, {"/a\xff/Logo.png", "<svg"}};
+    const std::pair<std::string, std::string> lines[] = {
+        {"", "The file “Logo.svg” is missing."},
+        {"/a\xff/Logo.svg", "The file “Logo.svg” is no picture."},
+        {"/a\xff/Logo.png", "The file “Logo.png” is no picture."},
+        {"/Logo.png", "no file /Logo.png"},
     };
-    const std::pair<std::map<std::string, std::string>, std::string> lines[] = {
-        {{}, "The file “Logo.svg” is missing; the product’s name stands in its place."},
-        {broken("Logo.svg"), "The file “Logo.svg” is no picture; the product’s name stands in its place."},
-        {broken("Logo.png"), "The file “Logo.png” is no picture; the product’s name stands in its place."},
-    };
-    for (const auto& [files, line] : lines) {
+    for (const auto& [path, why] : lines) {
         platform.console.lines.clear();
-        platform.resources.files = files;
+        platform.resources.files = {{std::string(lastPathComponent(path)), path}};
         open(platform.services());
         window().grab();
         window().grab();
         EXPECT_NE(named("Corvellane Plugin Installer"), nullptr);
         EXPECT_EQ(std::ranges::count_if(platform.console.lines, isOfTheLogo), 1);
-        EXPECT_EQ(std::ranges::count(platform.console.lines, line), 1) << line;
+        EXPECT_EQ(std::ranges::count(platform.console.lines, why + " The product’s name stands in its place."), 1)
+            << why;
     }
 }
 
 TEST_F(WindowWorld, showsALogoOfPixelsInTheColourOfText)
 {
-    const ScratchFolder scratch;
     QImage logo(360, 80, QImage::Format_ARGB32);
     logo.fill(Qt::transparent);
     QPainter(&logo).fillRect(0, 0, 180, 80, Qt::red);
-    const std::string file = scratch.path() + "/Logo.png";
-    ASSERT_TRUE(logo.save(QString::fromStdString(file)));
-    const QImage shown = tintedPicture(QString::fromStdString(file), Qt::blue, QSize(180, 40), 1).toImage();
+    QBuffer file;
+    ASSERT_TRUE(logo.save(&file, "PNG"));
+    const QImage shown = tintedPicture(file.data(), Qt::blue, QSize(180, 40)).toImage();
     EXPECT_EQ(shown.pixelColor(80, 20), QColor(Qt::blue));
     EXPECT_EQ(shown.pixelColor(100, 20).alpha(), 0);
-    platform.resources.files = {{"Logo.png", file}};
+    platform.files.contents = {{"/a\xff/Logo.png", file.data().toStdString()}};
+    platform.resources.files = {{"Logo.png", "/a\xff/Logo.png"}};
     platform.console.lines.clear();
     open(platform.services());
     window().grab();
