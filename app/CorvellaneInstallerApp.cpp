@@ -25,7 +25,7 @@ std::shared_ptr<AppSettings> filledSettings(const Platform& platform)
 /// Drawn or of pixels.
 Expected<view::ImageFile> imageFile(const Resources& resources, const Files& files, const std::string& name)
 {
-    constexpr std::size_t largest = 64 << 20;
+    constexpr std::size_t largest = 16 << 20;
     auto path = resources.file(name, "svg");
     if (!path) {
         path = resources.file(name, "png");

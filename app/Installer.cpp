@@ -33,7 +33,7 @@ Installer::Installer(DesktopSystem system, const std::string& translations)
 {
     nameForDesktop(*system_.resources, *system_.files);
     AppDelegate::applicationDidFinishLaunching(*system_.application);
-    showIcon(window());
+    showIcon(window(), *system_.resources, *system_.files);
     showWaits(*system_.qtDispatcher, window());
     window().setPartDone([meter = system_.meter] { return meter->partDone(); });
     system_.qtApplication->offerMainMenu(window(), [this] { return window().hears(); });

@@ -1,8 +1,12 @@
 #include "app/WindowIcon.h"
 
+#include "platform/Files.h"
+#include "platform/Resources.h"
+
 #include <QIcon>
 #include <QPainter>
 #include <QPixmap>
+#include <QResource>
 #include <QSvgRenderer>
 #include <QTimer>
 
@@ -11,9 +15,21 @@
 namespace corvellane {
 namespace {
 
-QIcon packagedIcon()
+bool loadMakersOwn(QSvgRenderer& picture, const Resources& resources, const Files& files)
 {
-    QSvgRenderer picture(QStringLiteral(":/com.corvellane.PluginInstaller.svg"));
+    constexpr std::size_t largest = 16 << 20;
+    const auto path = resources.file("Icon", "svg");
+    const auto bytes = path ? files.read(*path, largest) : Expected<std::string>("");
+    return bytes && !bytes->empty() && picture.load(QByteArray::fromStdString(*bytes));
+}
+
+QIcon iconOf(const Resources& resources, const Files& files)
+{
+    QSvgRenderer picture;
+    if (!loadMakersOwn(picture, resources, files)) {
+        picture.load(QResource(QStringLiteral(":/com.corvellane.PluginInstaller.svg")).uncompressedData());
+    }
+    picture.setAspectRatioMode(Qt::KeepAspectRatio);
     QIcon icon;
     for (const int points : {16, 24, 32, 48, 64, 128, 256}) {
         QPixmap pixels(points, points);
@@ -28,10 +44,11 @@ QIcon packagedIcon()
 
 } // namespace
 
-void showIcon(QWidget& window)
+void showIcon(QWidget& window, const Resources& resources, const Files& files)
 {
     // The first picture of the window goes first.
-    QTimer::singleShot(std::chrono::milliseconds(100), &window, [&window] { window.setWindowIcon(packagedIcon()); });
+    QTimer::singleShot(std::chrono::milliseconds(100), &window,
+        [&window, &resources, &files] { window.setWindowIcon(iconOf(resources, files)); });
 }
 
 } // namespace corvellane

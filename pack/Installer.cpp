@@ -13,6 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr auto identifierOfSamples = "com.corvellane.PluginInstaller";
+constexpr auto iconName = "/Icon.svg";
 
 void addResources(Contents& contents, const std::string& path, const Ingredients& ingredients)
 {
@@ -21,6 +22,9 @@ void addResources(Contents& contents, const std::string& path, const Ingredients
     contents.addFile(path + "/CorvellaneEULA.rtf", maker + "/CorvellaneEULA.rtf");
     const std::string logo = fs::exists(maker + "/Logo.svg") ? "/Logo.svg" : "/Logo.png";
     contents.addFile(path + logo, maker + logo);
+    if (fs::exists(maker + iconName)) {
+        contents.addFile(path + iconName, maker + iconName);
+    }
     // What the wizard's window is called by, so that the desktop finds its entry and its icon.
     contents.addText(path + "/Identifier.txt", ingredients.description.identifier + "\n");
 }
@@ -103,8 +107,9 @@ Contents systemFilesOf(const Ingredients& ingredients)
     const std::string manual = textOf(ingredients.kit + "/desktop/corvellane-cli.1");
     contents.addText("usr/share/man/man1/" + commandOf(description) + ".1.gz",
         gzipped(retold(manual, description, ingredients.epoch, Quoting::manual)));
+    const std::string icon = ingredients.maker + iconName;
     contents.addFile("usr/share/icons/hicolor/scalable/apps/" + description.identifier + ".svg",
-        ingredients.kit + "/desktop/" + identifierOfSamples + ".svg");
+        fs::exists(icon) ? icon : ingredients.kit + "/desktop/" + identifierOfSamples + ".svg");
     return contents;
 }
 

@@ -13,7 +13,7 @@ namespace corvellane::pack {
 struct Ingredients {
     /// The programs and what belongs to them; see packaging/Kit.cmake.
     std::string kit;
-    /// The maker's folder: "Products", "CorvellaneEULA.rtf", and "Logo.svg" or "Logo.png".
+    /// The maker's folder: "Products", "CorvellaneEULA.rtf", "Logo.svg" or "Logo.png", and maybe "Icon.svg".
     std::string maker;
     Description description;
     /// In seconds since 1970; the time of all that is packed.

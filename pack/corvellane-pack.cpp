@@ -29,10 +29,10 @@ namespace fs = std::filesystem;
 
 constexpr int notMade = 1;
 
-constexpr const char* moreHelp
-    = R"(FOLDER holds Products, CorvellaneEULA.rtf, Logo.svg or Logo.png, and installer.toml, which
-says who makes the installer and which version it is. It is rehearsed first; where the
-rehearsal finds errors, nothing is made. DIR has a list of checksums beside the installers.
+constexpr const char* moreHelp = R"(FOLDER holds Products, CorvellaneEULA.rtf, Logo.svg or Logo.png, maybe Icon.svg, and
+installer.toml, which says who makes the installer and which version it is. It is rehearsed
+first; where the rehearsal finds errors, nothing is made. DIR has a list of checksums beside
+the installers.
 
 Formats, all but rpm unless told otherwise:
   deb      for Debian and its like; uses the machine's own Qt

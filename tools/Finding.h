@@ -60,6 +60,7 @@ constexpr auto findingKinds = std::to_array<FindingKind>({
     {"agreement", Severity::warning},
     {"logo", Severity::warning},
     {"logo-colours", Severity::warning},
+    {"icon", Severity::warning},
     {"no-room", Severity::warning},
     {"ignored", Severity::note},
     {"escaped", Severity::note},

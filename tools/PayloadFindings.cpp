@@ -18,8 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// More than any logo has; in bytes.
-constexpr std::size_t largestLogo = std::size_t{16} << 20U;
+/// More than any picture has; in bytes.
+constexpr std::size_t largestPicture = std::size_t{16} << 20U;
 
 void append(Findings& findings, Findings more)
 {
@@ -104,7 +104,7 @@ Findings inspectLogo(const Files& files, const std::string& folder)
     const std::string pixels = folder + "/Logo.png";
     const bool isDrawn = fs::exists(drawing, error) || !fs::exists(pixels, error);
     const std::string& path = isDrawn ? drawing : pixels;
-    const auto logo = files.read(path, largestLogo);
+    const auto logo = files.read(path, largestPicture);
     if (!logo) {
         return {{"logo", path, "is no logo to show: " + logo.error().message}};
     }
@@ -113,6 +113,22 @@ Findings inspectLogo(const Files& files, const std::string& folder)
     }
     const std::string why = whyABlock(*logo);
     return why.empty() ? Findings() : Findings{{"logo-colours", path, why + " and is drawn in black all over"}};
+}
+
+/// It may be left out, and the wizard's own shows.
+Findings inspectIcon(const Files& files, const std::string& folder)
+{
+    std::error_code error;
+    const std::string path = folder + "/Icon.svg";
+    if (!fs::exists(path, error)) {
+        return {};
+    }
+    const auto icon = files.read(path, largestPicture);
+    if (!icon) {
+        return {{"icon", path, "is no icon to show: " + icon.error().message}};
+    }
+    return coloursOf(*icon).empty() ? Findings{{"icon", path, "is no icon to show: it is not a picture in SVG"}}
+                                    : Findings();
 }
 
 } // namespace
@@ -181,6 +197,7 @@ Findings inspectResources(const Files& files, const std::string& productsFolder)
         findings.push_back({"agreement", path, "is no agreement to show: " + agreement.error().message});
     }
     append(findings, inspectLogo(files, folder));
+    append(findings, inspectIcon(files, folder));
     return findings;
 }
 

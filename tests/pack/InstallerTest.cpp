@@ -62,5 +62,26 @@ TEST(Installer, takesTheFilesThemselvesWhereTheyAreLinked)
     EXPECT_EQ(bundle.items().count("Resources/Products/One/One.plugin/it"), 1);
 }
 
+TEST(Installer, hasTheMakersIconWhereThereIsOne)
+{
+    const ScratchFolder scratch;
+    for (const char* const file :
+        {"maker/Products/One/One.plugin/it", "maker/CorvellaneEULA.rtf", "maker/Logo.svg", "kit/system/bin/it"}) {
+        scratch.write(file, "");
+    }
+    for (const char* const ending : {".desktop", ".metainfo.xml", ".policy", ".svg"}) {
+        scratch.write("kit/desktop/com.corvellane.PluginInstaller" + std::string(ending), "");
+    }
+    scratch.write("kit/desktop/corvellane-cli.1", "");
+    const Ingredients ingredients{scratch.path() + "/kit", scratch.path() + "/maker", example, 0};
+    const std::string shown = "usr/share/icons/hicolor/scalable/apps/" + example.identifier + ".svg";
+    EXPECT_TRUE(systemFilesOf(ingredients).items().at(shown).from.starts_with(ingredients.kit));
+    scratch.write("maker/Icon.svg", "");
+    const Contents contents = systemFilesOf(ingredients);
+    EXPECT_EQ(contents.items().at(shown).from, ingredients.maker + "/Icon.svg");
+    const std::string asked = "usr/lib/" + example.packageName() + "/Resources/Icon.svg";
+    EXPECT_EQ(contents.items().at(asked).from, ingredients.maker + "/Icon.svg");
+}
+
 } // namespace
 } // namespace corvellane::pack

@@ -185,7 +185,7 @@ TEST_F(PayloadReportTest, findsTextsThatTheScriptWritesOverOrCannotWrite)
                                         "“velvetgrain4.lrdevplugin/Path.txt”")));
 }
 
-TEST_F(PayloadReportTest, findsAnAgreementAndALogoThatAreNotToBeShown)
+TEST_F(PayloadReportTest, findsAnAgreementAndPicturesThatAreNotToBeShown)
 {
     make("A/X.plugin/x");
     scratch.write("Logo.svg", R"(<svg><path fill="#fff"/><g fill="red"><path d=""/></g></svg>)");
@@ -202,8 +202,10 @@ TEST_F(PayloadReportTest, findsAnAgreementAndALogoThatAreNotToBeShown)
     }
     fs::remove(scratch.path() + "/Logo.png");
     scratch.write("CorvellaneEULA.rtf", "no rich text");
+    scratch.write("Icon.svg", png);
     EXPECT_THAT(findings(),
         ElementsAre(testing::StartsWith("agreement CorvellaneEULA.rtf: is no agreement to show"),
+            "icon Icon.svg: is no icon to show: it is not a picture in SVG",
             testing::StartsWith("logo Logo.svg: is no logo to show")));
 }
 
