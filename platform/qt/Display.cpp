@@ -78,9 +78,8 @@ private:
     // Where Qt cannot read the name of the program's folder, it has none, and does not find its packed parts.
     static const char* problem()
     {
-        return QCoreApplication::applicationDirPath().isEmpty()
-            ? "the folder that it lies in must have a name in UTF-8"
-            : "there is no display to open a window on";
+        return QCoreApplication::applicationDirPath().isEmpty() ? "the folder that it lies in must have a name in UTF-8"
+                                                                : "there is no display to open a window on";
     }
 
     static void hear(QtMsgType type, const QMessageLogContext& context, const QString& message)

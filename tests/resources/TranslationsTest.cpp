@@ -1,5 +1,5 @@
-#include "platform/posix/PosixFiles.h"
 #include "platform/qt/Translations.h"
+#include "platform/posix/PosixFiles.h"
 #include "tests/ScratchFolder.h"
 #include "tests/ui/WizardWorld.h"
 
