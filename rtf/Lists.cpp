@@ -64,6 +64,11 @@ std::string ordinal(std::int32_t number)
     return std::to_string(number) + (isTeen || last >= endings.size() ? endings[0] : endings.at(last));
 }
 
+bool isCounted(std::int32_t kind)
+{
+    return kind != ListLevel::bullet && kind != ListLevel::none;
+}
+
 } // namespace
 
 std::string numberText(std::int32_t number, std::int32_t kind)
@@ -94,7 +99,7 @@ std::string numberText(std::int32_t number, std::int32_t kind)
 void Lists::beginList()
 {
     isOverride_ = false;
-    if (lists_.size() < mostLists) {
+    if (lists_.size() <= mostLists) {
         lists_.emplace_back();
     } else {
         lists_.back() = {};
@@ -109,21 +114,21 @@ void Lists::beginOverride()
     starts_.clear();
 }
 
+/// No more ids are kept than there are lists.
 void Lists::setId(std::int32_t id)
 {
     if (isOverride_) {
         overrideId_ = id;
-    } else if (!lists_.empty()) {
-        lists_.back().id = id;
+    } else if (lists_.size() <= mostLists && placesOfIds_.size() < lists_.size()) {
+        placesOfIds_.try_emplace(id, lists_.size() - 1);
     }
 }
 
 void Lists::setNumber(std::int32_t number)
 {
-    const auto list = std::ranges::find(lists_, overrideId_, &List::id);
-    if (isOverride_ && list != lists_.end() && number > 0 && number < mostLists) {
-        const auto index = static_cast<std::size_t>(list - lists_.begin());
-        uses_[static_cast<std::uint16_t>(number)] = {.list = index, .starts = std::move(starts_)};
+    const auto place = placesOfIds_.find(overrideId_);
+    if (isOverride_ && place != placesOfIds_.end() && number > 0 && number < mostLists) {
+        uses_[static_cast<std::uint16_t>(number)] = {.list = place->second, .starts = std::move(starts_)};
         starts_.clear();
     }
 }
@@ -142,20 +147,24 @@ void Lists::setStart(std::int32_t start)
     }
 }
 
-/// The text begins with its own length, and ends with what some writers put behind it.
+/// The text begins with its own length, and ends with what some writers put behind it. What stands in it for numbers
+/// that no item of the level ever has is dropped, so that all of it shows.
 void Lists::endLevel()
 {
     if (isOverride_ || lists_.empty() || lists_.back().levels.size() == mostLevels) {
         return;
     }
-    std::string& text = level_.text;
+    std::vector<ListLevel>& levels = lists_.back().levels;
+    std::string& text = levels.emplace_back(std::exchange(level_, {})).text;
     const auto continues = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80; };
     text.erase(text.begin(), std::find_if_not(text.begin() + (text.empty() ? 0 : 1), text.end(), continues));
     if (text.ends_with(';')) {
         text.pop_back();
     }
-    lists_.back().levels.push_back(std::move(level_));
-    level_ = {};
+    std::erase_if(text, [&](char byte) {
+        const auto place = static_cast<unsigned char>(byte);
+        return place < mostLevels && (place >= levels.size() || !isCounted(levels[place].kind));
+    });
 }
 
 void Lists::beginNumbering()
@@ -169,27 +178,22 @@ void Lists::beginNumbering()
 /// Equal descriptions are one list.
 std::uint16_t Lists::endNumbering()
 {
-    level_.text
-        = level_.kind == ListLevel::none || level_.kind == ListLevel::bullet ? before + after : before + '\0' + after;
+    level_.text = isCounted(level_.kind) ? before + '\0' + after : before + after;
     if (level_.kind == ListLevel::none && level_.text.empty()) {
         return 0;
     }
-    const auto isEqual = [&](const List& list) {
-        return list.isNumbering && list.id == numberingLevel && list.levels[0].kind == level_.kind
-            && list.levels[0].start == level_.start && list.levels[0].text == level_.text;
-    };
-    auto list = std::ranges::find_if(lists_, isEqual);
-    if (list == lists_.end()) {
-        if (lists_.size() >= mostNumberings) {
-            return 0;
-        }
-        lists_.push_back({.id = numberingLevel, .levels = {std::move(level_)}, .numbers = {}, .isNumbering = true});
-        list = lists_.end() - 1;
+    const Numbering numbering{numberingLevel, level_.kind, level_.start, level_.text};
+    const auto known = numberings_.find(numbering);
+    if (known != numberings_.end()) {
+        return known->second;
     }
-    const auto index = static_cast<std::uint16_t>(list - lists_.begin());
-    const auto number = static_cast<std::uint16_t>(firstNumbering + index);
-    uses_.try_emplace(number, Use{.list = index, .starts = {}});
-    return number;
+    if (lists_.size() >= mostNumberings) {
+        return 0;
+    }
+    const auto number = static_cast<std::uint16_t>(firstNumbering + lists_.size());
+    uses_.try_emplace(number, Use{.list = lists_.size(), .starts = {}});
+    lists_.push_back({.levels = {std::move(level_)}, .numbers = {}, .numberingLevel = numberingLevel});
+    return numberings_.emplace(numbering, number).first->second;
 }
 
 const Lists::Use* Lists::useOf(std::uint16_t number) const
@@ -213,11 +217,11 @@ bool Lists::continues(const List& list, std::uint16_t number, std::uint8_t depth
     if (list.numbers.size() <= depth) {
         return false;
     }
-    if (!list.isNumbering || previous_ == number) {
+    if (!list.numberingLevel || previous_ == number) {
         return true;
     }
     const Use* const previous = previous_ >= firstNumbering ? useOf(previous_) : nullptr;
-    return previous != nullptr && lists_[previous->list].id > list.id;
+    return previous != nullptr && lists_[previous->list].numberingLevel > list.numberingLevel;
 }
 
 void Lists::count(List& list, Use& use, std::uint8_t depth)
@@ -248,10 +252,8 @@ std::string Lists::textOf(const ListLevel& level, const List& list)
         const auto place = static_cast<unsigned char>(byte);
         if (place >= mostLevels) {
             text += byte;
-        } else if (place < list.numbers.size()) {
-            const std::int32_t kind = list.levels[place].kind;
-            const bool isCounted = kind != ListLevel::bullet && kind != ListLevel::none;
-            text += isCounted ? numberText(list.numbers[place], level.isLegal ? ListLevel::decimal : kind) : "";
+        } else {
+            text += numberText(list.numbers[place], level.isLegal ? ListLevel::decimal : list.levels[place].kind);
         }
     }
     return text;
@@ -265,7 +267,7 @@ ListMarker Lists::nextMarker(const ParagraphFormat& item)
     }
     Use& use = uses_[item.list];
     List& list = lists_[use.list];
-    if (list.isNumbering && !continues(list, item.list, item.listLevel)) {
+    if (list.numberingLevel && !continues(list, item.list, item.listLevel)) {
         list.numbers.clear();
     }
     count(list, use, item.listLevel);

@@ -5,7 +5,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <map>
+#include <optional>
 #include <string>
+#include <tuple>
 #include <unordered_map>
 #include <vector>
 
@@ -48,6 +51,7 @@ struct ListMarker {
 };
 
 /// RTF's tables of lists, and the numbering that paragraphs say of themselves; and how far each list has been counted.
+/// Of more than 4,096 lists only the first count.
 class Lists {
 public:
     static constexpr std::uint16_t mostLists = 4096;
@@ -83,12 +87,15 @@ public:
 
 private:
     struct List {
-        std::int32_t id = 0;
         std::vector<ListLevel> levels;
         /// The numbers of the last item and of those it stands in, as many as are begun.
         std::vector<std::int32_t> numbers;
-        bool isNumbering = false;
+        /// Of numbering that paragraphs say of themselves.
+        std::optional<std::uint8_t> numberingLevel;
     };
+
+    /// What paragraphs say of their own numbering: its level, kind, start and text.
+    using Numbering = std::tuple<std::uint8_t, std::int32_t, std::int32_t, std::string>;
 
     /// What the paragraphs' number of a list means.
     struct Use {
@@ -103,6 +110,10 @@ private:
     bool continues(const List& list, std::uint16_t number, std::uint8_t depth) const;
 
     std::vector<List> lists_;
+    /// Where lists of the tables stand in `lists_`, by their ids.
+    std::unordered_map<std::int32_t, std::size_t> placesOfIds_;
+    /// The paragraphs' numbers for their own numbering.
+    std::map<Numbering, std::uint16_t> numberings_;
     std::unordered_map<std::uint16_t, Use> uses_;
     ListLevel level_;
     std::vector<std::int32_t> starts_;

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <string>
 #include <vector>
 
@@ -131,6 +132,37 @@ TEST(Lists, countAsManyItemsAsTheFileIsLong)
         items += "\\\n";
     }
     EXPECT_LE(read(list + items + "}").value().text.size(), 2 * (list.size() + items.size()));
+}
+
+TEST(Lists, takeTimeByTheBytesOfTheFileAlone)
+{
+    const auto repeated = [](const std::string& part, int times) {
+        std::string text;
+        for (int count = 0; count < times; ++count) {
+            text += part;
+        }
+        return text;
+    };
+    std::string lists;
+    for (int list = 0; list < 5000; ++list) {
+        lists += "{\\list{\\listlevel{\\leveltext\\'01-;}}\\listid" + std::to_string(list) + "}";
+    }
+    const std::string tables = "{\\rtf1{\\*\\listtable" + lists + "}{\\*\\listoverridetable";
+    const std::string nowhere = "{\\list{\\listlevel{\\leveltext\\'01" + repeated("\\'08", 65000) + "}}\\listid1}";
+    const std::string numberless
+        = "{\\rtf1{\\*\\listtable" + nowhere + "}{\\*\\listoverridetable{\\listoverride\\listid1\\ls1}}";
+    const std::vector<std::pair<std::string, std::string>> rows = {
+        {tables + "{\\listoverride\\listid9999" + repeated("\\ls1", 100000) + "}}\\ls1 a}", "a\n"},
+        {tables + "{\\listoverride\\listid4095\\ls1}{\\listoverride\\listid4999\\ls2}}" + repeated("{\\pn}", 100000)
+                + "\\ls1 a\\par\\ls2 b}",
+            "-\ta\nb\n"},
+        {numberless + "\\ls1 " + repeated("\\\n", 50000) + "}", std::string(50000, '\n')},
+    };
+    for (const auto& [rtf, expected] : rows) {
+        const std::clock_t begin = std::clock();
+        EXPECT_TRUE(agreementPlainText(read(rtf).value()) == expected);
+        EXPECT_LT(std::clock() - begin, CLOCKS_PER_SEC);
+    }
 }
 
 TEST(Lists, giveTheirIndentsToItemsWithoutAny)
