@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iterator>
 #include <numeric>
-#include <ranges>
 
 namespace corvellane::view {
 namespace {
@@ -61,22 +60,16 @@ bool joinsLeft(std::vector<GridCell>& cells, const GridCell& next)
     return continues;
 }
 
-bool joinsAbove(std::vector<GridCell>& cells, const GridCell& next)
+/// `above` is the last cell that begins in the same column; null for none.
+bool joinsAbove(GridCell* above, const GridCell& next)
 {
-    if (next.cell->format.verticalMerge != rtf::CellMerge::continued) {
-        return false;
+    const bool continues = next.cell->format.verticalMerge == rtf::CellMerge::continued && above != nullptr
+        && above->columns == next.columns && above->firstRow + above->rows == next.firstRow
+        && above->cell->format.verticalMerge != rtf::CellMerge::none;
+    if (continues) {
+        ++above->rows;
     }
-    const auto isAbove = [&](const GridCell& each) {
-        return each.firstColumn == next.firstColumn && each.columns == next.columns
-            && each.firstRow + each.rows == next.firstRow && each.cell->format.verticalMerge != rtf::CellMerge::none;
-    };
-    auto upwards = std::views::reverse(cells);
-    const auto above = std::ranges::find_if(upwards, isAbove);
-    if (above == upwards.end()) {
-        return false;
-    }
-    ++(*above).rows;
-    return true;
+    return continues;
 }
 
 /// Qt has a table's first column on the left whatever its direction.
@@ -112,13 +105,18 @@ TableGrid gridOf(const std::vector<rtf::TableRow>& rows)
     for (std::size_t index = 1; index < common.size(); ++index) {
         grid.columns.push_back(rtf::points(common[index] - common[index - 1]));
     }
+    // By column: 1 + the index of the last cell that begins in it, 0 for none.
+    std::vector<std::size_t> lastCells(common.size(), 0);
     for (std::size_t row = 0; row < rows.size(); ++row) {
         for (std::size_t cell = 0; cell < rows[row].cells.size(); ++cell) {
             const int begin = columnAt(common, edgesOfRows[row][cell]);
             const int end = columnAt(common, edgesOfRows[row][cell + 1]);
             const GridCell next{&rows[row].cells[cell], &rows[row], static_cast<int>(row), begin, 1, end - begin};
-            if (!joinsLeft(grid.cells, next) && !joinsAbove(grid.cells, next)) {
+            std::size_t& last = lastCells[static_cast<std::size_t>(begin)];
+            GridCell* const above = last != 0 ? &grid.cells[last - 1] : nullptr;
+            if (!joinsLeft(grid.cells, next) && !joinsAbove(above, next)) {
                 grid.cells.push_back(next);
+                last = grid.cells.size();
             }
         }
     }

@@ -2,6 +2,7 @@
 #include "rtf/Reader.h"
 #include "view/qt/FontSubstitutes.h"
 #include "view/qt/RichTextLines.h"
+#include "view/qt/TableGrid.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
@@ -15,6 +16,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <functional>
 
 namespace corvellane::view {
@@ -343,6 +345,21 @@ TEST(RichTextDocument, makesNoTableWiderThanThePage)
         many += "\\cellx" + std::to_string(cell * 100) + " ";
     }
     EXPECT_LE(widthOf(many + "\\pard\\intbl a\\cell\\row"), 401);
+}
+
+/// Of cells that go on from none above them, as those have another width.
+TEST(TableGrid, takesTimeByTheCellsAlone)
+{
+    std::string rows = "{\\rtf1";
+    for (int row = 0; row < 30000; ++row) {
+        rows += row % 2 == 0 ? R"(\trowd\clvmrg\cellx1000)" : R"(\trowd\clvmrg\cellx2000)";
+        rows += R"(\pard\intbl a\cell\row)";
+    }
+    const rtf::AttributedText text = rtf::read(rows + "}").value();
+    const std::vector<rtf::Block> blocks = rtf::blocksOf(text);
+    const std::clock_t begin = std::clock();
+    EXPECT_EQ(gridOf(blocks.at(0).rows).cells.size(), 30000U);
+    EXPECT_LT(std::clock() - begin, CLOCKS_PER_SEC);
 }
 
 TEST(RichTextDocument, framesParagraphsOfTheSameBordersTogether)
