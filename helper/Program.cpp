@@ -46,6 +46,9 @@ public:
         }
     }
 
+    /// Behind what the program has written.
+    void add(std::string_view words) { kept_.add(words); }
+
     std::string text() { return std::move(kept_).text(); }
 
 private:
@@ -159,16 +162,13 @@ Reply runProgram(const std::string& path, const std::vector<std::string>& words,
     output.closeWriteEnd();
     errors.closeWriteEnd();
     collect(program, output, errors);
-    Reply reply{couldNotRun, output.text(), {}};
     int status = 0;
-    if (waitpid(program, &status, 0) == program) {
-        reply.status = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
+    const bool isKnown = waitpid(program, &status, 0) == program;
+    if (isKnown && WIFSIGNALED(status)) {
+        errors.add(describeSignal(command, WTERMSIG(status)));
+        return {128 + WTERMSIG(status), output.text(), errors.text()};
     }
-    reply.errors = errors.text();
-    if (WIFSIGNALED(status)) {
-        reply.errors += describeSignal(command, WTERMSIG(status));
-    }
-    return reply;
+    return {isKnown ? WEXITSTATUS(status) : couldNotRun, output.text(), errors.text()};
 }
 
 } // namespace corvellane::runner

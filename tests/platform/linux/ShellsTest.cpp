@@ -48,6 +48,9 @@ TEST_F(LinuxShellTest, saysWhatBecameOfACommandThatDidNotEndByItself)
     EXPECT_EQ(killed.status, 128 + 9);
     EXPECT_EQ(killed.errors, "begun\nThe command was ended by the signal SIGKILL: echo begun >&2; kill -9 $$\n");
     EXPECT_EQ(run(": " + std::string(200000, 'x')).errors, "The command could not be run: Argument list too long.\n");
+    const auto loud = run("head -c 2000000 /dev/zero | tr '\\0' e >&2; kill -9 $$ # " + std::string(1000, 'x'));
+    EXPECT_TRUE(loud.errors.ends_with("xxx\n"));
+    EXPECT_LE(loud.errors.size(), runner::longestText) << "what the runner can reply";
 }
 
 TEST_F(LinuxShellTest, keepsTheBeginningAndTheEndOfEachStreamAndWaitsForNothingInTheBackground)
