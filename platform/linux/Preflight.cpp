@@ -121,9 +121,9 @@ private:
     /// Where a product's files lie now that will be copied from where they are installed.
     std::string sourceOf(const std::string& path) const
     {
-        for (const auto& [target, source] : sources_) {
-            if (path.starts_with(target + "/")) {
-                return source + path.substr(target.size());
+        for (auto end = path.find('/'); end != std::string::npos; end = path.find('/', end + 1)) {
+            if (const auto installed = sources_.find(path.substr(0, end)); installed != sources_.end()) {
+                return installed->second + path.substr(end);
             }
         }
         return path;

@@ -5,6 +5,8 @@
 
 #include <unistd.h>
 
+#include <ctime>
+
 namespace corvellane {
 namespace {
 
@@ -44,6 +46,21 @@ TEST_F(PreflightTest, saysBeforehandWhatCannotSucceed)
     site.user.home = "relative";
     EXPECT_EQ(whyNot({R"(mkdir -p "@home/Library/Application Support/Adobe/Lightroom/a")"}),
         "There is no home folder “relative” to install into.");
+}
+
+TEST_F(PreflightTest, takesTimeByTheCommandsAlone)
+{
+    scratch.write("P/x/file", "");
+    const std::string product = base + "P/x/";
+    std::vector<std::string> commands;
+    for (int element = 0; element < 5000; ++element) {
+        const std::string name = std::to_string(element);
+        std::filesystem::create_directory(product + name);
+        commands.push_back("cp -R -f \"@P/x/" + name + "\" \"@Applications/Corvellane/\"");
+    }
+    const std::clock_t begin = std::clock();
+    EXPECT_EQ(whyNot(commands), "");
+    EXPECT_LT(std::clock() - begin, 3 * CLOCKS_PER_SEC);
 }
 
 /// The file is a hole: it needs the room that it would take when it is copied whole.
