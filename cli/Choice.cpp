@@ -29,7 +29,7 @@ std::optional<Refusal> chooseElements(
         return notWhole(found ? "There is no product in this installer." : found.error().message);
     }
     const ProductSelection all(*found);
-    std::vector<std::string> chosen = names.empty() ? *all.locations() : std::vector<std::string>();
+    std::vector<std::string> chosen;
     for (const std::string& name : names) {
         const std::string* product = productNamed(*all.locations(), name);
         if (product == nullptr) {
@@ -38,7 +38,7 @@ std::optional<Refusal> chooseElements(
         chosen.push_back(*product);
     }
     for (const std::string& product : *all.locations()) {
-        const bool isChosen = std::ranges::find(chosen, product) != chosen.end();
+        const bool isChosen = names.empty() || std::ranges::find(chosen, product) != chosen.end();
         auto elements = isChosen ? foldersIn(files, product) : Expected<std::vector<std::string>>();
         if (!elements) {
             return notWhole(elements.error().message);

@@ -87,13 +87,12 @@ Answer installAll(const Order& order)
 }
 
 /// Says so when an element is still not as shipped.
-void checkAgain(Answer& answer, const Installation& installation, const Order& installed)
+void checkAgain(Answer& answer, const std::vector<const MadeElement*>& installed)
 {
-    for (const MadeElement& element : installation.elements) {
-        const bool wasInstalled = std::ranges::find(installed.elements, element.path) != installed.elements.end();
-        const auto comparison = wasInstalled ? compare(element) : ElementComparison();
-        if (comparison.state != ElementState::asShipped && answer.status == Status::done) {
-            const Difference first = comparison.differences.empty() ? Difference{element.copy, "is missing"}
+    for (auto element = installed.begin(); element != installed.end() && answer.status == Status::done; ++element) {
+        const auto comparison = compare(**element);
+        if (comparison.state != ElementState::asShipped) {
+            const Difference first = comparison.differences.empty() ? Difference{(*element)->copy, "is missing"}
                                                                     : comparison.differences.front();
             answer.status = Status::failed;
             answer.message = "“" + first.path + "” " + first.text
@@ -104,8 +103,8 @@ void checkAgain(Answer& answer, const Installation& installation, const Order& i
 
 void installWhatIsNeeded(Answer& answer, const Order& order, const Installation& installation)
 {
-    Order needed = order;
-    needed.elements.clear();
+    Order needed{order.productsFolder, {}, order.persons};
+    std::vector<const MadeElement*> installed;
     Removal clearance;
     for (const MadeElement& element : installation.elements) {
         const auto comparison = compare(element);
@@ -113,12 +112,13 @@ void installWhatIsNeeded(Answer& answer, const Order& order, const Installation&
         answer.elements.push_back({element.path, isNeeded ? "installed" : "as shipped"});
         if (isNeeded) {
             needed.elements.push_back(element.path);
+            installed.push_back(&element);
             std::ranges::move(clearanceFor(element, comparison).entries, std::back_inserter(clearance.entries));
         }
     }
-    if (!needed.elements.empty()) {
+    if (!installed.empty()) {
         installAfter(answer, needed, clearance);
-        checkAgain(answer, installation, needed);
+        checkAgain(answer, installed);
     }
 }
 
