@@ -7,7 +7,7 @@
 
 #include <cerrno>
 #include <cstring>
-#include <vector>
+#include <memory>
 
 namespace corvellane {
 namespace {
@@ -41,7 +41,6 @@ class BlockReader {
 public:
     explicit BlockReader(const std::string& path)
         : file_(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY))
-        , block_(blockSize)
         , error_(file_.isOpen() ? 0 : errno)
     {
     }
@@ -53,20 +52,21 @@ public:
     {
         std::size_t filled = 0;
         while (error_ == 0 && filled < blockSize) {
-            const ssize_t count = read(file_.get(), block_.data() + filled, blockSize - filled);
+            const ssize_t count = read(file_.get(), block_.get() + filled, blockSize - filled);
             if (count == 0) {
                 break;
             }
             error_ = count < 0 && errno != EINTR ? errno : 0;
             filled += count < 0 ? 0 : static_cast<std::size_t>(count);
         }
-        return {block_.data(), error_ == 0 ? filled : 0};
+        return {block_.get(), error_ == 0 ? filled : 0};
     }
 
 private:
     FileDescriptor file_;
-    std::vector<char> block_;
     int error_;
+    // NOLINTNEXTLINE(modernize-avoid-c-arrays): not filled before it is read into, as most files are shorter
+    std::unique_ptr<char[]> block_ = std::make_unique_for_overwrite<char[]>(blockSize);
 };
 
 } // namespace
