@@ -49,7 +49,9 @@ class Ear:
         if what == "showing":
             return f"announced: {event.source.name}" if event.detail1 and role == "notification" else None
         if what == "accessible-name":
-            return None if role == "notification" else f"now called: {role} {event.source.name}"
+            # A progress bar is there only when the wait is long.
+            is_heard = role not in ("notification", "progress bar")
+            return f"now called: {role} {event.source.name}" if is_heard else None
         if what == "accessible-description":
             return f"now described: {role} {event.source.name}, {event.source.description}"
         if what == "checked":

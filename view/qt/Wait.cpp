@@ -112,8 +112,9 @@ BusyBar::BusyBar(QWidget& window)
     setTextVisible(false);
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    nameForAssistance(*this, localized("Progress of the installation"));
+    place();
     alive_.start();
-    hide();
 }
 
 void BusyBar::showPart(double part)
@@ -122,6 +123,13 @@ void BusyBar::showPart(double part)
     raise();
     show();
     update();
+}
+
+void BusyBar::place()
+{
+    constexpr int thickness = 4;
+    const QRect window = parentWidget()->rect();
+    setGeometry(0, window.height() - thickness, window.width(), thickness);
 }
 
 void BusyBar::paintEvent(QPaintEvent*)
@@ -147,7 +155,6 @@ void BusyBar::paintEvent(QPaintEvent*)
 
 Wait::Wait(QWidget& window)
     : window_(window)
-    , bar_(window)
 {
     QObject::connect(&beat_, &QTimer::timeout, &window, [this] { showLife(); });
 }
@@ -161,7 +168,6 @@ void Wait::begin()
 {
     deaf_ = true;
     gate_.shut();
-    nameForAssistance(bar_, localized("Progress of the installation"));
     beat_.start(beat);
 }
 
@@ -172,7 +178,10 @@ void Wait::showLife()
     }
     const std::optional<double> part = partDone_ ? partDone_() : std::nullopt;
     if (part) {
-        bar_.showPart(*part);
+        if (bar_ == nullptr) {
+            bar_ = std::make_unique<BusyBar>(window_);
+        }
+        bar_->showPart(*part);
     }
 }
 
@@ -182,7 +191,7 @@ void Wait::end(bool sceneChanged)
         return;
     }
     beat_.stop();
-    bar_.hide();
+    bar_ = nullptr;
     if (std::exchange(hasCursor_, false)) {
         QGuiApplication::restoreOverrideCursor();
     }
@@ -191,7 +200,9 @@ void Wait::end(bool sceneChanged)
 
 void Wait::place()
 {
-    bar_.setGeometry(0, window_.height() - BusyBar::thickness, window_.width(), BusyBar::thickness);
+    if (bar_ != nullptr) {
+        bar_->place();
+    }
 }
 
 } // namespace corvellane::view

@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace corvellane::view {
@@ -38,12 +39,13 @@ private:
 /// For assistive technology a progress bar with a name.
 class BusyBar : public QProgressBar {
 public:
-    static constexpr int thickness = 4;
-
     explicit BusyBar(QWidget& window);
 
     /// `part` is between 0 and 1; the bar moves a little with every call.
     void showPart(double part);
+
+    /// Puts it where it belongs in the window, whose size is another now.
+    void place();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -72,7 +74,7 @@ public:
     void begin();
     void end(bool sceneChanged);
 
-    /// Puts the bar where it belongs in the window.
+    /// The window has another size.
     void place();
 
 private:
@@ -81,7 +83,8 @@ private:
     QWidget& window_;
     InputGate gate_;
     PartDone partDone_;
-    BusyBar bar_;
+    /// Null where none is shown.
+    std::unique_ptr<BusyBar> bar_;
     QTimer beat_;
     bool deaf_ = false;
     bool hasCursor_ = false;
