@@ -70,23 +70,37 @@ const Key* keyNamed(std::string_view name)
     return found == keys.end() ? nullptr : found;
 }
 
+/// Takes the text for a key over, or says what is wrong with it.
+std::string take(const Key& key, const std::string& text, Description& description)
+{
+    const std::string quoted = "“" + std::string(key.name) + "”";
+    if (text.size() > key.longest) {
+        return quoted + " is longer than " + std::to_string(key.longest) + " bytes";
+    }
+    if (!std::regex_match(text, std::regex(key.form))) {
+        return quoted + " must be " + key.words;
+    }
+    description.*key.field = text;
+    return {};
+}
+
 void readEntry(std::string_view name, const toml::node& value, DescriptionReading& reading)
 {
-    const std::string quoted = "“" + std::string(name) + "”";
     const Key* const key = keyNamed(name);
-    if (key == nullptr) {
-        reading.problems.push_back(at(value.source(), "there is no key " + quoted + "; there are " + namesOfKeys()));
-        return;
-    }
     const auto* const given = value.as_string();
-    const std::string text = given == nullptr ? "" : trimmed(given->get());
-    if (text.size() > key->longest) {
-        reading.problems.push_back(
-            at(value.source(), quoted + " is longer than " + std::to_string(key->longest) + " bytes"));
-    } else if (!std::regex_match(text, std::regex(key->form))) {
-        reading.problems.push_back(at(value.source(), quoted + " must be " + key->words));
-    } else {
-        reading.description.*key->field = text;
+    const std::string problem = key == nullptr
+        ? "there is no key “" + std::string(name) + "”; there are " + namesOfKeys()
+        : take(*key, given == nullptr ? "" : trimmed(given->get()), reading.description);
+    if (!problem.empty()) {
+        reading.problems.push_back(at(value.source(), problem));
+    }
+}
+
+void readVersion(const std::string& version, DescriptionReading& reading)
+{
+    const std::string problem = take(*keyNamed("version"), trimmed(version), reading.description);
+    if (!problem.empty()) {
+        reading.problems.push_back(problem);
     }
 }
 
@@ -119,8 +133,7 @@ DescriptionReading readDescription(std::string_view text, const std::string& ver
             readEntry(name.str(), value, reading);
         }
         if (!version.empty()) {
-            const toml::value<std::string> given(version);
-            readEntry("version", given, reading);
+            readVersion(version, reading);
         }
         findMissing(table, reading);
     } catch (const toml::parse_error& error) {

@@ -26,7 +26,8 @@ struct Description {
     std::string packageName() const;
 };
 
-/// A description, or what is wrong with it, a line each: "installer.toml:3: …".
+/// A description, or what is wrong with it, a line each: "installer.toml:3: …", or of a version that is not the file's
+/// without a place.
 struct DescriptionReading {
     Description description;
     std::vector<std::string> problems;

@@ -68,7 +68,9 @@ TEST(Description, saysWhatIsWrongByNameAndLine)
         EXPECT_EQ(problems.front().substr(0, problem.size()), problem);
     }
     EXPECT_EQ(readDescription("", "").problems.size(), 7) << "all that is missing at once";
-    EXPECT_EQ(readDescription(whole, "1 2").problems.size(), 1);
+    const std::vector<std::string> problems = readDescription(whole, "1 2").problems;
+    ASSERT_EQ(problems.size(), 1);
+    EXPECT_TRUE(problems[0].starts_with("“version” must be a digit")) << "it is not the file's: " << problems[0];
 }
 
 } // namespace
