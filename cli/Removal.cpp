@@ -1,5 +1,6 @@
 #include "cli/Removal.h"
 
+#include "base/PathNames.h"
 #include "helper/Execution.h"
 #include "helper/InstallFolders.h"
 #include "helper/MadeFolders.h"

@@ -30,11 +30,7 @@ std::string absolutePath(const std::string& given)
     const fs::path path = fs::absolute(given, error);
     const bool isDirect = std::ranges::none_of(path, [](const fs::path& part) { return part == "." || part == ".."; });
     const fs::path direct = isDirect ? path : fs::weakly_canonical(path, error);
-    std::string absolute = error ? path.native() : direct.native();
-    while (absolute.size() > 1 && absolute.ends_with('/')) {
-        absolute.pop_back();
-    }
-    return absolute;
+    return withoutEnd(error ? path.native() : direct.native());
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "tools/ModelTree.h"
 
+#include "base/PathNames.h"
+
 #include <fstream>
 #include <utility>
 #include <vector>
@@ -67,19 +69,6 @@ void step(std::string& reached, const std::string& part)
 }
 
 } // namespace
-
-std::string withoutEnd(std::string path)
-{
-    while (path.size() > 1 && path.ends_with('/')) {
-        path.pop_back();
-    }
-    return path;
-}
-
-std::string folderOf(const std::string& path)
-{
-    return path.substr(0, path.rfind('/'));
-}
 
 const ModelEntry* ModelTree::find(const std::string& path) const
 {

@@ -10,12 +10,6 @@
 
 namespace corvellane {
 
-/// The path without "/" at its end.
-std::string withoutEnd(std::string path);
-
-/// What the path lies in; empty for what lies in "/".
-std::string folderOf(const std::string& path);
-
 /// A file, folder or link of a model. Whose it is decides which bits of its mode hold for the person.
 struct ModelEntry {
     enum class Kind : std::uint8_t { folder, file, link, special };

@@ -1,12 +1,12 @@
 #include "tools/PayloadReport.h"
 
 #include "base/PathNames.h"
+#include "base/SizeInWords.h"
 #include "install/InstallScript.h"
 #include "products/Discovery.h"
 #include "tools/ModelInspection.h"
 #include "tools/ModelRun.h"
 #include "tools/PayloadFindings.h"
-#include "tools/SizeInWords.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -2,9 +2,9 @@
 
 #include "base/Enumerators.h"
 #include "base/PathNames.h"
+#include "base/SizeInWords.h"
 #include "tools/Colours.h"
 #include "tools/PrintableText.h"
-#include "tools/SizeInWords.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,5 +1,6 @@
 #include "platform/linux/Preflight.h"
 
+#include "base/SizeInWords.h"
 #include "platform/script/ErrorInformation.h"
 
 #include <fcntl.h>
@@ -8,7 +9,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
@@ -22,18 +22,6 @@ using runner::InstallCommand;
 
 /// In bytes.
 using Size = std::intmax_t;
-
-std::string inWords(Size bytes)
-{
-    constexpr std::array units{" kB", " MB", " GB", " TB"};
-    std::size_t unit = 0;
-    // In tenths of a unit, rounded up.
-    Size tenths = (bytes + 99) / 100;
-    for (; tenths >= 10000 && unit + 1 < units.size(); ++unit) {
-        tenths = (tenths + 999) / 1000;
-    }
-    return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + units[unit];
-}
 
 /// What copies need on one file system.
 struct Demand {
@@ -69,8 +57,9 @@ public:
     {
         for (const auto& [device, demand] : demands_) {
             if (demand.needed > demand.free) {
-                return "There is not enough room for “" + demand.folder + "”: " + inWords(demand.needed)
-                    + " are needed, and " + inWords(demand.free) + " are free.";
+                return "There is not enough room for “" + demand.folder
+                    + "”: " + sizeInWords(static_cast<std::uintmax_t>(demand.needed)) + " are needed, and "
+                    + sizeInWords(static_cast<std::uintmax_t>(demand.free)) + " are free.";
             }
         }
         return std::nullopt;

@@ -1,5 +1,7 @@
 #include "platform/posix/UserAccount.h"
 
+#include "base/PathNames.h"
+
 #include <pwd.h>
 #include <unistd.h>
 
@@ -42,11 +44,7 @@ std::optional<UserAccount> lookedUp(LookUp lookUp)
     if (found == nullptr) {
         return std::nullopt;
     }
-    UserAccount account{asWord(entry.pw_name, entry.pw_uid), entry.pw_dir, entry.pw_uid};
-    while (account.home.size() > 1 && account.home.ends_with('/')) {
-        account.home.pop_back();
-    }
-    return account;
+    return UserAccount{asWord(entry.pw_name, entry.pw_uid), withoutEnd(entry.pw_dir), entry.pw_uid};
 }
 
 } // namespace

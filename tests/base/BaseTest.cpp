@@ -1,4 +1,6 @@
 #include "base/Observable.h"
+#include "base/PathNames.h"
+#include "base/SizeInWords.h"
 #include "base/Snapshot.h"
 #include "base/WorkerThread.h"
 
@@ -52,6 +54,24 @@ TEST(Snapshot, isEqualToOneOfTheSameValue)
     EXPECT_FALSE(Snapshot<int>(1).isSame(one));
     EXPECT_EQ(Snapshot<int>(1), one);
     EXPECT_FALSE(Snapshot<int>(2) == one);
+}
+
+TEST(PathNames, takePathsApart)
+{
+    EXPECT_EQ(lastPathComponent("/a/b//"), "b");
+    EXPECT_EQ(withoutEnd("/a/b//"), "/a/b");
+    EXPECT_EQ(withoutEnd("/"), "/");
+    EXPECT_EQ(folderOf("/a/b"), "/a");
+    EXPECT_EQ(folderOf("/a"), "");
+}
+
+TEST(SizeInWords, isRoundedUp)
+{
+    EXPECT_EQ(sizeInWords(0), "0 bytes");
+    EXPECT_EQ(sizeInWords(1), "1 byte");
+    EXPECT_EQ(sizeInWords(1000), "1.0 kB");
+    EXPECT_EQ(sizeInWords(999'901), "1.0 MB");
+    EXPECT_EQ(sizeInWords(12'340'000), "12.4 MB");
 }
 
 TEST(WorkerThread, runsInOrderOnAnotherThreadWhatWaitsAtItsEnd)

@@ -5,7 +5,6 @@
 #include "tools/LogoColours.h"
 #include "tools/PrintableText.h"
 #include "tools/ReportForms.h"
-#include "tools/SizeInWords.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
@@ -254,14 +253,6 @@ TEST(LogoColours, areThoseThatAreDrawn)
         ElementsAre("#000000", "#ffffff", "rgb(1,2,3)"));
     EXPECT_THAT(
         coloursOf(R"(<svg><image href="x.png"/><text fill-opacity=".5">fill</text)"), ElementsAre("#000000", "image"));
-}
-
-TEST(SizeInWords, isRoundedUp)
-{
-    EXPECT_EQ(sizeInWords(1), "1 byte");
-    EXPECT_EQ(sizeInWords(1000), "1.0 kB");
-    EXPECT_EQ(sizeInWords(999'901), "1.0 MB");
-    EXPECT_EQ(sizeInWords(12'340'000), "12.4 MB");
 }
 
 TEST(PrintableText, isOneLineOfUtf8)

@@ -1,4 +1,4 @@
-#include "tools/SizeInWords.h"
+#include "base/SizeInWords.h"
 
 #include <array>
 #include <cstddef>
