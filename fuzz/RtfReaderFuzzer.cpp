@@ -1,4 +1,5 @@
 #include "rtf/Reader.h"
+#include "tools/AgreementJson.h"
 #include "tools/AgreementReport.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "agreement/Document.h"
 #include "tests/FakePlatform.h"
+#include "tools/AgreementJson.h"
 #include "tools/AgreementReport.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,6 @@
 #include "rtf/Reader.h"
 #include "tests/ScratchFolder.h"
+#include "tools/AgreementJson.h"
 #include "tools/AgreementReport.h"
 
 namespace corvellane::rtf {
