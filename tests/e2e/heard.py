@@ -1,6 +1,7 @@
 """What is heard of a walk through all pages, alerts and the log panel by keyboard alone, line by line: heard.txt.
 
-With the path of a file in HEARD_INTO, writes there what is heard instead of comparing."""
+With a path in HEARD_INTO, writes there what is heard instead of comparing: to "/dev/stdout", as the files of a copied
+machine are gone at the end."""
 
 import os
 import shutil
