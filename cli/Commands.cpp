@@ -158,7 +158,7 @@ Answer verify(const Order& order)
             auto [state, differences] = compare(element);
             if (state != ElementState::asShipped) {
                 filled.status = Status::failed;
-                filled.message = "Not everything is as shipped; “install --if-needed” mends it.";
+                filled.message = "Not everything is as shipped; “install --accept-license --if-needed” mends it.";
             }
             filled.elements.push_back({element.path, std::string(nameOf(state)), std::move(differences)});
         }

@@ -1,6 +1,7 @@
 // corvellane-cli list|install|verify|remove: the installer without a window, for whoever cannot click. It installs as
 // the wizard does, and compares with what is shipped or takes away what installing makes; docs/cli.md.
 
+#include "base/PathNames.h"
 #include "cli/Choice.h"
 #include "cli/Commands.h"
 #include "platform/Resources.h"
@@ -26,6 +27,9 @@ struct Options {
     std::vector<std::string> users;
 };
 
+/// In maker's packages the program has a name of theirs.
+constexpr std::string_view ownName = "corvellane-cli";
+
 constexpr const char* moreHelp
     = R"(What installs or removes needs root, or asks through polkit, on the desktop or on the
 terminal. Nothing else ever waits for an answer.
@@ -39,6 +43,16 @@ Examples:
 
 Exit status: 0 done; 1 failed, or not as shipped; 2 wrong usage; 3 not authorised or
 declined.)";
+
+/// With the name that the program was called by.
+std::string moreHelpFor(const std::string& name)
+{
+    std::string text = moreHelp;
+    for (auto place = text.find(ownName); place != std::string::npos; place = text.find(ownName, place + name.size())) {
+        text.replace(place, ownName.size(), name);
+    }
+    return text;
+}
 
 void addSelection(CLI::App& command, Options& options)
 {
@@ -54,7 +68,7 @@ void addSelection(CLI::App& command, Options& options)
 
 void addCommands(CLI::App& program, Options& options)
 {
-    addCommonOptions(program, moreHelp);
+    addCommonOptions(program, moreHelpFor(program.get_name()));
     program.add_flag("--license", options.license, "Print the licence agreement and end");
     program.require_subcommand(0, 1);
     CLI::App* const list = program.add_subcommand("list", "Name the products and what is in them");
@@ -136,9 +150,10 @@ int showLicense(const CLI::App& program, const Options& options)
 int runCommandLine(int count, char** arguments)
 {
     Options options;
-    CLI::App program("Installs without a window, compares, and takes away again.", "corvellane-cli");
-    addCommands(program, options);
     const std::span<char*> words(arguments, static_cast<std::size_t>(count));
+    const std::string_view name = words.empty() ? ownName : lastPathComponent(words.front());
+    CLI::App program("Installs without a window, compares, and takes away again.", std::string(name));
+    addCommands(program, options);
     const bool wantsJson = std::ranges::find(words, std::string_view("--json")) != words.end();
     const auto refuse = [&](const CLI::App&, const std::string& reason) {
         options.json = wantsJson;

@@ -7,7 +7,7 @@ _corvellane_cli() {
     case $previous in
         --select)
             compopt -o filenames
-            while read -r name; do
+            while IFS= read -r name; do
                 [[ $name != "$current"* ]] || COMPREPLY+=("$name")
             done < <("${COMP_WORDS[0]}" list 2>/dev/null | sed 's|/.*||' | uniq)
             return

@@ -26,7 +26,7 @@ _rehearse() {
             ;;
         --select)
             compopt -o filenames
-            while read -r name; do
+            while IFS= read -r name; do
                 [[ $name != "$current"* ]] || COMPREPLY+=("$name")
             done < <(_rehearse_products)
             ;;
