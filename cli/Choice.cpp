@@ -12,14 +12,11 @@
 #include <iterator>
 
 namespace corvellane {
-namespace {
 
 Refusal notWhole(const std::string& message)
 {
     return {Status::failed, message + " Unpack or install the installer anew, as root."};
 }
-
-} // namespace
 
 std::optional<Refusal> chooseElements(
     Order& order, const Resources& resources, const Files& files, const std::vector<std::string>& names)

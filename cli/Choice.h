@@ -17,6 +17,9 @@ struct Refusal {
     std::string message;
 };
 
+/// Of an installer in which something is missing or cannot be read, as the message says.
+Refusal notWhole(const std::string& message);
+
 /// Fills in the order's elements: those of the products of these names, or of all when there is no name.
 std::optional<Refusal> chooseElements(
     Order& order, const Resources& resources, const Files& files, const std::vector<std::string>& names);

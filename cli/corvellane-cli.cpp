@@ -144,7 +144,12 @@ int showLicense(const CLI::App& program, const Options& options)
         return say(program, options, refusal("license", *std::move(refused)));
     }
     const std::string file = system.resources->file("CorvellaneEULA", "rtf").value_or("");
-    return reportAgreement(*system.files, file, AgreementForm::plainText, *system.console);
+    const auto words = agreementReport(*system.files, file, AgreementForm::plainText);
+    if (!words) {
+        return say(program, options, refusal("license", notWhole(words.error().message)));
+    }
+    std::fwrite(words->data(), 1, words->size(), stdout);
+    return static_cast<int>(Status::done);
 }
 
 int runCommandLine(int count, char** arguments)

@@ -1,7 +1,6 @@
 #include "tools/AgreementReport.h"
 
 #include "agreement/Document.h"
-#include "platform/Console.h"
 #include "rtf/Blocks.h"
 #include "tools/AgreementJson.h"
 
@@ -53,19 +52,9 @@ std::string agreementPlainText(const rtf::AttributedText& text)
     return plain;
 }
 
-int reportAgreement(const Files& files, const std::string& path, AgreementForm form, Console& console)
+Expected<std::string> agreementReport(const Files& files, const std::string& path, AgreementForm form)
 {
-    const auto agreement = readAgreement(files, path);
-    if (!agreement) {
-        console.print(agreement.error().message);
-        return 1;
-    }
-    std::string report = form == AgreementForm::json ? agreementJson(*agreement) : agreementPlainText(*agreement);
-    if (!report.empty()) {
-        report.pop_back();
-        console.print(report);
-    }
-    return 0;
+    return readAgreement(files, path).map(form == AgreementForm::json ? agreementJson : agreementPlainText);
 }
 
 } // namespace corvellane

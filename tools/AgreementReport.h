@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Expected.h"
 #include "rtf/AttributedText.h"
 
 #include <cstdint>
@@ -7,7 +8,6 @@
 
 namespace corvellane {
 
-class Console;
 class Files;
 
 /// The text alone, every paragraph ended by a line feed; U+2028 stays as it is. A row of a table is one line, its cells
@@ -16,7 +16,7 @@ std::string agreementPlainText(const rtf::AttributedText& text);
 
 enum class AgreementForm : std::uint8_t { json, plainText };
 
-/// Prints the agreement in the file in that form, or the reader's message when there is none. The exit code: 0 or 1.
-int reportAgreement(const Files& files, const std::string& path, AgreementForm form, Console& console);
+/// The agreement in the file in that form; fails with the reader's message when there is none.
+Expected<std::string> agreementReport(const Files& files, const std::string& path, AgreementForm form);
 
 } // namespace corvellane

@@ -5,6 +5,7 @@
 #include "tools/Colours.h"
 #include "tools/CommandLine.h"
 #include "tools/FolderTree.h"
+#include "tools/PrintableText.h"
 #include "tools/ProductNames.h"
 #include "tools/Rehearsal.h"
 #include "tools/ReportForms.h"
@@ -151,16 +152,27 @@ int rehearseProducts(const CLI::App& program, const Options& options, const Syst
     return showPayload(rehearsal.report(), options, *system.console);
 }
 
+int showAgreement(const CLI::App& program, const Options& options, const Files& files)
+{
+    if (program.parse_order().size() > 1) {
+        return refuseUsage(program, "an agreement is shown by itself, without products and what is done with them");
+    }
+    const auto report = options.agreement.empty()
+        ? agreementReport(files, options.agreementText, AgreementForm::plainText)
+        : agreementReport(files, options.agreement, AgreementForm::json);
+    if (!report) {
+        complain(program, printable(report.error().message));
+        return notWell;
+    }
+    std::fwrite(report->data(), 1, report->size(), stdout);
+    return allWell;
+}
+
 int carryOut(const CLI::App& program, Options& options)
 {
     System system;
-    const bool isText = options.agreement.empty();
-    const std::string& agreement = isText ? options.agreementText : options.agreement;
-    if (!agreement.empty()) {
-        return program.parse_order().size() > 1
-            ? refuseUsage(program, "an agreement is shown by itself, without products and what is done with them")
-            : reportAgreement(
-                  *system.files, agreement, isText ? AgreementForm::plainText : AgreementForm::json, *system.console);
+    if (!options.agreement.empty() || !options.agreementText.empty()) {
+        return showAgreement(program, options, *system.files);
     }
     if (options.productsFolder.empty()) {
         return refuseUsage(program, "FOLDER is missing; --help tells the usage");

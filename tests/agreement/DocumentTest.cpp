@@ -46,10 +46,9 @@ TEST_F(DocumentTest, holdsTheLastResourceThatCouldBeRead)
 
 TEST_F(DocumentTest, isReportedAsJsonOrText)
 {
-    EXPECT_EQ(reportAgreement(files, "/r/Good.rtf", AgreementForm::plainText, console), 0);
-    EXPECT_EQ(reportAgreement(files, "/r/Good.rtf", AgreementForm::json, console), 0);
-    EXPECT_EQ(console.lines.at(0), "\"\\ a\tb\n\n\nc\u2028d");
-    EXPECT_EQ(console.lines.at(1) + "\n", agreementJson(readAgreement(files, "/r/Good.rtf").value()));
+    EXPECT_EQ(agreementReport(files, "/r/Good.rtf", AgreementForm::plainText), "\"\\ a\tb\n\n\nc\u2028d\n");
+    EXPECT_EQ(agreementReport(files, "/r/Good.rtf", AgreementForm::json),
+        agreementJson(readAgreement(files, "/r/Good.rtf").value()));
 }
 
 } // namespace
