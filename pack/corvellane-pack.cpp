@@ -123,12 +123,6 @@ std::int64_t epoch()
     return seconds;
 }
 
-bool liesIn(const fs::path& path, const fs::path& folder)
-{
-    const fs::path real = fs::weakly_canonical(folder);
-    return std::ranges::mismatch(real, fs::weakly_canonical(path)).in1 == real.end();
-}
-
 /// All at once, not one a run.
 std::vector<std::string> problemsOf(const Options& options, Description& description)
 {

@@ -50,6 +50,13 @@ CLI::Validator asPath(const CLI::App& program)
         ""};
 }
 
+bool liesIn(const std::string& path, const std::string& folder)
+{
+    std::error_code error;
+    const fs::path real = fs::weakly_canonical(folder, error);
+    return !error && std::ranges::mismatch(real, fs::weakly_canonical(path, error)).in1 == real.end();
+}
+
 std::string productsFolderIn(const std::string& folder)
 {
     std::error_code error;
@@ -101,6 +108,14 @@ int refuseUsage(const CLI::App& program, const std::string& reason)
 {
     complain(program, printable(reason));
     return wrongUsage;
+}
+
+std::optional<int> refuseAmongProducts(const CLI::App& program, const std::string& into, const std::string& products)
+{
+    return liesIn(into, products)
+        ? std::optional(refuseUsage(
+              program, "“" + into + "” lies in the products: what is installed would be taken for one of them"))
+        : std::nullopt;
 }
 
 } // namespace corvellane

@@ -17,6 +17,9 @@ CLI::Validator asValue(const CLI::App& program);
 /// or ".." in the path: then it is where all of them lead.
 CLI::Validator asPath(const CLI::App& program);
 
+/// Whether the path, wherever its links lead, is the folder or something in it, or will be when it is made.
+bool liesIn(const std::string& path, const std::string& folder);
+
 /// The products folder in a maker's folder; any other folder is a products folder itself.
 std::string productsFolderIn(const std::string& folder);
 
@@ -28,6 +31,9 @@ void complain(const CLI::App& program, std::string_view text);
 
 /// Says on standard error, in one line, what is wrong with the command line, and gives the exit status for that, 2.
 int refuseUsage(const CLI::App& program, const std::string& reason);
+
+/// Refuses, with the exit status, to install into the products.
+std::optional<int> refuseAmongProducts(const CLI::App& program, const std::string& into, const std::string& products);
 
 /// Says what is wrong with the command line, and gives the exit status.
 using Refuse = std::function<int(const CLI::App& program, const std::string& reason)>;

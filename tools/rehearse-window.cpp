@@ -64,12 +64,16 @@ int rehearse(int count, char** arguments)
     if (const auto ending = readArguments(program, count, arguments)) {
         return *ending;
     }
+    const std::string products = productsFolderIn(options.folder);
+    if (const auto refused = refuseAmongProducts(program, options.into, products)) {
+        return *refused;
+    }
     view::ViewHost::prepareApplication();
     DesktopSystem system;
     if (options.translations.empty()) {
         options.translations = system.resources->folder("translations").value_or("");
     }
-    makeRehearsal(system, productsFolderIn(options.folder), options.into);
+    makeRehearsal(system, products, options.into);
     return Installer(system, options.translations).run();
 }
 

@@ -183,6 +183,9 @@ int carryOut(const CLI::App& program, Options& options)
             program, "--script, --into and the report of --json and --strict are three different things");
     }
     options.productsFolder = productsFolderIn(options.productsFolder);
+    if (const auto refused = refuseAmongProducts(program, options.into.value_or(""), options.productsFolder)) {
+        return *refused;
+    }
     if (options.script) {
         // The script stands alone on standard output.
         system.console = std::make_shared<StreamConsole>(stderr);
