@@ -4,6 +4,7 @@
 #include "view/qt/RichTextCopy.h"
 #include "view/qt/RichTextDocument.h"
 #include "view/qt/RichTextLines.h"
+#include "view/qt/ScrollBars.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -27,6 +28,7 @@ public:
         setReadOnly(true);
         setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::LinksAccessibleByMouse);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        seeLastLineAgain(*verticalScrollBar());
         setFrameShape(QFrame::NoFrame);
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     }

@@ -96,6 +96,8 @@ TEST_F(RichTextViewer, scrollsByKeyInsideAFrameThatTellsOfTheFocus)
     const QScrollBar& vertical = *viewer_->verticalScrollBar();
     QTest::keyClick(viewer_, Qt::Key_Down);
     EXPECT_EQ(vertical.value(), vertical.singleStep());
+    QTest::keyClick(viewer_, Qt::Key_PageDown);
+    EXPECT_EQ(vertical.value(), viewer_->viewport()->height()) << "a page, but for one step";
     QTest::keyClick(viewer_, Qt::Key_End);
     EXPECT_EQ(vertical.value(), vertical.maximum());
     QTest::keyClick(viewer_, Qt::Key_Home);
