@@ -2,6 +2,7 @@
 
 #include "view/qt/Accessibility.h"
 #include "view/qt/Appearance.h"
+#include "view/qt/ScrollBars.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -10,8 +11,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyleHints>
+#include <QTimerEvent>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 namespace corvellane::view {
@@ -25,6 +29,18 @@ constexpr auto plainBars = R"(
     QScrollBar::handle { background: #b8b8bc; border-radius: 4px; margin: 3px; min-width: 24px; min-height: 24px; }
     QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
     QScrollBar::add-page, QScrollBar::sub-page { background: none; })";
+
+/// Between two scrolls while the mouse is held outside.
+constexpr std::chrono::milliseconds scrollBeat{50};
+
+/// Where the bars meet, in their colour.
+QWidget* makeCorner()
+{
+    auto* const corner = new QWidget;
+    corner->setBackgroundRole(QPalette::Midlight);
+    corner->setAutoFillBackground(true);
+    return corner;
+}
 
 void setRange(QScrollBar& bar, int content, int page)
 {
@@ -49,7 +65,9 @@ LogView::LogView(QWidget* parent)
     viewport()->setCursor(Qt::IBeamCursor);
     for (QScrollBar* const bar : {horizontalScrollBar(), verticalScrollBar()}) {
         bar->setStyleSheet(QString::fromLatin1(plainBars));
+        seeLastLineAgain(*bar);
     }
+    setCornerWidget(makeCorner());
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
@@ -248,23 +266,59 @@ void LogView::keyPressEvent(QKeyEvent* event)
 
 void LogView::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton) {
-        const qsizetype character = characterAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    const qsizetype character = characterAt(event->position().toPoint());
+    if (isThirdPress(*event)) {
+        const std::size_t line = lines_->lineOf(character);
+        select({lines_->lineBegin(line), lines_->lineEnd(line)});
+    } else {
         const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
         select({extends ? selection_.anchor : character, character});
     }
 }
 
+bool LogView::isThirdPress(const QMouseEvent& press) const
+{
+    const QStyleHints& habits = *QGuiApplication::styleHints();
+    const QPoint moved = press.position().toPoint() - secondPressAt_;
+    return sinceSecondPress_.isValid() && !sinceSecondPress_.hasExpired(habits.mouseDoubleClickInterval())
+        && moved.manhattanLength() < habits.startDragDistance();
+}
+
 void LogView::mouseMoveEvent(QMouseEvent* event)
 {
     if (event->buttons().testFlag(Qt::LeftButton)) {
-        extendTo(characterAt(event->position().toPoint()));
+        dragTo(event->position().toPoint());
+    }
+}
+
+/// Outside, the text goes on scrolling for as long as the mouse is held there.
+void LogView::dragTo(const QPoint& point)
+{
+    draggedTo_ = point;
+    extendTo(characterAt(point));
+    if (viewport()->rect().contains(point)) {
+        dragging_.stop();
+    } else if (!dragging_.isActive()) {
+        dragging_.start(static_cast<int>(scrollBeat.count()), this);
+    }
+}
+
+void LogView::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == dragging_.timerId()) {
+        dragTo(draggedTo_);
+    } else {
+        QAbstractScrollArea::timerEvent(event);
     }
 }
 
 /// Where the desktop has a selection of its own, the middle button pastes it.
 void LogView::mouseReleaseEvent(QMouseEvent* event)
 {
+    dragging_.stop();
     QClipboard* const clipboard = QGuiApplication::clipboard();
     if (event->button() == Qt::LeftButton && selection_.begin() != selection_.end() && clipboard->supportsSelection()) {
         clipboard->setText(selectedText(), QClipboard::Selection);
@@ -276,6 +330,8 @@ void LogView::mouseDoubleClickEvent(QMouseEvent* event)
     const auto [begin, end]
         = lines_->stretchAround(characterAt(event->position().toPoint()), QTextBoundaryFinder::Word);
     select({begin, end});
+    secondPressAt_ = event->position().toPoint();
+    sinceSecondPress_.start();
 }
 
 void LogView::contextMenuEvent(QContextMenuEvent* event)

@@ -4,6 +4,9 @@
 #include "view/qt/LogText.h"
 
 #include <QAbstractScrollArea>
+#include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QPoint>
 
 #include <memory>
 
@@ -43,6 +46,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -54,6 +58,8 @@ private:
     void paintLine(QPainter& painter, std::size_t line, const QRectF& sight) const;
     std::size_t lineAt(double y) const;
     qsizetype characterAt(const QPoint& point) const;
+    bool isThirdPress(const QMouseEvent& press) const;
+    void dragTo(const QPoint& point);
     QString selectedText() const;
     void extendTo(qsizetype character);
     bool extendByKey(const QKeyEvent& key);
@@ -61,6 +67,10 @@ private:
 
     std::unique_ptr<LogText> lines_;
     Selection selection_;
+    QPoint secondPressAt_;
+    QElapsedTimer sinceSecondPress_;
+    QPoint draggedTo_;
+    QBasicTimer dragging_;
 };
 
 } // namespace corvellane::view

@@ -234,6 +234,12 @@ TEST_F(WindowWorld, selectsAndCopiesPartsOfALog)
     const QPoint inOne(standardPadding + 4, log->viewport()->height() / 2 - aboveTheMiddle);
     QTest::mouseDClick(log->viewport(), Qt::LeftButton, {}, inOne);
     EXPECT_EQ(typed({}), "one");
+    QTest::mouseClick(log->viewport(), Qt::LeftButton, {}, inOne);
+    EXPECT_EQ(typed({}), "one\ttwo");
+    QTest::mousePress(log->viewport(), Qt::LeftButton, {}, inOne + QPoint(40, 0));
+    QTest::mouseMove(log->viewport(), {log->viewport()->width() + 20, log->viewport()->height()});
+    const int scrolled = log->horizontalScrollBar()->value();
+    EXPECT_TRUE(WindowUser::wait([&] { return log->horizontalScrollBar()->value() > scrolled; })) << "held outside";
 }
 
 } // namespace
