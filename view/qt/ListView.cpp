@@ -187,8 +187,8 @@ bool RowDelegate::helpEvent(
         QToolTip::hideText();
         return false;
     }
-    const QString words = Qt::convertFromPlainText(model_.nameAt(index.row()), Qt::WhiteSpaceNormal);
-    QToolTip::showText(event->globalPos(), words, view, option.rect);
+    const QString lines = allLinesOf(model_.nameAt(index.row()), QToolTip::font(), option.rect.width());
+    QToolTip::showText(event->globalPos(), Qt::convertFromPlainText(lines), view, option.rect);
     return true;
 }
 

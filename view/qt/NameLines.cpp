@@ -53,4 +53,15 @@ NameLines linesOf(const QString& name, const QFont& font, int width)
     return {begin + '\n' + metrics.elidedText(inOneLine, Qt::ElideMiddle, width), false};
 }
 
+QString allLinesOf(const QString& name, const QFont& font, int width)
+{
+    QStringList lines;
+    for (QString rest = name; !rest.isEmpty();) {
+        const qsizetype first = firstLineOf(rest, font, width);
+        lines += withoutSpaceAtEnd(rest.left(first));
+        rest = rest.mid(first);
+    }
+    return lines.join('\n');
+}
+
 } // namespace corvellane::view

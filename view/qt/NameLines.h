@@ -18,4 +18,7 @@ struct NameLines {
 /// left out in the middle of the second line.
 NameLines linesOf(const QString& name, const QFont& font, int width);
 
+/// All of the name, in lines of `width` device-independent pixels that are broken in the same places.
+QString allLinesOf(const QString& name, const QFont& font, int width);
+
 } // namespace corvellane::view

@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QBuffer>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -118,6 +119,9 @@ TEST_F(WindowWorld, tellsNamesApartThatShareBeginningAndEnd)
         EXPECT_FALSE(lines.isWhole);
         EXPECT_EQ(lines.text.count('\n'), 1);
         EXPECT_LE(QFontMetrics(font).size(0, lines.text).width(), width);
+        QString whole = allLinesOf(longer, font, width);
+        EXPECT_LE(QFontMetrics(font).size(0, whole).width(), width) << "where all of it is told";
+        EXPECT_EQ(whole.remove(QRegularExpression("\\s")), QString(longer).remove(QRegularExpression("\\s")));
     }
 }
 
