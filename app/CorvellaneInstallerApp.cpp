@@ -14,6 +14,8 @@ namespace {
 
 constexpr int leastWidth = 648;
 constexpr int leastHeight = 405;
+/// What the title bar and the borders that desktops draw around a window take of the screen.
+constexpr QSize frame(16, 40);
 
 std::shared_ptr<AppSettings> filledSettings(const Platform& platform)
 {
@@ -58,7 +60,7 @@ CorvellaneInstallerApp::CorvellaneInstallerApp(const Platform& platform)
     contentView_.observe(*settings_, [this] { window_.scheduleRedraw(); });
     window_.setWindowTitle(QStringLiteral("Corvellane Plugin Installer"));
     const QSize opening = QSize(leastWidth, leastHeight) * view::textScale();
-    window_.resize(opening.boundedTo(window_.screen()->availableSize()));
+    window_.resize(opening.boundedTo(window_.screen()->availableSize() - frame));
 }
 
 view::View CorvellaneInstallerApp::body()

@@ -10,6 +10,7 @@
 #include <QFontDatabase>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -82,6 +83,19 @@ TEST_F(WindowWorld, givesCardsTheWindowUpToTheirSize)
     EXPECT_LE(cardOf(window()).height(), 400);
     EXPECT_EQ(window().size(), QSize(648, 405)) << "as small as before, under the tallest card";
     expectNothingCutOff(window(), "log");
+}
+
+TEST_F(WindowWorld, opensWithinTheScreenInLargeLetters)
+{
+    const QFont usual = QApplication::font();
+    QFont font = usual;
+    font.setPixelSize(30);
+    QApplication::setFont(font);
+    open(platform.services());
+    const QSize left = window().screen()->availableSize() - window().size();
+    EXPECT_GT(left.width(), 0) << "for the borders";
+    EXPECT_GE(left.height(), 30) << "for the title bar";
+    QApplication::setFont(usual);
 }
 
 TEST_F(WindowWorld, cutsNothingOffInLargeLetters)
