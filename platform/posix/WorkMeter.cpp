@@ -121,7 +121,6 @@ double WorkMeter::partKnown() const
 /// Weighs what has not been weighed yet, and looks how far the present copy has come.
 void WorkMeter::look(unsigned run)
 {
-    const auto begin = Clock::now();
     std::unique_lock lock(mutex_);
     std::vector<Work> works = works_;
     const std::size_t current = current_;
@@ -132,6 +131,7 @@ void WorkMeter::look(unsigned run)
             work.weight = weightOfACommand + bytesBelow(work.source, 0, run);
         }
     }
+    const auto begin = Clock::now(); // weighing is done once, and is followed by no pause of its own
     const double written = works.empty() ? 0 : bytesBelow(works[current].target, since, run);
     lock.lock();
     isLooking_ = false;
