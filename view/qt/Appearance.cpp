@@ -86,7 +86,9 @@ QPalette lightPalette()
     for (const auto& [role, color] : lightColors) {
         palette.setColor(QPalette::All, role, QColor::fromRgb(color));
     }
-    palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor::fromRgb(0xffa8a8ac));
+    for (const QPalette::ColorRole label : {QPalette::ButtonText, QPalette::Text}) {
+        palette.setColor(QPalette::Disabled, label, QColor::fromRgb(0xffa8a8ac));
+    }
     return palette;
 }
 

@@ -150,7 +150,7 @@ void LogView::paintLine(QPainter& painter, std::size_t line, const QRectF& sight
     if (begin < end) {
         const double left = lines_->leftOf(begin);
         const QRectF selected(left, top, lines_->leftOf(end) - left, lines_->lineHeight());
-        painter.fillRect(selected, colorOf(Tint::blue));
+        painter.fillRect(selected, palette().color(QPalette::Active, QPalette::Highlight));
         painter.save();
         painter.setClipRect(selected);
         drawText(Qt::white);
