@@ -11,8 +11,9 @@ namespace {
 
 constexpr Font plainFont{13, false};
 constexpr Font emphasisedFont{13, true};
-/// What stands alone in a card keeps off its edges.
+/// What has no padding of its own in a card keeps off its edges.
 constexpr Padding besideTheEdge{8, 0, 8, 0};
+constexpr Padding offTheEdges{8, 8, 8, 8};
 
 /// A card that takes the space the window offers up to its maximum, in points.
 View card(View content, Tint fill, int maximumWidth, int maximumHeight)
@@ -70,10 +71,10 @@ View automationPermissionCard(AppSettings& settings)
     return card(
         column(standardSpacing, Placement::centre,
             text("To make changes with Installer please allow Finder access from Settings", standardFont,
-                Placement::centre)
-                .withPadding(besideTheEdge),
+                Placement::centre),
             row(standardSpacing, button<&AppSettings::terminateApp>("Close", settings), std::move(openSettings)),
-            holding(Timer{1.0, Action<bool()>::calling<&probeAgain>(settings)})),
+            holding(Timer{1.0, Action<bool()>::calling<&probeAgain>(settings)}))
+            .withPadding(offTheEdges),
         Tint::white, 500, 150);
 }
 

@@ -19,13 +19,31 @@ namespace corvellane::view {
 namespace {
 
 /// The card in sight: the largest thing around its buttons that is narrower than the window.
-QRect cardOf(const QWidget& window)
+const QWidget& cardIn(const QWidget& window)
 {
     const QWidget* card = window.findChildren<QPushButton*>().last();
     while (card->parentWidget()->width() < window.width()) {
         card = card->parentWidget();
     }
-    return areaOf(*card);
+    return *card;
+}
+
+QRect cardOf(const QWidget& window)
+{
+    return areaOf(cardIn(window));
+}
+
+/// Every text and button of the card in sight keeps some distance from its edges.
+void expectClearEdges(const QWidget& window, const std::string& where)
+{
+    const QWidget& card = cardIn(window);
+    const QRect inside = areaOf(card).adjusted(8, 8, -8, -8);
+    for (const QWidget* const each : card.findChildren<QWidget*>()) {
+        const bool isWords
+            = qobject_cast<const QLabel*>(each) != nullptr || qobject_cast<const QPushButton*>(each) != nullptr;
+        EXPECT_TRUE(!isWords || !each->isVisible() || inside.contains(areaOf(*each)))
+            << where << each->accessibleName().toStdString();
+    }
 }
 
 /// Every text and button in sight, with the window's area that its parent leaves it, has the room it needs.
@@ -131,6 +149,7 @@ protected:
             settings().currentPage.set(flag == &settings().showLogDetailsWindow ? Page::summary : Page::install);
             show(*flag, true);
             expectNothingCutOff(window(), where);
+            expectClearEdges(window(), where);
             flag->set(false);
         }
     }
