@@ -5,7 +5,7 @@
 #include "view/qt/Appearance.h"
 #include "view/qt/Pictures.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -207,8 +207,10 @@ bool RowDelegate::editorEvent(
         return false;
     case QEvent::MouseButtonRelease:
         return std::exchange(pressedInside_, false) && isInside() && toggle();
-    case QEvent::KeyPress:
-        return static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space && toggle();
+    case QEvent::KeyPress: {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        return key->key() == Qt::Key_Space && !key->isAutoRepeat() && toggle();
+    }
     default:
         return false;
     }
@@ -257,6 +259,20 @@ void ListView::focusInEvent(QFocusEvent* event)
         }
     };
     QMetaObject::invokeMethod(this, tellRow, Qt::QueuedConnection);
+}
+
+void ListView::keyPressEvent(QKeyEvent* event)
+{
+    const bool isNaming = sinceLetter_.isValid() && !sinceLetter_.hasExpired(QApplication::keyboardInputInterval());
+    const bool isSpace = event->key() == Qt::Key_Space;
+    if (!event->text().trimmed().isEmpty() || (isSpace && isNaming)) {
+        sinceLetter_.start();
+    }
+    if (isSpace && isNaming) {
+        keyboardSearch(event->text());
+    } else {
+        QListView::keyPressEvent(event);
+    }
 }
 
 void ListView::present(const List& list)

@@ -4,6 +4,7 @@
 #include "view/qt/NameLines.h"
 
 #include <QAbstractListModel>
+#include <QElapsedTimer>
 #include <QListView>
 #include <QStyledItemDelegate>
 
@@ -76,12 +77,15 @@ public:
 protected:
     void dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) override;
     void focusInEvent(QFocusEvent* event) override;
+    /// A space within a name that is being typed belongs to the name, and ticks nothing.
+    void keyPressEvent(QKeyEvent* event) override;
     /// The second of two quick clicks is a click like the first.
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
 
 private:
     RowModel model_;
     RowDelegate delegate_;
+    QElapsedTimer sinceLetter_;
 };
 
 } // namespace corvellane::view

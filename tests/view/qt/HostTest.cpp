@@ -103,6 +103,26 @@ TEST_F(WindowWorld, togglesARowWhereItIs)
     EXPECT_TRUE(QAccessible::queryAccessibleInterface(list)->child(0)->state().checkable);
 }
 
+TEST_F(WindowWorld, ticksByTheSpaceBarUnlessANameIsTyped)
+{
+    goTo(Page::products);
+    QListView* const list = user().list();
+    list->setFocus();
+    const auto ticksOff = [&] {
+        settle();
+        return settings().products.get().locations()->size() - settings().products.get().ticked().size();
+    };
+    QTest::keyClicks(list, QStringLiteral("Product 12"));
+    EXPECT_EQ(list->currentIndex().data().toString(), QStringLiteral("Product 120"));
+    EXPECT_EQ(ticksOff(), 0U);
+    QTest::qWait(QApplication::keyboardInputInterval() + 1);
+    QTest::keyClick(list, Qt::Key_Space);
+    EXPECT_EQ(ticksOff(), 1U);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
+    QApplication::sendEvent(list, &held);
+    EXPECT_EQ(ticksOff(), 1U) << "one press, however long";
+}
+
 TEST_F(WindowWorld, tellsNamesApartThatShareBeginningAndEnd)
 {
     const QFont font = fontOf({14, false});
