@@ -123,7 +123,8 @@ std::optional<std::string> whyNotCopied(const std::string& source, Owner owner, 
             }
         }
     }
-    return std::nullopt;
+    // 0 at the end of the tree; where memory ran out before, what follows was not looked at.
+    return errno == 0 ? std::nullopt : std::optional(cannotBeRead(source, errno));
 }
 
 } // namespace corvellane::runner
