@@ -153,7 +153,7 @@ void FocusKeeper::settleAlert(const Mounted& root, const Mounted* modal)
     alert_ = modal != nullptr ? modal->standing.widget : nullptr;
     if (modal == nullptr) {
         enableBehind(root, nullptr);
-        return giveBack();
+        return giveBack(root);
     }
     if (!hadAlert) {
         behindAlert_ = before_;
@@ -168,10 +168,14 @@ void FocusKeeper::settleAlert(const Mounted& root, const Mounted* modal)
     QAccessible::updateAccessibility(&shown);
 }
 
-void FocusKeeper::giveBack()
+void FocusKeeper::giveBack(const Mounted& root)
 {
-    if (behindAlert_ != nullptr && behindAlert_->isVisible() && behindAlert_->isEnabled()) {
-        behindAlert_->setFocus(Qt::OtherFocusReason);
+    if (behindAlert_ == nullptr) {
+        return;
+    }
+    const bool isUsable = behindAlert_->isVisible() && behindAlert_->isEnabled();
+    if (QWidget* const next = isUsable ? behindAlert_.data() : firstFocusable(root)) {
+        next->setFocus(Qt::OtherFocusReason);
     }
     behindAlert_ = nullptr;
 }

@@ -10,8 +10,8 @@
 namespace corvellane::view {
 
 /// Sees to the keyboard focus: the Tab key follows the reading order; while an alert is shown nothing behind it can be
-/// used, the alert has the focus, and the focus goes back afterwards; texts that are new are announced as they ask for
-/// it.
+/// used, the alert has the focus, and the focus goes back afterwards, to the first view that can be used where the one
+/// that had it cannot; texts that are new are announced as they ask for it.
 class FocusKeeper {
 public:
     explicit FocusKeeper(QWidget& window)
@@ -43,7 +43,7 @@ private:
     void setTabOrder(const Mounted& root) const;
     void settleAlert(const Mounted& root, const Mounted* modal);
     void speak(const QString& words);
-    void giveBack();
+    void giveBack(const Mounted& root);
 
     QWidget& window_;
     QPointer<QWidget> before_;

@@ -73,6 +73,18 @@ TEST_F(WindowWorld, keepsTheFocusAndWhereItGoesBackToWhenAllIsMadeAnew)
     EXPECT_EQ(QApplication::focusWidget(), named("Go Back"));
 }
 
+TEST_F(WindowWorld, leavesTheFocusOnWhatCanBeUsedWhereTheNextPageHasNoProducts)
+{
+    settings().products.set({});
+    goTo(Page::license);
+    named("Next")->setFocus();
+    show(settings().showLicenseAlert, true);
+    settings().currentPage.set(Page::products);
+    show(settings().showLicenseAlert, false);
+    EXPECT_FALSE(named("Next")->isEnabled());
+    EXPECT_EQ(QApplication::focusWidget(), named("Go Back"));
+}
+
 TEST_F(WindowWorld, redrawsOnceForAnyNumberOfChanges)
 {
     settings().currentPage.set(Page::products);
