@@ -1,7 +1,6 @@
 #include "app/DesktopName.h"
 
-#include "platform/Files.h"
-#include "platform/Resources.h"
+#include "app/ResourceBytes.h"
 
 #include <QGuiApplication>
 
@@ -11,9 +10,7 @@ namespace {
 QString identifier(const Resources& resources, const Files& files)
 {
     constexpr std::size_t longest = 1024;
-    const auto path = resources.file("Identifier", "txt");
-    const auto text = path ? files.read(*path, longest) : Expected<std::string>("");
-    const QString name = QString::fromStdString(text.value_or("")).trimmed();
+    const QString name = QString::fromStdString(bytesOf(resources, files, "Identifier", "txt", longest)).trimmed();
     return name.isEmpty() ? QStringLiteral("com.corvellane.PluginInstaller") : name;
 }
 

@@ -1,7 +1,6 @@
 #include "app/WindowIcon.h"
 
-#include "platform/Files.h"
-#include "platform/Resources.h"
+#include "app/ResourceBytes.h"
 
 #include <QIcon>
 #include <QPainter>
@@ -15,18 +14,12 @@
 namespace corvellane {
 namespace {
 
-bool loadMakersOwn(QSvgRenderer& picture, const Resources& resources, const Files& files)
-{
-    constexpr std::size_t largest = 16 << 20;
-    const auto path = resources.file("Icon", "svg");
-    const auto bytes = path ? files.read(*path, largest) : Expected<std::string>("");
-    return bytes && !bytes->empty() && picture.load(QByteArray::fromStdString(*bytes));
-}
-
 QIcon iconOf(const Resources& resources, const Files& files)
 {
+    constexpr std::size_t largest = 16 << 20;
+    const std::string makersOwn = bytesOf(resources, files, "Icon", "svg", largest);
     QSvgRenderer picture;
-    if (!loadMakersOwn(picture, resources, files)) {
+    if (makersOwn.empty() || !picture.load(QByteArray::fromStdString(makersOwn))) {
         picture.load(QResource(QStringLiteral(":/com.corvellane.PluginInstaller.svg")).uncompressedData());
     }
     picture.setAspectRatioMode(Qt::KeepAspectRatio);

@@ -70,46 +70,29 @@ QPixmap symbolPicture(const std::string& name, const QColor& tint, const QSize& 
         resource, tint, size, devicePixelRatio, [&resource] { return QResource(resource).uncompressedData(); });
 }
 
-void FillArea::present(const Fill& fill)
-{
-    fill_ = fill;
-    update();
-}
-
 void FillArea::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.setOpacity(fill_.opacity);
-    painter.fillRect(rect(), colorOf(fill_.tint));
-}
-
-void SymbolPicture::present(const Symbol& symbol)
-{
-    symbol_ = symbol;
-    update();
+    painter.setOpacity(element().opacity);
+    painter.fillRect(rect(), colorOf(element().tint));
 }
 
 void SymbolPicture::paintEvent(QPaintEvent*)
 {
-    QPainter(this).drawPixmap(0, 0, symbolPicture(symbol_.name, colorOf(symbol_.tint), size(), devicePixelRatioF()));
-}
-
-void ImagePicture::present(const Image& image)
-{
-    image_ = image;
-    update();
+    QPainter(this).drawPixmap(
+        0, 0, symbolPicture(element().name, colorOf(element().tint), size(), devicePixelRatioF()));
 }
 
 void ImagePicture::paintEvent(QPaintEvent*)
 {
     std::string why;
     const auto bytes = [&] {
-        const Expected<ImageFile> file = images_.file(image_.name);
+        const Expected<ImageFile> file = images_.file(element().name);
         why = file ? "The file “" + file->name + "” is no picture." : file.error().message;
         return file ? QByteArray::fromStdString(file->bytes) : QByteArray();
     };
-    const QPixmap picture
-        = keptPicture(QString::fromStdString(image_.name), colorOf(image_.tint), size(), devicePixelRatioF(), bytes);
+    const QPixmap picture = keptPicture(
+        QString::fromStdString(element().name), colorOf(element().tint), size(), devicePixelRatioF(), bytes);
     QPainter painter(this);
     if (picture.isNull()) {
         return paintAlternative(painter, why);
@@ -120,7 +103,7 @@ void ImagePicture::paintEvent(QPaintEvent*)
 /// In the largest letters, from those of a title on, that fit.
 void ImagePicture::paintAlternative(QPainter& painter, const std::string& why)
 {
-    const QString words = QString::fromStdString(image_.alternative);
+    const QString words = QString::fromStdString(element().alternative);
     constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
     constexpr int smallest = 8;
     QFont font = fontOf({thirdTitleFont.size, true});
@@ -128,7 +111,7 @@ void ImagePicture::paintAlternative(QPainter& painter, const std::string& why)
         font.setPixelSize(font.pixelSize() - 1);
     }
     painter.setFont(font);
-    painter.setPen(colorOf(image_.tint));
+    painter.setPen(colorOf(element().tint));
     painter.drawText(rect(), flags, words);
     if (accessibleName() != words) {
         nameForAssistance(*this, words);

@@ -36,50 +36,54 @@ QPixmap tintedPicture(const QByteArray& bytes, const QColor& tint, const QSize& 
 /// drawn for the screen's own pixels. Drawn once and kept.
 QPixmap symbolPicture(const std::string& name, const QColor& tint, const QSize& size, double devicePixelRatio);
 
-/// The widget of a filled area.
-class FillArea : public QWidget {
+/// A widget that paints an element as it was last given.
+template <typename Element>
+class Painted : public QWidget {
 public:
-    explicit FillArea(QWidget* parent)
+    explicit Painted(QWidget* parent)
         : QWidget(parent)
     {
     }
 
-    void present(const Fill& fill);
+    void present(const Element& element)
+    {
+        element_ = element;
+        update();
+    }
+
+protected:
+    const Element& element() const { return element_; }
+
+private:
+    Element element_;
+};
+
+/// The widget of a filled area.
+class FillArea : public Painted<Fill> {
+public:
+    using Painted::Painted;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    Fill fill_;
 };
 
 /// The widget of a symbol; fills its frame.
-class SymbolPicture : public QWidget {
+class SymbolPicture : public Painted<Symbol> {
 public:
-    explicit SymbolPicture(QWidget* parent)
-        : QWidget(parent)
-    {
-    }
-
-    void present(const Symbol& symbol);
+    using Painted::Painted;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    Symbol symbol_;
 };
 
 /// The widget of an image of the resources, or of the words in its place; fills its frame.
-class ImagePicture : public QWidget {
+class ImagePicture : public Painted<Image> {
 public:
     ImagePicture(QWidget* parent, const Images& images)
-        : QWidget(parent)
+        : Painted(parent)
         , images_(images)
     {
     }
-
-    void present(const Image& image);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -88,7 +92,6 @@ private:
     void paintAlternative(QPainter& painter, const std::string& why);
 
     const Images& images_;
-    Image image_;
 };
 
 } // namespace corvellane::view
