@@ -2,6 +2,7 @@
 
 #include "view/View.h"
 #include "view/qt/FocusKeeper.h"
+#include "view/qt/HeldKeys.h"
 #include "view/qt/Mounted.h"
 #include "view/qt/Wait.h"
 #include "view/qt/Widgets.h"
@@ -57,6 +58,7 @@ private:
     void setLeastSize();
 
     std::function<View()> body_;
+    HeldKeys heldKeys_;
     Wait wait_;
     Widgets widgets_;
     FocusKeeper focus_{*this};

@@ -251,6 +251,27 @@ TEST_F(WindowWorld, pressesTheFocusedButtonWithReturnAndEnterOnce)
     EXPECT_EQ(settings().currentPage.get(), Page::products) << "there is no default button";
 }
 
+TEST_F(WindowWorld, takesAPressAtTheMomentOfTheReleaseForAKeyThatIsHeld)
+{
+    const auto send = [&](QEvent::Type type, Qt::Key key, quint64 moment) {
+        QKeyEvent event(type, key, Qt::NoModifier);
+        event.setTimestamp(moment);
+        QApplication::sendEvent(window().windowHandle(), &event);
+        settle();
+    };
+    named("Next")->setFocus();
+    send(QEvent::KeyPress, Qt::Key_Return, 1000);
+    EXPECT_EQ(settings().currentPage.get(), Page::license);
+    for (quint64 moment = 1500; moment < 1700; moment += 40) {
+        send(QEvent::KeyRelease, Qt::Key_Return, moment);
+        send(QEvent::KeyPress, Qt::Key_Return, moment);
+    }
+    EXPECT_FALSE(settings().showLicenseAlert.get());
+    send(QEvent::KeyRelease, Qt::Key_Return, 1710);
+    send(QEvent::KeyPress, Qt::Key_Return, 1711);
+    EXPECT_TRUE(settings().showLicenseAlert.get()) << "a key that is pressed again";
+}
+
 TEST_F(WindowWorld, showsNamesAndLogsAsTheyStand)
 {
     settings().products.set(ProductSelection({"/p/<b>Bold & Co"}));
