@@ -4,11 +4,13 @@
 #include "view/qt/Accessibility.h"
 #include "view/qt/Appearance.h"
 #include "view/qt/Pictures.h"
+#include "view/qt/ScrollBars.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTextDocument>
 #include <QToolTip>
@@ -228,6 +230,7 @@ ListView::ListView(QWidget* parent, const bool& deaf)
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    makePlain(*verticalScrollBar());
     setResizeMode(QListView::Adjust); // a name's lines depend on the width
     setTabKeyNavigation(false);
     setViewportMargins(0, aboveRows, 0, aboveRows);

@@ -21,15 +21,6 @@
 namespace corvellane::view {
 namespace {
 
-/// Bars for dragging, without arrows to step by.
-constexpr auto plainBars = R"(
-    QScrollBar { background: #f6f6f6; }
-    QScrollBar:vertical { width: 14px; }
-    QScrollBar:horizontal { height: 14px; }
-    QScrollBar::handle { background: #b8b8bc; border-radius: 4px; margin: 3px; min-width: 24px; min-height: 24px; }
-    QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
-    QScrollBar::add-page, QScrollBar::sub-page { background: none; })";
-
 /// Between two scrolls while the mouse is held outside.
 constexpr std::chrono::milliseconds scrollBeat{50};
 
@@ -64,7 +55,7 @@ LogView::LogView(QWidget* parent)
     setLayoutDirection(Qt::LeftToRight);
     viewport()->setCursor(Qt::IBeamCursor);
     for (QScrollBar* const bar : {horizontalScrollBar(), verticalScrollBar()}) {
-        bar->setStyleSheet(QString::fromLatin1(plainBars));
+        makePlain(*bar);
         seeLastLineAgain(*bar);
     }
     setCornerWidget(makeCorner());

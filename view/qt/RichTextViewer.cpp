@@ -28,6 +28,7 @@ public:
         setReadOnly(true);
         setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::LinksAccessibleByMouse);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        makePlain(*verticalScrollBar());
         seeLastLineAgain(*verticalScrollBar());
         setFrameShape(QFrame::NoFrame);
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
