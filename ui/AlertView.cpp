@@ -78,11 +78,11 @@ View automationPermissionCard(AppSettings& settings)
         Tint::white, 500, 150);
 }
 
-/// The failed installation's message, to be read and copied.
+/// The failed installation's message, to be read and copied; as wide as the card, which long labels may widen.
 View logDetailsCard(AppSettings& settings)
 {
     return card(column(5, Placement::leading, gap(5),
-                    holding(LogArea{"Details", settings.logDetailsStr}).withSize(500, 300), gap(),
+                    holding(LogArea{"Details", settings.logDetailsStr}).withFrame({500, {}, 300, 300}), gap(),
                     row(standardSpacing, button<&AppSettings::copyLogDetails>("Copy to Clipboard", settings), gap(),
                         button<&AppSettings::toggleLogDetails>("Close", settings))
                         .withPadding(onAllSides)),
