@@ -52,6 +52,18 @@ protected:
         }
     }
 
+    /// A link that is pressed is marked, though it opens nothing.
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        const bool hadSelection = textCursor().hasSelection();
+        QTextEdit::mouseReleaseEvent(event);
+        if (!hadSelection && textCursor().hasSelection()) {
+            QTextCursor unmarked = textCursor();
+            unmarked.clearSelection();
+            setTextCursor(unmarked);
+        }
+    }
+
     QMimeData* createMimeDataFromSelection() const override
     {
         QMimeData* const copied = QTextEdit::createMimeDataFromSelection();

@@ -139,6 +139,7 @@ TEST_F(RichTextViewer, opensNoLinkWhateverIsPressed)
     QTest::mouseClick(viewer_->viewport(), Qt::LeftButton, Qt::ControlModifier, link);
     QTest::keyClick(viewer_, Qt::Key_Return);
     EXPECT_EQ(browser.opened, QStringList());
+    EXPECT_FALSE(viewer_->textCursor().hasSelection()) << "nothing stays marked";
 }
 
 TEST_F(RichTextViewer, isDarkOnWhiteOnADarkDesktop)
