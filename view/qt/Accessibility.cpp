@@ -11,10 +11,12 @@
 #include <QAccessibleObject>
 #include <QAccessibleWidget>
 
+#include <algorithm>
+
 namespace corvellane::view {
 namespace {
 
-/// The log as a text of many lines that cannot be edited or selected from.
+/// The log as a text of many lines that cannot be edited.
 class AccessibleLog : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
     explicit AccessibleLog(LogView& log)
@@ -41,12 +43,20 @@ public:
     int characterCount() const override { return static_cast<int>(log_.wholeText().size()); }
     QString text(QAccessible::Text kind) const override { return QAccessibleWidget::text(kind); }
 
-    void selection(int, int* begin, int* end) const override { *begin = *end = 0; }
-    int selectionCount() const override { return 0; }
-    void addSelection(int, int) override { }
-    void removeSelection(int) override { }
-    void setSelection(int, int, int) override { }
-    int cursorPosition() const override { return 0; }
+    void selection(int, int* begin, int* end) const override
+    {
+        *begin = static_cast<int>(log_.selection().begin());
+        *end = static_cast<int>(log_.selection().end());
+    }
+    int selectionCount() const override { return log_.selection().begin() == log_.selection().end() ? 0 : 1; }
+    void addSelection(int begin, int end) override { setSelection(0, begin, end); }
+    void removeSelection(int) override { setSelection(0, 0, 0); }
+    void setSelection(int, int begin, int end) override
+    {
+        const int count = characterCount();
+        log_.select({std::clamp(begin, 0, count), std::clamp(end, 0, count)});
+    }
+    int cursorPosition() const override { return static_cast<int>(log_.selection().cursor); }
     void setCursorPosition(int) override { }
     QRect characterRect(int) const override { return rect(); }
     int offsetAtPoint(const QPoint&) const override { return -1; }
@@ -158,6 +168,12 @@ void tellFocus(QAbstractItemView& list, int row)
         QAccessibleEvent event(accessible, QAccessible::Focus);
         QAccessible::updateAccessibility(&event);
     }
+}
+
+void tellSelection(QWidget& text, int begin, int end)
+{
+    QAccessibleTextSelectionEvent event(&text, begin, end);
+    QAccessible::updateAccessibility(&event);
 }
 
 Announcer::Announcer(QWidget& window)

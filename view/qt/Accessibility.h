@@ -22,6 +22,9 @@ void tellTick(QAbstractItemView& list, int row);
 /// The row is the one that the keys act on.
 void tellFocus(QAbstractItemView& list, int row);
 
+/// The characters from `begin` to `end` of the text are selected now, or none where the two are the same.
+void tellSelection(QWidget& text, int begin, int end);
+
 /// Says words to those who do not see the window, and leaves the keyboard focus where it is. To assistive technology a
 /// notification that shows up in the window; every version of Qt can tell of those.
 class Announcer : public QObject {

@@ -165,6 +165,7 @@ void LogView::select(Selection selection)
 {
     selection_ = selection;
     viewport()->update();
+    tellSelection(*this, static_cast<int>(selection.begin()), static_cast<int>(selection.end()));
 }
 
 QString LogView::selectedText() const

@@ -283,6 +283,11 @@ TEST_F(WindowWorld, showsNamesAndLogsAsTheyStand)
     QWidget* const log = named<QAbstractScrollArea>("Details");
     EXPECT_EQ(log->size(), QSize(500, 300));
     EXPECT_EQ(QAccessible::queryAccessibleInterface(log)->textInterface()->text(0, 15), "<b>not bold</b>");
+    QTest::keyClick(log, Qt::Key_A, Qt::ControlModifier);
+    int begin = -1;
+    int end = -1;
+    QAccessible::queryAccessibleInterface(log)->textInterface()->selection(0, &begin, &end);
+    EXPECT_EQ(std::pair(begin, end), std::pair(0, static_cast<int>(settings().logDetailsStr->size())));
 }
 
 TEST_F(WindowWorld, probesWhileThePermissionIsAskedFor)
